@@ -1,0 +1,27 @@
+#pragma once
+// The application folder (what the old program called its own folder): Data/, CNC/, PDF/,
+// "Nářezové plány/", "Zálohy dat/", the language files. By default the per-user data location,
+// or the folder given by --home.
+#include <QString>
+
+namespace Aplikace {
+
+// Sets the folder for this process (empty: the per-user default). Call before anything else.
+void nastavDomov(const QString& slozka);
+QString domov();
+QString cesta(const QString& relativni); // a path inside the application folder
+
+QString dataS();   // Data/DataS.db
+QString cenik();   // Data/Cenik.db
+QString dataK();   // Data/DataK.db
+QString zamek();   // Data/.lock
+
+bool existuje();   // the folder holds Data/DataS.db and Data/Cenik.db
+// Creates the folder, its subfolders and the empty databases where they are missing; never
+// touches a database that exists. Throws Error (75, 3051, 3799).
+void zaloz();
+// At start: removes our own temporary files in Data/ and a DataK.db left by a crash (with its
+// journal files). Nothing else is touched.
+void uklid();
+
+}

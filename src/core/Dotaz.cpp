@@ -1,0 +1,77 @@
+#include "core/Dotaz.h"
+
+#include <QRegularExpression>
+
+namespace Dotaz {
+
+QString cislo(double hodnota)
+{
+    if (hodnota == 0)
+        return QStringLiteral("0"); // also -0, which "%.15g" would print with its sign
+    return QString::asprintf("%.15g", hodnota);
+}
+
+QString text(const QString& hodnota)
+{
+    QString s = hodnota;
+    return s.replace(QLatin1Char('\''), QLatin1String("''"));
+}
+
+// Applies f to each stretch of the text outside single-quoted literals.
+template <typename F>
+static QString mimoLiteraly(const QString& sql, F f)
+{
+    QString vysledek;
+    QString kus;
+    bool vLiteralu = false;
+    for (QChar c : sql) {
+        if (c == QLatin1Char('\'')) {
+            if (!vLiteralu) {
+                vysledek += f(kus);
+                kus.clear();
+            }
+            vLiteralu = !vLiteralu;
+            vysledek += c;
+            continue;
+        }
+        (vLiteralu ? vysledek : kus) += c;
+    }
+    return vysledek + f(kus);
+}
+
+static QString prelozSlova(QString kus)
+{
+    static const QRegularExpression pravda(QStringLiteral("\\bTrue\\b"),
+                                           QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression nepravda(QStringLiteral("\\bFalse\\b"),
+                                             QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression mazani(QStringLiteral("\\bDELETE\\s+\\*\\s+FROM\\b"),
+                                           QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression delka(QStringLiteral("\\blen\\s*\\("),
+                                          QRegularExpression::CaseInsensitiveOption);
+    kus.replace(pravda, QStringLiteral("-1"));
+    kus.replace(nepravda, QStringLiteral("0"));
+    kus.replace(mazani, QStringLiteral("DELETE FROM"));
+    kus.replace(delka, QStringLiteral("length("));
+    return kus;
+}
+
+QString preloz(const QString& jet, Razeni razeni)
+{
+    QString sql = mimoLiteraly(jet, prelozSlova).trimmed();
+    while (sql.endsWith(QLatin1Char(';')))
+        sql = sql.chopped(1).trimmed();
+    if (razeni == Razeni::PoradiRadku) {
+        bool maRazeni = false;
+        static const QRegularExpression orderBy(QStringLiteral("\\bORDER\\s+BY\\b"),
+                                                QRegularExpression::CaseInsensitiveOption);
+        mimoLiteraly(sql, [&](const QString& kus) {
+            maRazeni = maRazeni || kus.contains(orderBy);
+            return kus;
+        });
+        sql += maRazeni ? QStringLiteral(", rowid") : QStringLiteral(" ORDER BY rowid");
+    }
+    return sql;
+}
+
+}

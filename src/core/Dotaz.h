@@ -1,0 +1,23 @@
+#pragma once
+// Query texts as the system writes them, and the one translation that carries them to SQLite
+// with the old engine's meaning.
+#include <QString>
+
+namespace Dotaz {
+
+// A number spliced into a query: 15 significant digits, as the old platform printed a double.
+QString cislo(double hodnota);
+// Text spliced between single quotes: apostrophes doubled, so "Novák's" stays one literal.
+QString text(const QString& hodnota);
+
+enum class Razeni {
+    Zadne,       // the query is not a row list of one table (aggregates, joins): left alone
+    PoradiRadku  // rows of one table: equal rows come in the order they were added
+};
+
+// Rewrites the old engine's dialect: True/False as -1/0 (outside literals), "DELETE * FROM",
+// len(), a trailing ";". With Razeni::PoradiRadku the rowid becomes the last sort key, and a
+// query without ORDER BY is ordered by rowid.
+QString preloz(const QString& jet, Razeni razeni = Razeni::Zadne);
+
+}

@@ -1,0 +1,6 @@
+#include "core/Error.h"
+
+Error::Error(int cislo, const QString& text)
+    : std::runtime_error(text.toStdString()), m_cislo(cislo), m_text(text)
+{
+}

@@ -1,0 +1,28 @@
+#pragma once
+// The store's one exception type. It carries the error numbers of the old platform, so the
+// handlers that turn failures into messages keep their tables of numbers.
+#include <QString>
+#include <stdexcept>
+
+namespace Chyba {
+constexpr int NeplatnyVstup = 5;       // input refused by a rule of ours (a Czech message)
+constexpr int PristupKSouboru = 75;    // path or file access
+constexpr int JenProCteni = 3051;      // the file or its folder is read-only
+constexpr int ChybaDotazu = 3075;      // a query the store cannot run
+constexpr int TabulkaChybi = 3078;     // missing table, or a file that is not our database
+constexpr int ZaznamSmazan = 3167;     // the current row was deleted
+constexpr int DatabazePouzivana = 3356;// the store is held by another process
+constexpr int DiskPlny = 3799;         // disk full
+constexpr int Zruseno = 32755;         // a dialog was cancelled
+}
+
+class Error : public std::runtime_error {
+public:
+    Error(int cislo, const QString& text);
+    int cislo() const noexcept { return m_cislo; }
+    QString text() const { return m_text; }
+
+private:
+    int m_cislo;
+    QString m_text;
+};

@@ -1,0 +1,80 @@
+#include "core/Uloziste.h"
+
+#include "core/Aplikace.h"
+#include "core/Error.h"
+#include "core/SqliteChyba.h"
+
+#include <QDir>
+#include <QFile>
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
+Uloziste::Uloziste(bool zalozit)
+{
+    if (zalozit)
+        Aplikace::zaloz();
+    else if (!Aplikace::existuje())
+        throw Error(Chyba::PristupKSouboru,
+                    QStringLiteral("Složka programu %1 neobsahuje databáze. Založte ji příkazem init.")
+                        .arg(Aplikace::domov()));
+    m_zamek = ::open(QFile::encodeName(Aplikace::zamek()).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0644);
+    if (m_zamek < 0)
+        throw Error(SqliteChyba::cisloProErrno(errno),
+                    QStringLiteral("Soubor %1 nelze otevřít.").arg(Aplikace::zamek()));
+    if (::flock(m_zamek, LOCK_SH | LOCK_NB) != 0) {
+        ::close(m_zamek);
+        m_zamek = -1;
+        throw Error(Chyba::DatabazePouzivana,
+                    QStringLiteral("Databáze programu je používána jiným programem!"));
+    }
+    Aplikace::uklid();
+    otevriData();
+}
+
+Uloziste::~Uloziste()
+{
+    m_dataK.reset();
+    m_cenik.reset();
+    m_dataS.reset();
+    if (m_zamek >= 0)
+        ::close(m_zamek); // also gives up the lock
+}
+
+Database& Uloziste::dataK()
+{
+    if (!m_dataK)
+        throw Error(Chyba::TabulkaChybi, QStringLiteral("Pracovní databáze není otevřena."));
+    return *m_dataK;
+}
+
+void Uloziste::zavriDataK()
+{
+    m_dataK.reset();
+}
+
+void Uloziste::ObnovPracovniDatabazi()
+{
+    zavriDataK();
+    for (const char* pripona : {"", "-journal", "-wal", "-shm"}) {
+        const QString soubor = Aplikace::dataK() + QLatin1String(pripona);
+        if (QFile::exists(soubor) && !QFile::remove(soubor))
+            throw Error(Chyba::PristupKSouboru, QStringLiteral("Soubor %1 nelze odstranit.").arg(soubor));
+    }
+    m_dataS->vacuumInto(Aplikace::dataK());
+    m_dataK = std::make_unique<Database>(Aplikace::dataK(), Database::Rezim::Pracovni);
+}
+
+void Uloziste::zavriData()
+{
+    m_dataK.reset();
+    m_cenik.reset();
+    m_dataS.reset();
+}
+
+void Uloziste::otevriData()
+{
+    m_dataS = std::make_unique<Database>(Aplikace::dataS(), Database::Rezim::Data);
+    m_cenik = std::make_unique<Database>(Aplikace::cenik(), Database::Rezim::Data);
+}

@@ -1,0 +1,39 @@
+#pragma once
+// The open store of one process: dbDataS and dbCenik from start to end, and dbDataK, the
+// throw-away copy of DataS remade before every plan run and costing. While it is open the
+// process holds a shared lock on Data/.lock, so a restore can tell that the store is in use.
+#include "core/Database.h"
+
+#include <memory>
+
+class Uloziste {
+public:
+    // Opens the application folder's databases (creating the folder on first start when
+    // zalozit is set). Throws Error 75 (missing folder), 3078 (not our files), 3356 (a restore
+    // holds the store).
+    explicit Uloziste(bool zalozit = true);
+    ~Uloziste();
+    Uloziste(const Uloziste&) = delete;
+    Uloziste& operator=(const Uloziste&) = delete;
+
+    Database& dataS() { return *m_dataS; }
+    Database& cenik() { return *m_cenik; }
+    // The plan database; throws Error 3078 when it is not open.
+    Database& dataK();
+    bool maDataK() const { return bool(m_dataK); }
+
+    // Remakes DataK.db as a compacted copy of DataS.db and opens it.
+    // Throws Error (75 path or file access, 3356 in use, 3799 disk full, ...).
+    void ObnovPracovniDatabazi();
+    void zavriDataK();
+
+    // Closes and reopens DataS and Cenik (after a restore replaced the files).
+    void zavriData();
+    void otevriData();
+
+private:
+    std::unique_ptr<Database> m_dataS;
+    std::unique_ptr<Database> m_cenik;
+    std::unique_ptr<Database> m_dataK;
+    int m_zamek = -1;
+};

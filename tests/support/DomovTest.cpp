@@ -1,0 +1,33 @@
+#include "DomovTest.h"
+
+#include "core/Aplikace.h"
+#include "core/Razitko.h"
+
+#include <QDir>
+
+void DomovTest::SetUp()
+{
+    ASSERT_TRUE(m_dir.isValid());
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_dir.filePath(QStringLiteral("config"))));
+    Aplikace::nastavDomov(domov());
+    Razitko::nastavHodiny([] { return QDateTime(QDate(2026, 3, 5), QTime(10, 0)); });
+}
+
+void DomovTest::TearDown()
+{
+    m_uloziste.reset();
+    Razitko::nastavHodiny({});
+    Aplikace::nastavDomov({});
+}
+
+QString DomovTest::domov() const
+{
+    return m_dir.filePath(QStringLiteral("home"));
+}
+
+Uloziste& DomovTest::uloziste()
+{
+    if (!m_uloziste)
+        m_uloziste = std::make_unique<Uloziste>(true);
+    return *m_uloziste;
+}

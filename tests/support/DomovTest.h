@@ -1,0 +1,22 @@
+#pragma once
+// A fixture with its own application folder and settings file, thrown away afterwards, and a
+// fixed clock for stamps. domov() is the folder; uloziste() opens (and creates) the store.
+#include "core/Uloziste.h"
+
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+#include <memory>
+
+class DomovTest : public ::testing::Test {
+protected:
+    void SetUp() override;
+    void TearDown() override;
+
+    QString domov() const;
+    Uloziste& uloziste(); // opened on first use
+    void zavri() { m_uloziste.reset(); }
+
+private:
+    QTemporaryDir m_dir;
+    std::unique_ptr<Uloziste> m_uloziste;
+};
