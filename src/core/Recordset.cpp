@@ -5,6 +5,7 @@
 #include "core/Error.h"
 
 #include <QRegularExpression>
+#include <algorithm>
 
 namespace {
 
@@ -24,7 +25,7 @@ const QRegularExpression& vyberZTabulky()
 
 } // namespace
 
-Recordset::Recordset(Database& db, const QString& sqlNeboTabulka) : m_db(db)
+Recordset::Recordset(Database& db, const QString& sqlNeboTabulka, Rozsah rozsah) : m_db(&db)
 {
     QString sql;
     if (const auto m = holaTabulka().match(sqlNeboTabulka); m.hasMatch()) {
@@ -38,8 +39,10 @@ Recordset::Recordset(Database& db, const QString& sqlNeboTabulka) : m_db(db)
         throw Error(Chyba::ChybaDotazu,
                     QStringLiteral("Dotaz nečte řádky jedné tabulky: ") + sqlNeboTabulka);
     }
-    m_db.sloupce(m_tabulka); // a missing table fails here, as 3078
-    const auto p = m_db.prikaz(sql);
+    if (rozsah == Rozsah::Prvni)
+        sql += QStringLiteral(" LIMIT 1");
+    m_db->sloupce(m_tabulka); // a missing table fails here, as 3078
+    const auto p = m_db->prikaz(sql);
     while (p->krok())
         m_radky.push_back(p->sloupec(0).toLongLong());
     p->reset();
@@ -56,7 +59,7 @@ void Recordset::presun(int pozice)
 
 int Recordset::index(const QString& pole) const
 {
-    const int i = m_db.indexSloupce(m_tabulka, pole);
+    const int i = m_db->indexSloupce(m_tabulka, pole);
     if (i >= 0)
         return i;
     throw Error(Chyba::ChybaDotazu,
@@ -69,7 +72,7 @@ void Recordset::nacti() const
         return;
     if (eof() || m_smazane[m_pozice])
         throw Error(Chyba::ZaznamSmazan, QStringLiteral("Žádný aktuální záznam."));
-    const auto p = m_db.prikaz(QStringLiteral("SELECT * FROM %1 WHERE rowid = ?").arg(m_tabulka));
+    const auto p = m_db->prikaz(QStringLiteral("SELECT * FROM %1 WHERE rowid = ?").arg(m_tabulka));
     p->navaz(1, m_radky[m_pozice]);
     if (!p->krok()) {
         p->reset();
@@ -115,7 +118,7 @@ void Recordset::set(const QString& pole, const QVariant& hodnota)
 
 void Recordset::update()
 {
-    const QStringList& sloupce = m_db.sloupce(m_tabulka);
+    const QStringList& sloupce = m_db->sloupce(m_tabulka);
     QStringList nazvy;
     QVariantList hodnoty;
     for (auto it = m_zmeny.cbegin(); it != m_zmeny.cend(); ++it) {
@@ -138,7 +141,7 @@ void Recordset::update()
         throw Error(Chyba::ChybaDotazu, QStringLiteral("Update bez Edit nebo AddNew."));
     }
     if (!sql.isEmpty())
-        m_db.executeSqlite(sql, hodnoty);
+        m_db->executeSqlite(sql, hodnoty);
     m_zapis = Zapis::Nic;
     m_zmeny.clear();
     m_nacteno = false;
@@ -147,7 +150,7 @@ void Recordset::update()
 void Recordset::remove()
 {
     nacti();
-    m_db.executeSqlite(QStringLiteral("DELETE FROM %1 WHERE rowid = ?").arg(m_tabulka),
+    m_db->executeSqlite(QStringLiteral("DELETE FROM %1 WHERE rowid = ?").arg(m_tabulka),
                        {m_radky[m_pozice]});
     m_smazane[m_pozice] = true;
     m_nacteno = false;

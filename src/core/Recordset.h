@@ -12,9 +12,13 @@ class Database;
 
 class Recordset {
 public:
+    enum class Rozsah {
+        Vse,   // every row of the query
+        Prvni  // only the first row: for callers that look at no other (cheaper to open)
+    };
     // sqlNeboTabulka: "SELECT * FROM T ..." in the old dialect, or a table name.
     // Throws Error 3078 (missing table), 3075 (a query that is not a row list of one table).
-    Recordset(Database& db, const QString& sqlNeboTabulka);
+    Recordset(Database& db, const QString& sqlNeboTabulka, Rozsah rozsah = Rozsah::Vse);
 
     bool eof() const { return m_pozice >= int(m_radky.size()); }
     bool prazdny() const { return m_radky.empty(); }
@@ -36,13 +40,14 @@ public:
     void remove();                                    // delete the current row
 
     const QString& tabulka() const { return m_tabulka; }
+    qint64 rowid() const { return m_radky.at(m_pozice); } // the current row's identity
 
 private:
     void presun(int pozice);
     int index(const QString& pole) const;
     void nacti() const;
 
-    Database& m_db;
+    Database* m_db;
     QString m_tabulka;
     std::vector<qint64> m_radky;
     int m_pozice = 0;

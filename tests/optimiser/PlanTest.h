@@ -1,0 +1,31 @@
+#pragma once
+// A fixture for plan runs: an order written straight into DataS, the settings a case needs,
+// a run, and the working tables it leaves.
+#include "DomovTest.h"
+#include "SkriptovanyPrompt.h"
+#include "optimiser/PlanRun.h"
+
+#include <QJsonArray>
+#include <QJsonObject>
+
+struct DeskaTest {
+    QString oznaceni;
+    double x, y;
+    int pocet = 1;
+    bool ov = false;
+    QString sestava = QStringLiteral("S1");
+    int kusuSestavy = 1;
+};
+
+class PlanTest : public DomovTest {
+protected:
+    void SetUp() override;
+
+    // The order "Z" with one format (ID 5000001) of the given size in mm, and its boards.
+    void zakazka(double x, double y, bool ov, const std::vector<DeskaTest>& desky,
+                 const QString& nazev = QStringLiteral("Z"));
+    void nastav(const char* klic, const char* hodnota); // a key of Setting2
+    QJsonObject spust(ZpusobNP zpusob, int volba = 0, const QString& nazev = QStringLiteral("Z"));
+
+    SkriptovanyPrompt prompt;
+};
