@@ -108,7 +108,7 @@ bool Umisteni::sloucitKoncoveZbytky()
         std::set<qint64> videne{zaklad.rowid()};
         while (auto n = nad(xdp, sp + h + k)) {
             if (!videne.insert(n->rowid()).second) {
-                r.m_varovani = true;
+                r.m_smycka = true;
                 break;
             }
             sp = n->cislo(QStringLiteral("YDP"));
@@ -137,7 +137,7 @@ bool Umisteni::sloucitKoncoveZbytky()
     std::set<qint64> videne{blok->rowid()};
     while (auto n = nad(xdp, sp + h + k)) {
         if (!videne.insert(n->rowid()).second) {
-            r.m_varovani = true;
+            r.m_smycka = true;
             break;
         }
         const double sirka = n->cislo(QStringLiteral("XZP"));

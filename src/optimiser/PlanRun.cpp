@@ -19,6 +19,9 @@ const QString DeskyVetsiNezTabule =
     QStringLiteral("V zakázce máte desky, které jsou větší než je rozměr tabule \n"
                    "a proto je nelze usadit do nářezového plánu!!!\n"
                    "Tyto desky jsou vypsány ve - Výpisu plošného materiálu -");
+const QString SmyckaZbytku =
+    QStringLiteral("Při slučování koncových zbytků se narazilo na zbytek nulové výšky (šířka řezu 0).\n"
+                   "Slučování bylo v tom místě ukončeno; plán je dokončen, zkontrolujte jej.");
 constexpr int SkutecnychTabuli = 1000; // the fixed ceiling of full sheets in a run
 
 QString z(const QString& zakazka)
@@ -63,6 +66,7 @@ bool PlanRun::SpustNP(const QString& zakazka, double idFormatu, ZpusobNP zpusob,
     m_volbaNPDeska = volba;
     m_prerusit = false;
     m_varovani = false;
+    m_smycka = false;
     m_rezy.clear();
     m_s = Stav{};
     m_hodnotaPrubehu = 0;
@@ -80,6 +84,8 @@ bool PlanRun::SpustNP(const QString& zakazka, double idFormatu, ZpusobNP zpusob,
         return false;
     }
     ridic();
+    if (m_smycka)
+        m_prompt.zprava(SmyckaZbytku, QStringLiteral("Upozornění"), Prompt::Ikona::Vykricnik);
     if (vydej())
         return false;
     PrecislujTabule();

@@ -41,7 +41,8 @@ public:
 
     // After a run.
     const std::map<int, int>& RezyNaTabuli() const { return m_rezy; }
-    bool varovani() const { return m_varovani; } // sheets ran out, or a stack walk was cut
+    bool varovani() const { return m_varovani || m_smycka; } // sheets ran out, or a walk was cut
+    bool smycka() const { return m_smycka; } // a stack walk of end remnants met itself (kerf 0)
     bool preruseno() const { return m_prerusit; }
     const QString& AktualniZakazka() const { return m_zakazka; }
     double IDFormatuNP() const { return m_idFormatu; }
@@ -74,6 +75,7 @@ private:
     bool m_formatOV = false;
     bool m_prerusit = false;
     bool m_varovani = false;
+    bool m_smycka = false;
     double m_krokPrubehu = 0;
     double m_hodnotaPrubehu = 0;
 
