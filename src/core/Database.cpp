@@ -35,7 +35,8 @@ Database::Database(const QString& soubor, Rezim rezim) : m_soubor(soubor)
                     QStringLiteral("Soubor %1 neobsahuje platná data pro tento program.")
                         .arg(soubor));
     if (rezim == Rezim::Pracovni)
-        executeSqlite(QStringLiteral("PRAGMA journal_mode=OFF; PRAGMA synchronous=OFF"));
+        executeSqlite(QStringLiteral("PRAGMA journal_mode=OFF; PRAGMA synchronous=OFF; "
+                                     "PRAGMA locking_mode=EXCLUSIVE; PRAGMA temp_store=MEMORY"));
     else if (rezim == Rezim::Data)
         executeSqlite(QStringLiteral("PRAGMA journal_mode=DELETE; PRAGMA synchronous=FULL"));
 }

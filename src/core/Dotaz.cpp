@@ -74,4 +74,29 @@ QString preloz(const QString& jet, Razeni razeni)
     return sql;
 }
 
+SVazbami vazby(const QString& sql)
+{
+    static const QRegularExpression cislo(
+        QStringLiteral("(?<![\\w.])\\d+(\\.\\d+)?([eE][+-]?\\d+)?(?![\\w.])"));
+    SVazbami v;
+    v.sql = mimoLiteraly(sql, [&](const QString& kus) {
+        QString vysledek;
+        qsizetype od = 0;
+        for (auto it = cislo.globalMatch(kus); it.hasNext();) {
+            const auto m = it.next();
+            vysledek += QStringView(kus).mid(od, m.capturedStart() - od);
+            vysledek += QLatin1Char('?');
+            const QString t = m.captured(0);
+            if (t.contains(QLatin1Char('.')) || t.contains(QLatin1Char('e')) || t.contains(QLatin1Char('E')))
+                v.hodnoty << t.toDouble();
+            else
+                v.hodnoty << t.toLongLong();
+            od = m.capturedEnd();
+        }
+        vysledek += QStringView(kus).mid(od);
+        return vysledek;
+    });
+    return v;
+}
+
 }

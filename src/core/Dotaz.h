@@ -2,6 +2,7 @@
 // Query texts as the system writes them, and the one translation that carries them to SQLite
 // with the old engine's meaning.
 #include <QString>
+#include <QVariantList>
 
 namespace Dotaz {
 
@@ -19,5 +20,13 @@ enum class Razeni {
 // len(), a trailing ";". With Razeni::PoradiRadku the rowid becomes the last sort key, and a
 // query without ORDER BY is ordered by rowid.
 QString preloz(const QString& jet, Razeni razeni = Razeni::Zadne);
+
+// A translated query with its number literals (outside text literals) taken out as bound
+// values: texts that differ only in spliced numbers share one prepared statement.
+struct SVazbami {
+    QString sql;
+    QVariantList hodnoty;
+};
+SVazbami vazby(const QString& sql);
 
 }

@@ -42,7 +42,10 @@ Recordset::Recordset(Database& db, const QString& sqlNeboTabulka, Rozsah rozsah)
     if (rozsah == Rozsah::Prvni)
         sql += QStringLiteral(" LIMIT 1");
     m_db->sloupce(m_tabulka); // a missing table fails here, as 3078
-    const auto p = m_db->prikaz(sql);
+    const Dotaz::SVazbami dotaz = Dotaz::vazby(sql);
+    const auto p = m_db->prikaz(dotaz.sql);
+    for (int i = 0; i < dotaz.hodnoty.size(); ++i)
+        p->navaz(i + 1, dotaz.hodnoty[i]);
     while (p->krok())
         m_radky.push_back(p->sloupec(0).toLongLong());
     p->reset();
