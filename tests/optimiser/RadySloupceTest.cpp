@@ -127,3 +127,37 @@ TEST_P(RadySloupceTest, DeskaVetsiNezTabuleZustaneStranou)
     ASSERT_EQ(plan["SoupisTabuli"].toArray().size(), 1);
     EXPECT_EQ(radek(plan, "SoupisTabuli", 0)["NCT"].toInt(), 1);
 }
+
+// A grain format, a board that fits only turned. The row trial marks it as closing the sheet
+// and placing the last board; the column trial's turned test opens its real board by "y" twice
+// and finds it only for a square size, so nothing is marked there.
+TEST(ZrcadleniNeniPresne, OtocenyTestTabuleVeSloupcichJenProCtverec)
+{
+    struct Pripad : PlanTest {
+        void TestBody() override {}
+        QJsonObject beh(ZpusobNP z)
+        {
+            SetUp();
+            nastav("Srez", "0");
+            nastav("ZarovnaniFormatu", "0");
+            zakazka(1000, 500, true, {{"D", 400, 600}});
+            QJsonObject plan = spust(z);
+            TearDown();
+            return plan;
+        }
+    };
+    const QJsonObject rady = Pripad().beh(ZpusobNP::PodelneRezy);
+    const QJsonObject sloupce = Pripad().beh(ZpusobNP::PricneRezy);
+    const QJsonObject r = rady["SoupisDesek"].toArray()[0].toObject();
+    const QJsonObject s = sloupce["SoupisDesek"].toArray()[0].toObject();
+    EXPECT_EQ(r["PVT"].toInt(), -1);
+    EXPECT_EQ(r["PD"].toInt(), -1);
+    EXPECT_EQ(r["PlochaKZBOV"].toDouble(), 4000);
+    EXPECT_EQ(r["SumaKZBOV"].toDouble(), 26e6);
+    EXPECT_EQ(s["PVT"].toInt(), 0);
+    EXPECT_EQ(s["PD"].toInt(), 0);
+    EXPECT_EQ(s["PlochaKZBOVSLOUPEC"].toDouble(), 1000);
+    EXPECT_EQ(s["SumaKZBOVSloupec"].toDouble(), 26e6);
+    EXPECT_EQ(r["OTOC"].toInt(), -1);
+    EXPECT_EQ(s["OTOC"].toInt(), -1);
+}
