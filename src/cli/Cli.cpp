@@ -1,0 +1,134 @@
+#include "Cli.h"
+
+#include "Prikazy.h"
+#include "core/Aplikace.h"
+#include "core/Error.h"
+#include "core/Nastaveni.h"
+#include "core/Uloziste.h"
+
+#include <QFile>
+#include <memory>
+
+namespace Cli {
+namespace {
+
+std::unique_ptr<Uloziste> g_uloziste;
+
+const char* const TextPouziti =
+    "Použití: truhlar-cli [--home SLOŽKA] PŘÍKAZ ...\n"
+    "  init                          založí aplikační složku s prázdnými databázemi\n"
+    "  order-load SOUBOR.json        založí zakázku ze souboru JSON\n"
+    "  order-dump NÁZEV              vypíše zakázku jako JSON\n"
+    "  order-list                    zakázky v pořadí stromu, jedna na řádek\n"
+    "  settings get SEKCE KLÍČ       settings set SEKCE KLÍČ HODNOTA\n"
+    "  plan NÁZEV --format ID --mode kombinovane|podelne|pricne [--volba N] [--dump]\n"
+    "  offcuts-load SOUBOR.json      přidá odřezky do skladu\n";
+
+struct Prikaz {
+    const char* nazev;
+    int (*funkce)(const QStringList&);
+};
+
+const Prikaz prikazy[] = {
+    {"init", prikazInit},           {"order-load", prikazOrderLoad},     {"order-dump", prikazOrderDump},
+    {"order-list", prikazOrderList}, {"settings", prikazSettings},        {"plan", prikazPlan},
+    {"offcuts-load", prikazOffcutsLoad},
+};
+
+} // namespace
+
+QTextStream& out()
+{
+    static QTextStream s(stdout);
+    return s;
+}
+
+QTextStream& err()
+{
+    static QTextStream s(stderr);
+    return s;
+}
+
+CliPrompt& prompt()
+{
+    static CliPrompt p;
+    return p;
+}
+
+Prompt::Odpoved CliPrompt::zprava(const QString& text, const QString& titulek, Ikona, Tlacitka tlacitka)
+{
+    err() << (titulek.isEmpty() ? QString() : titulek + QStringLiteral(": ")) << text << Qt::endl;
+    return tlacitka == Tlacitka::Ok || tlacitka == Tlacitka::OkStorno ? Odpoved::Ok : Odpoved::Ano;
+}
+
+QString CliPrompt::vstup(const QString&, const QString&, const QString& vychozi)
+{
+    return vychozi;
+}
+
+QString CliPrompt::soubor(bool, const QString&, const QString&, const QString&, const QString&)
+{
+    throw Error(Chyba::Zruseno, QStringLiteral("Na příkazové řádce se soubor nevybírá."));
+}
+
+Uloziste& uloziste()
+{
+    if (!g_uloziste)
+        g_uloziste = std::make_unique<Uloziste>(false);
+    return *g_uloziste;
+}
+
+QByteArray nactiSoubor(const QString& cesta)
+{
+    QFile f(cesta);
+    if (!f.open(QIODevice::ReadOnly))
+        throw Error(Chyba::PristupKSouboru, QStringLiteral("Soubor %1 nelze přečíst: %2").arg(cesta, f.errorString()));
+    return f.readAll();
+}
+
+QString vezmiVolbu(QStringList& argumenty, const QString& nazev)
+{
+    const int i = argumenty.indexOf(nazev);
+    if (i < 0)
+        return QString();
+    if (i + 1 >= argumenty.size())
+        throw ChybaPouziti(QStringLiteral("Volba %1 potřebuje hodnotu.").arg(nazev));
+    const QString hodnota = argumenty.at(i + 1);
+    argumenty.remove(i, 2);
+    return hodnota;
+}
+
+bool vezmiPrepinac(QStringList& argumenty, const QString& nazev)
+{
+    return argumenty.removeAll(nazev) > 0;
+}
+
+int spust(QStringList argumenty)
+{
+    int kod = Hotovo;
+    try {
+        Aplikace::nastavDomov(vezmiVolbu(argumenty, QStringLiteral("--home")));
+        if (argumenty.isEmpty())
+            throw ChybaPouziti(QStringLiteral("Chybí příkaz."));
+        const QString nazev = argumenty.takeFirst();
+        const auto prikaz = std::find_if(std::begin(prikazy), std::end(prikazy),
+                                         [&](const Prikaz& p) { return nazev == QLatin1String(p.nazev); });
+        if (prikaz == std::end(prikazy))
+            throw ChybaPouziti(QStringLiteral("Neznámý příkaz: %1").arg(nazev));
+        if (Nastaveni::jeZmenaVerze())
+            Nastaveni::ZapisVychoziNastaveni(1000, 1000, 6500, 6500);
+        kod = prikaz->funkce(argumenty);
+    } catch (const ChybaPouziti& e) {
+        err() << e.text() << '\n' << QString::fromUtf8(TextPouziti);
+        kod = Kod::Pouziti;
+    } catch (const Error& e) {
+        err() << e.text() << Qt::endl;
+        kod = e.cislo() == Chyba::NeplatnyVstup ? Odmitnuto : ChybaUloziste;
+    }
+    out().flush();
+    err().flush();
+    g_uloziste.reset();
+    return kod;
+}
+
+}

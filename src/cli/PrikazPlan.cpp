@@ -1,0 +1,103 @@
+// plan: one plan run of one format of an order, with its summary or its working tables.
+#include "Cli.h"
+#include "Prikazy.h"
+
+#include "core/Dotaz.h"
+#include "core/Error.h"
+#include "core/Recordset.h"
+#include "core/Uloziste.h"
+#include "optimiser/PlanRun.h"
+#include "optimiser/VypisNP.h"
+
+#include <QJsonDocument>
+
+namespace {
+
+ZpusobNP zpusob(const QString& text)
+{
+    if (text == QLatin1String("podelne"))
+        return ZpusobNP::PodelneRezy;
+    if (text == QLatin1String("pricne"))
+        return ZpusobNP::PricneRezy;
+    if (text == QLatin1String("kombinovane"))
+        return ZpusobNP::Kombinovane;
+    throw Cli::ChybaPouziti(QStringLiteral("Neznámý režim řezání: %1 (kombinovane, podelne, pricne)").arg(text));
+}
+
+double cislo(const QString& text, const char* volba)
+{
+    bool ok = false;
+    const double d = text.toDouble(&ok);
+    if (!ok)
+        throw Cli::ChybaPouziti(QStringLiteral("Volba %1 potřebuje číslo.").arg(QLatin1String(volba)));
+    return d;
+}
+
+// The slider of further plan variants runs from 0 to the count of the format's board rows.
+int pocetVariant(Database& dataS, const QString& zakazka, double idFormatu)
+{
+    Recordset rs(dataS, QStringLiteral("SELECT * FROM Zakazky WHERE Zakazka = '") + Dotaz::text(zakazka) +
+                            QStringLiteral("' and IDFormat =") + Dotaz::cislo(idFormatu) +
+                            QStringLiteral(" ORDER BY Oznaceni"));
+    return rs.recordCount();
+}
+
+// The messages of a failed remaking of the plan database.
+Error chybaPracovniDatabaze(const Error& e)
+{
+    if (e.cislo() == Chyba::PristupKSouboru)
+        return Error(e.cislo(), QStringLiteral("Porucha databáze - restartujte PC!"));
+    return Error(e.cislo(), QStringLiteral("Databáze programu je používána jiným programem!\r"
+                                           "Ukončete toto používání!!!"));
+}
+
+} // namespace
+
+int prikazPlan(const QStringList& vstup)
+{
+    QStringList argumenty = vstup;
+    const QString format = Cli::vezmiVolbu(argumenty, QStringLiteral("--format"));
+    const QString rezim = Cli::vezmiVolbu(argumenty, QStringLiteral("--mode"));
+    const QString volba = Cli::vezmiVolbu(argumenty, QStringLiteral("--volba"));
+    const bool dump = Cli::vezmiPrepinac(argumenty, QStringLiteral("--dump"));
+    for (const char* pozdeji : {"--pdf", "--labels-pdf", "--vpf"})
+        if (!Cli::vezmiVolbu(argumenty, QLatin1String(pozdeji)).isNull())
+            throw Cli::ChybaPouziti(QStringLiteral("Volba %1 zatím není k dispozici.").arg(QLatin1String(pozdeji)));
+    if (Cli::vezmiPrepinac(argumenty, QStringLiteral("--write-back")))
+        throw Cli::ChybaPouziti(QStringLiteral("Volba --write-back zatím není k dispozici."));
+    if (argumenty.size() != 1 || format.isNull() || rezim.isNull())
+        throw Cli::ChybaPouziti(QStringLiteral("plan NÁZEV --format ID --mode kombinovane|podelne|pricne"));
+    const QString zakazka = argumenty[0];
+    const double idFormatu = cislo(format, "--format");
+    const ZpusobNP z = zpusob(rezim);
+
+    Uloziste& u = Cli::uloziste();
+    if (Recordset(u.dataS(), QStringLiteral("SELECT * FROM Zakazky WHERE Zakazka = '") + Dotaz::text(zakazka) +
+                                 QStringLiteral("'"),
+                  Recordset::Rozsah::Prvni)
+            .prazdny())
+        throw Error(Chyba::NeplatnyVstup, QStringLiteral("Zakázka „%1“ neexistuje.").arg(zakazka));
+    const auto formaty = PlanRun::formatySDeskami(u.dataS(), zakazka);
+    if (std::none_of(formaty.begin(), formaty.end(), [&](const FormatNP& f) { return f.ID == idFormatu; }))
+        throw Error(Chyba::NeplatnyVstup, QStringLiteral("V zakázce není co nařezat!!!!!"));
+    const int varianty = pocetVariant(u.dataS(), zakazka, idFormatu);
+    const int v = volba.isNull() ? 0 : int(cislo(volba, "--volba"));
+    if (v < 0 || v > varianty)
+        throw Error(Chyba::NeplatnyVstup, QStringLiteral("Volba --volba může být 0 až %1.").arg(varianty));
+
+    TichyPrubeh prubeh;
+    PlanRun run(u, Cli::prompt(), prubeh);
+    try {
+        run.SpustNP(zakazka, idFormatu, z, v);
+    } catch (const Error& e) {
+        if (!u.maDataK())
+            throw chybaPracovniDatabaze(e);
+        throw;
+    }
+    if (dump)
+        Cli::out() << QString::fromUtf8(QJsonDocument(VypisNP(u.dataK(), run)).toJson(QJsonDocument::Compact)) << '\n';
+    else
+        Cli::out() << SouhrnNP(u.dataK(), run);
+    u.zavriDataK();
+    return Cli::Hotovo;
+}

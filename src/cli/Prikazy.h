@@ -1,0 +1,11 @@
+#pragma once
+// The commands of truhlar-cli; each takes the words after its name and returns the exit code.
+#include <QStringList>
+
+int prikazInit(const QStringList& argumenty);
+int prikazOrderLoad(const QStringList& argumenty);
+int prikazOrderDump(const QStringList& argumenty);
+int prikazOrderList(const QStringList& argumenty);
+int prikazSettings(const QStringList& argumenty);
+int prikazOffcutsLoad(const QStringList& argumenty);
+int prikazPlan(const QStringList& argumenty);

@@ -1,0 +1,436 @@
+#include "exchange/ZakazkaJson.h"
+
+#include "core/Database.h"
+#include "core/Dotaz.h"
+#include "core/Error.h"
+#include "core/Kolace.h"
+#include "core/Razitko.h"
+#include "core/Recordset.h"
+#include "core/Transakce.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QSet>
+#include <cmath>
+#include <map>
+#include <set>
+
+namespace ZakazkaJson {
+namespace {
+
+constexpr int MaxNazevZakazky = 50;
+constexpr double MaxRozmer = 100000;
+
+[[noreturn]] void odmitni(const QString& text)
+{
+    throw Error(Chyba::NeplatnyVstup, text);
+}
+
+// Reading with the place of the fault in every message.
+class Cteni {
+public:
+    Cteni(const QJsonObject& o, QString kde) : m_o(o), m_kde(std::move(kde)) {}
+
+    QString text(const char* klic, bool povinny) const
+    {
+        const QJsonValue v = m_o.value(QLatin1String(klic));
+        if (v.isUndefined() || v.isNull()) {
+            if (povinny)
+                odmitni(QStringLiteral("%1: chybí údaj „%2“.").arg(m_kde, QLatin1String(klic)));
+            return QString();
+        }
+        if (!v.isString())
+            odmitni(QStringLiteral("%1: údaj „%2“ musí být text.").arg(m_kde, QLatin1String(klic)));
+        const QString t = v.toString().trimmed();
+        if (povinny && t.isEmpty())
+            odmitni(QStringLiteral("%1: údaj „%2“ nesmí být prázdný.").arg(m_kde, QLatin1String(klic)));
+        return t;
+    }
+
+    double cislo(const char* klic, double od, double doHodnoty, bool povinny, double vychozi = 0) const
+    {
+        const QJsonValue v = m_o.value(QLatin1String(klic));
+        if (v.isUndefined() || v.isNull()) {
+            if (povinny)
+                odmitni(QStringLiteral("%1: chybí údaj „%2“.").arg(m_kde, QLatin1String(klic)));
+            return vychozi;
+        }
+        if (!v.isDouble() || !std::isfinite(v.toDouble()))
+            odmitni(QStringLiteral("%1: údaj „%2“ musí být číslo.").arg(m_kde, QLatin1String(klic)));
+        const double d = v.toDouble();
+        if (d < od || d > doHodnoty)
+            odmitni(QStringLiteral("%1: údaj „%2“ = %3 je mimo povolený rozsah %4 až %5.")
+                        .arg(m_kde, QLatin1String(klic))
+                        .arg(d)
+                        .arg(od)
+                        .arg(doHodnoty));
+        return d;
+    }
+
+    bool ano(const char* klic) const
+    {
+        const QJsonValue v = m_o.value(QLatin1String(klic));
+        if (v.isUndefined() || v.isNull())
+            return false;
+        if (!v.isBool())
+            odmitni(QStringLiteral("%1: údaj „%2“ musí být true nebo false.").arg(m_kde, QLatin1String(klic)));
+        return v.toBool();
+    }
+
+    QJsonArray pole(const char* klic) const
+    {
+        const QJsonValue v = m_o.value(QLatin1String(klic));
+        if (v.isUndefined() || v.isNull())
+            return {};
+        if (!v.isArray())
+            odmitni(QStringLiteral("%1: údaj „%2“ musí být seznam.").arg(m_kde, QLatin1String(klic)));
+        return v.toArray();
+    }
+
+    const QString& kde() const { return m_kde; }
+
+private:
+    QJsonObject m_o;
+    QString m_kde;
+};
+
+QJsonObject objekt(const QJsonValue& v, const QString& kde)
+{
+    if (!v.isObject())
+        odmitni(QStringLiteral("%1: položka musí být objekt.").arg(kde));
+    return v.toObject();
+}
+
+struct Material {
+    double id;
+    QString nazev;
+    bool hrana;
+    double x = 0, y = 0, cena = 0, presah = 0;
+    bool ov = false;
+    qint64 barva = 0;
+};
+
+struct Polozka { // a board (format > 1) or an accessory (format 1)
+    QString oznaceni;
+    double format = 1;
+    double x = 0, y = 0, pocet = 0, cena = 0;
+    bool ov = false;
+    double hrany[4] = {0, 0, 0, 0};
+    QString jednotka;
+};
+
+struct Sestava {
+    QString nazev, popis;
+    double pocet = 1;
+    qint64 schema = 0;
+    std::vector<Polozka> polozky{};
+};
+
+struct Zakazka {
+    QString nazev, poznamka;
+    std::vector<Material> materialy{};
+    std::vector<Sestava> sestavy{};
+};
+
+bool stejneJmeno(const QString& a, const QString& b)
+{
+    return Kolace::porovnej(a, b) == 0;
+}
+
+std::vector<Material> ctiMaterialy(const Cteni& z, bool hrany, std::set<double>& idy)
+{
+    std::vector<Material> vysledek;
+    const QJsonArray pole = z.pole(hrany ? "hrany" : "formaty");
+    for (int i = 0; i < pole.size(); ++i) {
+        const Cteni m(objekt(pole[i], z.kde()), QStringLiteral("%1 č. %2").arg(hrany ? QStringLiteral("Hrana") : QStringLiteral("Formát")).arg(i + 1));
+        Material mat{m.cislo("id", 2, 1e12, false, 0), m.text("material", true), hrany};
+        if (mat.id != 0 && !idy.insert(mat.id).second)
+            odmitni(QStringLiteral("%1: číslo materiálu %2 je v zakázce dvakrát.").arg(m.kde()).arg(mat.id, 0, 'f', 0));
+        mat.cena = m.cislo("cena", 0, 1e9, false);
+        if (hrany) {
+            mat.barva = qint64(m.cislo("barva", 0, 0xFFFFFF, false));
+            mat.presah = m.cislo("presah", 0, 1000, false);
+        } else {
+            mat.x = m.cislo("x", 0.1, MaxRozmer, true);
+            mat.y = m.cislo("y", 0.1, MaxRozmer, true);
+            mat.ov = m.ano("ov");
+        }
+        vysledek.push_back(mat);
+    }
+    return vysledek;
+}
+
+Polozka ctiDesku(const Cteni& d, const std::vector<Material>& materialy)
+{
+    Polozka p;
+    p.oznaceni = d.text("oznaceni", true);
+    p.x = d.cislo("x", 0.1, MaxRozmer, true);
+    p.y = d.cislo("y", 0.1, MaxRozmer, true);
+    p.pocet = d.cislo("pocet", 1, MaxRozmer, true);
+    if (p.pocet != std::trunc(p.pocet))
+        odmitni(QStringLiteral("%1: počet desek musí být celé číslo.").arg(d.kde()));
+    p.format = d.cislo("format", 2, 1e12, true);
+    p.ov = d.ano("ov");
+    auto najdi = [&](double id, bool hrana) {
+        return std::any_of(materialy.begin(), materialy.end(),
+                           [&](const Material& m) { return m.id == id && m.hrana == hrana; });
+    };
+    if (!najdi(p.format, false))
+        odmitni(QStringLiteral("%1: formát č. %2 v zakázce není.").arg(d.kde()).arg(p.format, 0, 'f', 0));
+    const QJsonArray hrany = d.pole("hrany");
+    if (!hrany.isEmpty() && hrany.size() != 4)
+        odmitni(QStringLiteral("%1: hrany se zadávají čtyři (X1, X2, Y1, Y2).").arg(d.kde()));
+    for (int i = 0; i < hrany.size(); ++i) {
+        if (!hrany[i].isDouble())
+            odmitni(QStringLiteral("%1: hrana musí být číslo.").arg(d.kde()));
+        p.hrany[i] = hrany[i].toDouble();
+        if (p.hrany[i] != 0 && !najdi(p.hrany[i], true))
+            odmitni(QStringLiteral("%1: hrana č. %2 v zakázce není.").arg(d.kde()).arg(p.hrany[i], 0, 'f', 0));
+    }
+    return p;
+}
+
+Zakazka cti(const QByteArray& json)
+{
+    QJsonParseError chyba;
+    const QJsonDocument doc = QJsonDocument::fromJson(json, &chyba);
+    if (chyba.error != QJsonParseError::NoError)
+        odmitni(QStringLiteral("Soubor není platný JSON: %1 (znak %2).").arg(chyba.errorString()).arg(chyba.offset));
+    if (!doc.isObject())
+        odmitni(QStringLiteral("Soubor musí obsahovat jednu zakázku (objekt JSON)."));
+    const Cteni z(doc.object(), QStringLiteral("Zakázka"));
+    Zakazka zakazka{z.text("zakazka", true), z.text("poznamka", false)};
+    if (zakazka.nazev.size() > MaxNazevZakazky)
+        odmitni(QStringLiteral("Název zakázky může mít nejvýše %1 znaků.").arg(MaxNazevZakazky));
+    std::set<double> idy;
+    zakazka.materialy = ctiMaterialy(z, false, idy);
+    for (Material& h : ctiMaterialy(z, true, idy))
+        zakazka.materialy.push_back(h);
+    const QJsonArray sestavy = z.pole("sestavy");
+    for (int i = 0; i < sestavy.size(); ++i) {
+        const Cteni s(objekt(sestavy[i], z.kde()), QStringLiteral("Sestava č. %1").arg(i + 1));
+        Sestava sestava{s.text("nazev", true), s.text("popis", false), s.cislo("pocet", 1, MaxRozmer, false, 1),
+                        qint64(s.cislo("schema", 0, 1e9, false))};
+        for (const Sestava& jina : zakazka.sestavy)
+            if (stejneJmeno(jina.nazev, sestava.nazev))
+                odmitni(QStringLiteral("Sestava pod tímhle názvem již existuje, zadejte jiný nazev !!! (%1)").arg(sestava.nazev));
+        const QJsonArray desky = s.pole("desky");
+        for (int j = 0; j < desky.size(); ++j)
+            sestava.polozky.push_back(ctiDesku(
+                Cteni(objekt(desky[j], s.kde()), QStringLiteral("%1 (%2), deska č. %3").arg(s.kde(), sestava.nazev).arg(j + 1)),
+                zakazka.materialy));
+        const QJsonArray prislusenstvi = s.pole("prislusenstvi");
+        for (int j = 0; j < prislusenstvi.size(); ++j) {
+            const Cteni p(objekt(prislusenstvi[j], s.kde()),
+                          QStringLiteral("%1 (%2), příslušenství č. %3").arg(s.kde(), sestava.nazev).arg(j + 1));
+            Polozka pr;
+            pr.oznaceni = p.text("oznaceni", true);
+            pr.pocet = p.cislo("mnozstvi", 0, 1e9, true);
+            pr.jednotka = p.text("jednotka", false);
+            pr.cena = p.cislo("cena", 0, 1e9, false);
+            sestava.polozky.push_back(pr);
+        }
+        zakazka.sestavy.push_back(sestava);
+    }
+    return zakazka;
+}
+
+void zapisMaterialy(Database& db, Zakazka& z)
+{
+    std::set<double> obsazene;
+    for (const Material& m : z.materialy)
+        obsazene.insert(m.id);
+    Recordset rs(db, QStringLiteral("ZakazkyMaterialy"), Recordset::Rozsah::Prvni);
+    for (Material& m : z.materialy) {
+        if (m.id == 0) {
+            m.id = Razitko::volne([&](double s) { return obsazene.count(s) > 0; });
+            obsazene.insert(m.id);
+        }
+        rs.addNew();
+        rs.set(QStringLiteral("ID"), m.id);
+        rs.set(QStringLiteral("Zakazka"), z.nazev);
+        rs.set(QStringLiteral("Material"), m.nazev);
+        rs.set(QStringLiteral("pouziti"), m.hrana ? QStringLiteral("hrana") : QStringLiteral("format"));
+        rs.set(QStringLiteral("CenaBezDPH"), m.cena);
+        if (m.hrana) {
+            rs.set(QStringLiteral("BarvaVNP"), m.barva);
+            rs.set(QStringLiteral("PresahHrany"), m.presah);
+        } else {
+            rs.set(QStringLiteral("RozmerX"), m.x);
+            rs.set(QStringLiteral("RozmerY"), m.y);
+            rs.set(QStringLiteral("OV"), m.ov);
+        }
+        rs.update();
+    }
+}
+
+void zapisRadky(Database& db, const Zakazka& z)
+{
+    const double datum = Razitko::den(Razitko::ted());
+    double cas = Razitko::sekundy(Razitko::ted());
+    Recordset rs(db, QStringLiteral("Zakazky"), Recordset::Rozsah::Prvni);
+    auto hlavicka = [&](const Sestava* s) {
+        rs.addNew();
+        rs.set(QStringLiteral("Zakazka"), z.nazev);
+        rs.set(QStringLiteral("Poznamka"), z.poznamka);
+        rs.set(QStringLiteral("datum"), datum);
+        rs.set(QStringLiteral("Sestava"), s ? s->nazev : QString());
+        rs.set(QStringLiteral("Oznaceni"), QString());
+        if (s) {
+            rs.set(QStringLiteral("popis"), s->popis);
+            rs.set(QStringLiteral("pocetelementuVsestave"), s->pocet);
+            rs.set(QStringLiteral("schema"), s->schema);
+        }
+    };
+    if (z.sestavy.empty()) {
+        hlavicka(nullptr);
+        rs.update();
+    }
+    for (const Sestava& s : z.sestavy) {
+        if (s.polozky.empty()) {
+            hlavicka(&s);
+            rs.update();
+        }
+        for (const Polozka& p : s.polozky) {
+            hlavicka(&s);
+            rs.set(QStringLiteral("Oznaceni"), p.oznaceni);
+            rs.set(QStringLiteral("IDFormat"), p.format);
+            rs.set(QStringLiteral("cas"), cas++);
+            rs.set(QStringLiteral("Pocet"), p.pocet);
+            if (p.format > 1) {
+                static const char* const hrany[] = {"IDHX1", "IDHX2", "IDHY1", "IDHY2"};
+                for (int i = 0; i < 4; ++i)
+                    rs.set(QLatin1String(hrany[i]), p.hrany[i]);
+                rs.set(QStringLiteral("x"), p.x);
+                rs.set(QStringLiteral("y"), p.y);
+                rs.set(QStringLiteral("OV"), p.ov);
+            } else {
+                rs.set(QStringLiteral("Cena"), p.cena);
+                rs.set(QStringLiteral("jednotka"), p.jednotka);
+            }
+            rs.update();
+        }
+    }
+}
+
+QJsonValue cislo(double d)
+{
+    if (d == std::trunc(d) && std::abs(d) < 9e15)
+        return qint64(d);
+    return d;
+}
+
+} // namespace
+
+QString nacti(Database& dataS, const QByteArray& json)
+{
+    Zakazka z = cti(json);
+    Transakce t(dataS);
+    const Recordset existuje(dataS, QStringLiteral("SELECT * FROM Zakazky  WHERE Zakazka = '") +
+                                        Dotaz::text(z.nazev) + QStringLiteral("'"),
+                             Recordset::Rozsah::Prvni);
+    if (!existuje.prazdny())
+        odmitni(QStringLiteral("Zakazka pod tímhle názvem již existuje, zadejte jiný nazev !!!"));
+    zapisMaterialy(dataS, z);
+    zapisRadky(dataS, z);
+    t.commit();
+    return z.nazev;
+}
+
+QJsonObject vypis(Database& dataS, const QString& zakazka)
+{
+    const QString kde = QStringLiteral(" WHERE Zakazka = '") + Dotaz::text(zakazka) + QStringLiteral("'");
+    Recordset radky(dataS, QStringLiteral("SELECT * FROM Zakazky") + kde);
+    if (radky.prazdny())
+        odmitni(QStringLiteral("Zakázka „%1“ neexistuje.").arg(zakazka));
+    QJsonArray formaty, hrany;
+    for (Recordset m(dataS, QStringLiteral("SELECT * FROM ZakazkyMaterialy") + kde); !m.eof(); m.moveNext()) {
+        QJsonObject o{{QStringLiteral("id"), cislo(m.cislo(QStringLiteral("ID")))},
+                      {QStringLiteral("material"), m.text(QStringLiteral("Material"))},
+                      {QStringLiteral("cena"), cislo(m.cislo(QStringLiteral("CenaBezDPH")))}};
+        if (m.text(QStringLiteral("pouziti")) == QLatin1String("hrana")) {
+            o.insert(QStringLiteral("barva"), cislo(m.cislo(QStringLiteral("BarvaVNP"))));
+            o.insert(QStringLiteral("presah"), cislo(m.cislo(QStringLiteral("PresahHrany"))));
+            hrany.append(o);
+        } else {
+            o.insert(QStringLiteral("x"), cislo(m.cislo(QStringLiteral("RozmerX"))));
+            o.insert(QStringLiteral("y"), cislo(m.cislo(QStringLiteral("RozmerY"))));
+            o.insert(QStringLiteral("ov"), m.ano(QStringLiteral("OV")));
+            formaty.append(o);
+        }
+    }
+    // assemblies in the order their rows were written, items by their stamp
+    QStringList poradi;
+    std::map<QString, QJsonObject> sestavy;
+    std::map<QString, std::vector<std::pair<double, QJsonObject>>> desky, prislusenstvi;
+    for (; !radky.eof(); radky.moveNext()) {
+        const QString nazev = radky.text(QStringLiteral("Sestava"));
+        if (nazev.isEmpty())
+            continue;
+        if (!sestavy.count(nazev)) {
+            poradi << nazev;
+            sestavy[nazev] = {{QStringLiteral("nazev"), nazev},
+                              {QStringLiteral("popis"), radky.text(QStringLiteral("popis"))},
+                              {QStringLiteral("pocet"), cislo(radky.cislo(QStringLiteral("pocetelementuVsestave")))},
+                              {QStringLiteral("schema"), cislo(radky.cislo(QStringLiteral("schema")))}};
+        }
+        const QString oznaceni = radky.text(QStringLiteral("Oznaceni"));
+        if (oznaceni.isEmpty())
+            continue;
+        const double cas = radky.cislo(QStringLiteral("cas"));
+        if (radky.cislo(QStringLiteral("IDFormat")) > 1) {
+            QJsonArray h;
+            for (const char* p : {"IDHX1", "IDHX2", "IDHY1", "IDHY2"})
+                h.append(cislo(radky.cislo(QLatin1String(p))));
+            desky[nazev].push_back({cas, QJsonObject{{QStringLiteral("oznaceni"), oznaceni},
+                                                     {QStringLiteral("x"), cislo(radky.cislo(QStringLiteral("x")))},
+                                                     {QStringLiteral("y"), cislo(radky.cislo(QStringLiteral("y")))},
+                                                     {QStringLiteral("pocet"), cislo(radky.cislo(QStringLiteral("Pocet")))},
+                                                     {QStringLiteral("format"), cislo(radky.cislo(QStringLiteral("IDFormat")))},
+                                                     {QStringLiteral("ov"), radky.ano(QStringLiteral("OV"))},
+                                                     {QStringLiteral("hrany"), h}}});
+        } else {
+            prislusenstvi[nazev].push_back(
+                {cas, QJsonObject{{QStringLiteral("oznaceni"), oznaceni},
+                                  {QStringLiteral("mnozstvi"), cislo(radky.cislo(QStringLiteral("Pocet")))},
+                                  {QStringLiteral("jednotka"), radky.text(QStringLiteral("jednotka"))},
+                                  {QStringLiteral("cena"), cislo(radky.cislo(QStringLiteral("Cena")))}}});
+        }
+    }
+    auto seznamPodleCasu = [](std::vector<std::pair<double, QJsonObject>> v) {
+        std::stable_sort(v.begin(), v.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
+        QJsonArray a;
+        for (const auto& [cas, o] : v)
+            a.append(o);
+        return a;
+    };
+    QJsonArray seznamSestav;
+    for (const QString& nazev : poradi) {
+        QJsonObject s = sestavy[nazev];
+        s.insert(QStringLiteral("desky"), seznamPodleCasu(desky[nazev]));
+        s.insert(QStringLiteral("prislusenstvi"), seznamPodleCasu(prislusenstvi[nazev]));
+        seznamSestav.append(s);
+    }
+    radky.moveFirst();
+    return {{QStringLiteral("zakazka"), radky.text(QStringLiteral("Zakazka"))},
+            {QStringLiteral("poznamka"), radky.text(QStringLiteral("Poznamka"))},
+            {QStringLiteral("formaty"), formaty},
+            {QStringLiteral("hrany"), hrany},
+            {QStringLiteral("sestavy"), seznamSestav}};
+}
+
+QStringList seznam(Database& dataS)
+{
+    QStringList zakazky;
+    QSet<QString> videne;
+    for (Recordset rs(dataS, QStringLiteral("SELECT * FROM Zakazky ORDER BY Datum ")); !rs.eof(); rs.moveNext()) {
+        const QString z = rs.text(QStringLiteral("Zakazka"));
+        if (!videne.contains(z)) {
+            videne.insert(z);
+            zakazky << z;
+        }
+    }
+    return zakazky;
+}
+
+}
