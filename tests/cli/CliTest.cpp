@@ -1,0 +1,117 @@
+// truhlar-cli as a user runs it: exit codes, Czech messages, and nothing written on refusal.
+#include "core/Database.h"
+#include "core/Schema.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+#include <sys/file.h>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace {
+
+struct Vysledek {
+    int kod;
+    QString out, err;
+};
+
+class CliTest : public ::testing::Test {
+protected:
+    Vysledek spust(QStringList argumenty)
+    {
+        QProcess p;
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert(QStringLiteral("XDG_CONFIG_HOME"), m_dir.filePath(QStringLiteral("config")));
+        p.setProcessEnvironment(env);
+        p.start(QStringLiteral(TRUHLAR_CLI), QStringList{QStringLiteral("--home"), domov()} + argumenty);
+        EXPECT_TRUE(p.waitForFinished(60000));
+        return {p.exitCode(), QString::fromUtf8(p.readAllStandardOutput()), QString::fromUtf8(p.readAllStandardError())};
+    }
+    QString domov() const { return m_dir.filePath(QStringLiteral("home")); }
+    QString demo() const { return QStringLiteral(TRUHLAR_SHARE "/demo/kuchyne.json"); }
+
+    QTemporaryDir m_dir;
+};
+
+} // namespace
+
+TEST_F(CliTest, InitZalozeDatabazeSeVsemiTabulkami)
+{
+    EXPECT_EQ(spust({"init"}).kod, 0);
+    Database data(domov() + QStringLiteral("/Data/DataS.db"));
+    for (const QString& t : Schema::tabulky(Schema::Soubor::Data))
+        EXPECT_EQ(data.sloupce(t), Schema::sloupce(t));
+    Database cenik(domov() + QStringLiteral("/Data/Cenik.db"));
+    EXPECT_EQ(cenik.sloupce(QStringLiteral("Obrazky")), Schema::sloupce(QStringLiteral("Obrazky")));
+    EXPECT_TRUE(QFile::exists(domov() + QStringLiteral("/Zálohy dat")));
+}
+
+TEST_F(CliTest, ZakazkaTamAZpetAPlanVeVsechRezimech)
+{
+    spust({"init"});
+    EXPECT_EQ(spust({"order-load", demo()}).kod, 0);
+    const Vysledek dump = spust({"order-dump", "Kuchyně Novák"});
+    QFile f(demo());
+    f.open(QIODevice::ReadOnly);
+    EXPECT_EQ(QJsonDocument::fromJson(dump.out.toUtf8()), QJsonDocument::fromJson(f.readAll()));
+    EXPECT_EQ(spust({"order-list"}).out, QStringLiteral("Kuchyně Novák\n"));
+    for (const char* rezim : {"podelne", "pricne", "kombinovane"}) {
+        const Vysledek plan = spust({"plan", "Kuchyně Novák", "--format", "5000001", "--mode", rezim, "--dump"});
+        ASSERT_EQ(plan.kod, 0) << plan.err.toStdString();
+        const QJsonObject o = QJsonDocument::fromJson(plan.out.toUtf8()).object();
+        EXPECT_EQ(o["SoupisDesek"].toArray().size(), 40);
+        EXPECT_FALSE(o["warning"].toBool());
+        EXPECT_FALSE(o["RezyNaTabuli"].toObject().isEmpty());
+    }
+    const Vysledek souhrn = spust({"plan", "Kuchyně Novák", "--format", "5000001", "--mode", "podelne"});
+    EXPECT_TRUE(souhrn.out.startsWith(QStringLiteral("Tabulí: ")));
+    EXPECT_TRUE(souhrn.out.contains(QStringLiteral("usazeno desek: 40, neusazeno: 0")));
+}
+
+TEST_F(CliTest, SpatnyVstupDaCeskouZpravuAKod)
+{
+    EXPECT_EQ(spust({"nesmysl"}).kod, 2);
+    const Vysledek bezSlozky = spust({"order-list"});
+    EXPECT_EQ(bezSlozky.kod, 4);
+    EXPECT_TRUE(bezSlozky.err.contains(QStringLiteral("neobsahuje databáze")));
+    spust({"init"});
+    spust({"order-load", demo()});
+    EXPECT_EQ(spust({"order-load", demo()}).kod, 3);
+    EXPECT_EQ(spust({"plan", "Neni", "--format", "5000001", "--mode", "podelne"}).kod, 3);
+    const Vysledek format = spust({"plan", "Kuchyně Novák", "--format", "5000101", "--mode", "podelne"});
+    EXPECT_EQ(format.kod, 3);
+    EXPECT_TRUE(format.err.contains(QStringLiteral("V zakázce není co nařezat!!!!!")));
+    EXPECT_EQ(spust({"plan", "Kuchyně Novák", "--format", "5000001", "--mode", "diagonalne"}).kod, 2);
+    EXPECT_EQ(spust({"order-load", domov() + QStringLiteral("/neni.json")}).kod, 4);
+    EXPECT_EQ(spust({"order-list"}).out, QStringLiteral("Kuchyně Novák\n"));
+}
+
+TEST_F(CliTest, DrzeneUlozisteACiziSouborVratiKod4)
+{
+    spust({"init"});
+    const int fd = ::open(QFile::encodeName(domov() + QStringLiteral("/Data/.lock")).constData(), O_RDWR | O_CREAT, 0644);
+    ASSERT_EQ(::flock(fd, LOCK_EX | LOCK_NB), 0);
+    const Vysledek drzeno = spust({"order-list"});
+    EXPECT_EQ(drzeno.kod, 4);
+    EXPECT_TRUE(drzeno.err.contains(QStringLiteral("používána jiným programem")));
+    ::close(fd);
+    {
+        QFile cizi(domov() + QStringLiteral("/Data/DataS.db"));
+        ASSERT_TRUE(cizi.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        cizi.write(QByteArray(4096, 'x'));
+    }
+    EXPECT_EQ(spust({"order-list"}).kod, 4);
+}
+
+TEST_F(CliTest, NastaveniSeCteAZapisuje)
+{
+    spust({"init"});
+    EXPECT_EQ(spust({"settings", "get", "Setting2", "Srez"}).out, QStringLiteral("4\n"));
+    EXPECT_EQ(spust({"settings", "set", "Setting2", "Srez", "3.2"}).kod, 0);
+    EXPECT_EQ(spust({"settings", "get", "Setting2", "Srez"}).out, QStringLiteral("3.2\n"));
+    EXPECT_EQ(spust({"settings", "get"}).kod, 2);
+}
