@@ -22,7 +22,9 @@ const char* const TextPouziti =
     "  order-list                    zakázky v pořadí stromu, jedna na řádek\n"
     "  settings get SEKCE KLÍČ       settings set SEKCE KLÍČ HODNOTA\n"
     "  plan NÁZEV --format ID --mode kombinovane|podelne|pricne [--volba N] [--dump]\n"
-    "  offcuts-load SOUBOR.json      přidá odřezky do skladu\n";
+    "  offcuts-load SOUBOR.json      přidá odřezky do skladu\n"
+    "  backup [SOUBOR]  restore SOUBOR  pricelist-backup [SOUBOR]  pricelist-restore SOUBOR\n"
+    "  check [SOUBOR]                zkontroluje zálohu, bez souboru živé databáze\n";
 
 struct Prikaz {
     const char* nazev;
@@ -32,7 +34,9 @@ struct Prikaz {
 const Prikaz prikazy[] = {
     {"init", prikazInit},           {"order-load", prikazOrderLoad},     {"order-dump", prikazOrderDump},
     {"order-list", prikazOrderList}, {"settings", prikazSettings},        {"plan", prikazPlan},
-    {"offcuts-load", prikazOffcutsLoad},
+    {"offcuts-load", prikazOffcutsLoad}, {"backup", prikazBackup},       {"restore", prikazRestore},
+    {"pricelist-backup", prikazPricelistBackup}, {"pricelist-restore", prikazPricelistRestore},
+    {"check", prikazCheck},
 };
 
 } // namespace

@@ -9,3 +9,8 @@ int prikazOrderList(const QStringList& argumenty);
 int prikazSettings(const QStringList& argumenty);
 int prikazOffcutsLoad(const QStringList& argumenty);
 int prikazPlan(const QStringList& argumenty);
+int prikazBackup(const QStringList& argumenty);
+int prikazRestore(const QStringList& argumenty);
+int prikazPricelistBackup(const QStringList& argumenty);
+int prikazPricelistRestore(const QStringList& argumenty);
+int prikazCheck(const QStringList& argumenty);

@@ -84,7 +84,7 @@ QString createTable(const Tabulka& t)
 }
 
 // Lookups that every edit and every plan step makes; they change no result, only its speed.
-const char* indexy[] = {
+const char* indexy_[] = {
     "CREATE INDEX ixZakazky ON Zakazky (Zakazka, Sestava);",
     "CREATE INDEX ixZakazkyMaterialy ON ZakazkyMaterialy (Zakazka);",
 };
@@ -98,6 +98,15 @@ QStringList tabulky(Soubor soubor)
         if (t.soubor == soubor)
             vysledek << QLatin1String(t.nazev);
     return vysledek;
+}
+
+QStringList indexy(Soubor soubor)
+{
+    QStringList nazvy;
+    if (soubor == Soubor::Data)
+        for (const char* i : indexy_)
+            nazvy << QString::fromLatin1(i).section(QLatin1Char(' '), 2, 2);
+    return nazvy;
 }
 
 QStringList sloupce(const QString& tabulka)
@@ -121,7 +130,7 @@ void vytvor(const QString& cesta, Soubor soubor)
         if (t.soubor == soubor)
             sql += createTable(t);
     if (soubor == Soubor::Data)
-        for (const char* i : indexy)
+        for (const char* i : indexy_)
             sql += QLatin1String(i);
     sql += QStringLiteral("COMMIT;");
 

@@ -78,3 +78,14 @@ void Uloziste::otevriData()
     m_dataS = std::make_unique<Database>(Aplikace::dataS(), Database::Rezim::Data);
     m_cenik = std::make_unique<Database>(Aplikace::cenik(), Database::Rezim::Data);
 }
+
+Uloziste::Vyhradne::Vyhradne(Uloziste& u) : m_u(u)
+{
+    if (::flock(m_u.m_zamek, LOCK_EX | LOCK_NB) != 0)
+        throw Error(Chyba::DatabazePouzivana, QStringLiteral("Databáze programu je používána jiným programem!"));
+}
+
+Uloziste::Vyhradne::~Vyhradne()
+{
+    ::flock(m_u.m_zamek, LOCK_SH);
+}

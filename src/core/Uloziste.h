@@ -31,6 +31,19 @@ public:
     void zavriData();
     void otevriData();
 
+    // Holds the store alone while it lives (a restore): throws Error 3356 when another process
+    // has it open. The shared hold comes back when it ends.
+    class Vyhradne {
+    public:
+        explicit Vyhradne(Uloziste& u);
+        ~Vyhradne();
+        Vyhradne(const Vyhradne&) = delete;
+        Vyhradne& operator=(const Vyhradne&) = delete;
+
+    private:
+        Uloziste& m_u;
+    };
+
 private:
     std::unique_ptr<Database> m_dataS;
     std::unique_ptr<Database> m_cenik;

@@ -1,0 +1,105 @@
+#include "core/Soubory.h"
+
+#include "core/Error.h"
+#include "core/SqliteChyba.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QUuid>
+#include <cerrno>
+#include <cstdio>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace Soubory {
+namespace {
+
+[[noreturn]] void chyba(const QString& text, const QString& soubor)
+{
+    const int e = errno;
+    throw Error(SqliteChyba::cisloProErrno(e),
+                QStringLiteral("%1 %2: %3").arg(text, soubor, QString::fromLocal8Bit(strerror(e))));
+}
+
+void fsync(const QString& cesta, int priznaky)
+{
+    const int fd = ::open(QFile::encodeName(cesta).constData(), priznaky | O_CLOEXEC);
+    if (fd < 0)
+        chyba(QStringLiteral("Nelze otevřít"), cesta);
+    const int rc = ::fsync(fd);
+    const int e = errno;
+    ::close(fd);
+    errno = e;
+    if (rc != 0)
+        chyba(QStringLiteral("Nelze uložit na disk"), cesta);
+}
+
+} // namespace
+
+void synchronizuj(const QString& soubor)
+{
+    fsync(soubor, O_RDONLY);
+}
+
+void synchronizujSlozku(const QString& soubor)
+{
+    fsync(QFileInfo(soubor).absolutePath(), O_RDONLY | O_DIRECTORY);
+}
+
+void prejmenuj(const QString& zdroj, const QString& cil)
+{
+    if (::rename(QFile::encodeName(zdroj).constData(), QFile::encodeName(cil).constData()) != 0)
+        chyba(QStringLiteral("Nelze přejmenovat na"), cil);
+    synchronizujSlozku(cil);
+}
+
+void odstran(const QString& soubor)
+{
+    if (::unlink(QFile::encodeName(soubor).constData()) != 0 && errno != ENOENT)
+        chyba(QStringLiteral("Nelze odstranit"), soubor);
+}
+
+void kopiruj(const QString& zdroj, const QString& cil)
+{
+    const int z = ::open(QFile::encodeName(zdroj).constData(), O_RDONLY | O_CLOEXEC);
+    if (z < 0)
+        chyba(QStringLiteral("Nelze přečíst"), zdroj);
+    const int c = ::open(QFile::encodeName(cil).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0644);
+    if (c < 0) {
+        const int e = errno;
+        ::close(z);
+        errno = e;
+        chyba(QStringLiteral("Nelze vytvořit"), cil);
+    }
+    char buf[1 << 16];
+    for (;;) {
+        const ssize_t n = ::read(z, buf, sizeof buf);
+        bool chybne = n < 0;
+        for (ssize_t hotovo = 0; !chybne && hotovo < n;) {
+            const ssize_t w = ::write(c, buf + hotovo, size_t(n - hotovo));
+            chybne = w < 0;
+            hotovo += w;
+        }
+        if (chybne || (n == 0 && ::fsync(c) != 0)) {
+            const int e = errno;
+            ::close(z);
+            ::close(c);
+            ::unlink(QFile::encodeName(cil).constData());
+            errno = e;
+            chyba(QStringLiteral("Nelze zkopírovat do"), cil);
+        }
+        if (n == 0)
+            break;
+    }
+    ::close(z);
+    ::close(c);
+}
+
+QString docasny(const QString& soubor, const QString& ucel)
+{
+    return soubor + QStringLiteral(".tmp-") + ucel + QLatin1Char('-') +
+           QUuid::createUuid().toString(QUuid::Id128).left(12);
+}
+
+}

@@ -1,0 +1,18 @@
+#pragma once
+// File operations for files replaced as a whole: each failure becomes the store's Error number
+// by the one errno mapping (3799 disk full, 3051 read-only, 75 other).
+#include <QString>
+
+namespace Soubory {
+
+void synchronizuj(const QString& soubor);        // fsync the file's data
+void synchronizujSlozku(const QString& soubor);  // fsync the folder that holds it
+// rename(2): atomically replaces cil, then syncs its folder.
+void prejmenuj(const QString& zdroj, const QString& cil);
+void odstran(const QString& soubor);             // a missing file is no error
+// Copies zdroj (opened read-only) to a new file cil and syncs it; cil must not exist.
+void kopiruj(const QString& zdroj, const QString& cil);
+// A name for a temporary file beside soubor that the next start will clear away ("*.tmp-…").
+QString docasny(const QString& soubor, const QString& ucel);
+
+}

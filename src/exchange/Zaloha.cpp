@@ -1,0 +1,199 @@
+#include "exchange/Zaloha.h"
+
+#include "core/Aplikace.h"
+#include "core/Database.h"
+#include "core/Error.h"
+#include "core/Prikaz.h"
+#include "core/Prompt.h"
+#include "core/Soubory.h"
+#include "core/Uloziste.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace Zaloha {
+namespace {
+
+const QString Pouzivana = QStringLiteral("Databáze programu je používána jiným programem!");
+
+[[noreturn]] void neplatny(Schema::Soubor druh, const QString& proc)
+{
+    throw Error(Chyba::TabulkaChybi, (druh == Schema::Soubor::Data
+                                          ? QStringLiteral(" Vybraný soubor neobsahuje platná data ")
+                                          : QStringLiteral(" Vybraný soubor neobsahuje platná data pro tento program")) +
+                                         QStringLiteral("\n(") + proc + QLatin1Char(')'));
+}
+
+Database& databaze(Uloziste& u, Schema::Soubor druh)
+{
+    return druh == Schema::Soubor::Data ? u.dataS() : u.cenik();
+}
+
+QString zivy(Schema::Soubor druh)
+{
+    return druh == Schema::Soubor::Data ? Aplikace::dataS() : Aplikace::cenik();
+}
+
+QString bezpecnostniKopie(Schema::Soubor druh)
+{
+    return Aplikace::cesta(druh == Schema::Soubor::Data ? QStringLiteral("Data/DataZ.db")
+                                                        : QStringLiteral("Data/CenikZ.db"));
+}
+
+// A compacted copy of a live database into cil, through a checked temporary file.
+void zkopirujDatabazi(Database& db, Schema::Soubor druh, const QString& cil)
+{
+    const QString docasny = Soubory::docasny(cil, QStringLiteral("zaloha"));
+    try {
+        db.vacuumInto(docasny);
+        Soubory::synchronizuj(docasny);
+        zkontroluj(docasny, druh);
+        Soubory::prejmenuj(docasny, cil);
+    } catch (...) {
+        Soubory::odstran(docasny);
+        throw;
+    }
+}
+
+// Puts the live file in place again from the safety copy and opens the store; the last resort.
+void vratBezpecnostniKopii(Uloziste& u, Schema::Soubor druh)
+{
+    try {
+        const QString docasny = Soubory::docasny(zivy(druh), QStringLiteral("vraceni"));
+        Soubory::kopiruj(bezpecnostniKopie(druh), docasny);
+        Soubory::prejmenuj(docasny, zivy(druh));
+        u.otevriData();
+    } catch (const Error&) {
+        throw Error(Chyba::PristupKSouboru, QStringLiteral("Porucha databáze - restartujte PC!"));
+    }
+}
+
+} // namespace
+
+void zkontroluj(const QString& soubor, Schema::Soubor druh)
+{
+    try {
+        Database db(soubor, Database::Rezim::JenCteni);
+        const QStringList tabulky = Schema::tabulky(druh);
+        for (const QString& t : tabulky)
+            if (db.indexSloupce(t, Schema::sloupce(t).first()) < 0 || db.sloupce(t) != Schema::sloupce(t))
+                neplatny(druh, QStringLiteral("tabulka %1 neodpovídá").arg(t));
+        Prikaz objekty(db.handle(), QStringLiteral("SELECT type, name FROM sqlite_master"));
+        while (objekty.krok()) {
+            const QString nazev = objekty.sloupec(1).toString();
+            if (!tabulky.contains(nazev) && !Schema::indexy(druh).contains(nazev))
+                neplatny(druh, QStringLiteral("cizí objekt %1").arg(nazev));
+        }
+        Prikaz integrita(db.handle(), QStringLiteral("PRAGMA integrity_check"));
+        if (!integrita.krok() || integrita.sloupec(0).toString() != QLatin1String("ok"))
+            neplatny(druh, QStringLiteral("soubor je poškozen"));
+    } catch (const Error& e) {
+        if (e.cislo() == Chyba::TabulkaChybi || e.cislo() == Chyba::ChybaDotazu)
+            neplatny(druh, e.text().trimmed());
+        throw;
+    }
+}
+
+QString navrh(Schema::Soubor druh, const QDate& den)
+{
+    return (druh == Schema::Soubor::Data ? QStringLiteral("BData") : QStringLiteral("Cenik")) +
+           QStringLiteral("%1_%2_%3").arg(den.day()).arg(den.month()).arg(den.year()) +
+           (druh == Schema::Soubor::Data ? QStringLiteral(".bvk") : QStringLiteral(".cen"));
+}
+
+QString filtr(Schema::Soubor druh)
+{
+    return druh == Schema::Soubor::Data ? QStringLiteral("Databáze programu Truhlář (*.bvk)")
+                                        : QStringLiteral("Databáze programu Truhlář (*.cen)");
+}
+
+QString slozka()
+{
+    return Aplikace::cesta(QStringLiteral("Zálohy dat"));
+}
+
+void zalohuj(Uloziste& u, Schema::Soubor druh, const QString& cil)
+{
+    if (druh == Schema::Soubor::Data)
+        Soubory::odstran(Aplikace::cesta(QStringLiteral("Data/DataZ1.db")));
+    zkopirujDatabazi(databaze(u, druh), druh, QFileInfo(cil).absoluteFilePath());
+}
+
+bool obnov(Uloziste& u, Schema::Soubor druh, const QString& zdroj, Prompt& prompt)
+{
+    const QString kopie = Soubory::docasny(zivy(druh), QStringLiteral("obnova"));
+    try {
+        Soubory::kopiruj(zdroj, kopie);
+        zkontroluj(kopie, druh);
+        if (prompt.zprava(QStringLiteral("Opravdu chcete nynější data nahradit za ") + QFileInfo(zdroj).fileName() +
+                              QStringLiteral(" ?"),
+                          QStringLiteral("Upozornění"), Prompt::Ikona::Otaznik,
+                          Prompt::Tlacitka::AnoNe) != Prompt::Odpoved::Ano) {
+            Soubory::odstran(kopie);
+            return false;
+        }
+        Uloziste::Vyhradne sam(u);
+        zkopirujDatabazi(databaze(u, druh), druh, bezpecnostniKopie(druh));
+        u.zavriData();
+        try {
+            Soubory::prejmenuj(kopie, zivy(druh));
+        } catch (const Error&) {
+            u.otevriData(); // the live file is as it was
+            throw;
+        }
+        try {
+            u.otevriData();
+        } catch (const Error&) {
+            vratBezpecnostniKopii(u, druh);
+            throw Error(Chyba::TabulkaChybi, QStringLiteral(" Vybraný soubor neobsahuje platná data "));
+        }
+    } catch (...) {
+        Soubory::odstran(kopie);
+        throw;
+    }
+    prompt.zprava(QStringLiteral("Obnova zálohy byla úspěšně dokončena"), QStringLiteral("Obnoveno..."),
+                  Prompt::Ikona::Informace);
+    return true;
+}
+
+Zprava zpravaZalohy(const Error& e)
+{
+    switch (e.cislo()) {
+    case Chyba::Zruseno:
+        return {};
+    case Chyba::DiskPlny:
+        return {QStringLiteral("Na disku není dostatek místa!!!"), QStringLiteral("Chyba zápisu")};
+    case Chyba::JenProCteni:
+        return {QStringLiteral("Disk je chráněn proti zápisu!!!"), QStringLiteral("Chyba zápisu")};
+    case Chyba::DatabazePouzivana:
+        return {Pouzivana + QStringLiteral("\rUkončete toto používání!!!"), QStringLiteral("Chyba při zápisu")};
+    default:
+        return {QStringLiteral("Nebylo možné data zálohovat! Ukončete užívání programu a zkuste to znovu."),
+                QStringLiteral("Chyba při zápisu")};
+    }
+}
+
+Zprava zpravaObnovy(const Error& e, Schema::Soubor druh)
+{
+    switch (e.cislo()) {
+    case Chyba::Zruseno:
+        return {};
+    case Chyba::TabulkaChybi:
+        return {druh == Schema::Soubor::Data ? QStringLiteral(" Vybraný soubor neobsahuje platná data ")
+                                             : QStringLiteral(" Vybraný soubor neobsahuje platná data pro tento program"),
+                QStringLiteral("Chybný soubor")};
+    case Chyba::DatabazePouzivana:
+        return {Pouzivana + QStringLiteral("\rAž ukončíte toto používání budete moci data obnovit !!!"),
+                QStringLiteral("Chyba při zápisu")};
+    case Chyba::PristupKSouboru:
+        if (e.text() == QLatin1String("Porucha databáze - restartujte PC!"))
+            return {e.text(), QStringLiteral("Chyba při zápisu"), true};
+        break;
+    case Chyba::DiskPlny:
+    case Chyba::JenProCteni:
+        return zpravaZalohy(e);
+    }
+    return {QStringLiteral("Obnova zálohy se nezdařila, data zůstala beze změny."), QStringLiteral("Chyba při zápisu")};
+}
+
+}

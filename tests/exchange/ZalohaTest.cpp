@@ -1,0 +1,168 @@
+// Backup and restore: what comes back, what is refused, and that a failing disk or a held
+// store changes nothing.
+#include "DomovTest.h"
+#include "SelhavajiciVfs.h"
+#include "SkriptovanyPrompt.h"
+#include "core/Aplikace.h"
+#include "core/Error.h"
+#include "core/Recordset.h"
+#include "core/Soubory.h"
+#include "exchange/SkladJson.h"
+#include "exchange/Zaloha.h"
+#include "exchange/ZakazkaJson.h"
+
+#include <QDir>
+#include <QFile>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
+namespace {
+
+QByteArray demo()
+{
+    QFile f(QStringLiteral(TRUHLAR_SHARE "/demo/kuchyne.json"));
+    f.open(QIODevice::ReadOnly);
+    return f.readAll();
+}
+
+int cisloChyby(const std::function<void()>& f)
+{
+    try {
+        f();
+    } catch (const Error& e) {
+        return e.cislo();
+    }
+    return 0;
+}
+
+QStringList slozkaDat()
+{
+    return QDir(Aplikace::cesta(QStringLiteral("Data"))).entryList(QDir::Files | QDir::Hidden, QDir::Name);
+}
+
+void zapis(const QString& cesta, const QByteArray& obsah)
+{
+    QFile f(cesta);
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    f.write(obsah);
+}
+
+} // namespace
+
+class ZalohaTest : public DomovTest {
+protected:
+    QString zaloha() const { return domov() + QStringLiteral("/Zálohy dat/BData 'a' ž.bvk"); }
+    QStringList zakazky() { return ZakazkaJson::seznam(uloziste().dataS()); }
+};
+
+TEST_F(ZalohaTest, ZalohaZmenaObnovaVratiVseJakBylo)
+{
+    Uloziste& u = uloziste();
+    ZakazkaJson::nacti(u.dataS(), demo());
+    SkladJson::nacti(u.dataS(), R"([{"material": "DTD bílá 18", "x": 600, "y": 400, "pocet": 1}])");
+    const QJsonObject pred = ZakazkaJson::vypis(u.dataS(), QStringLiteral("Kuchyně Novák"));
+    Zaloha::zalohuj(u, Schema::Soubor::Data, zaloha());
+    EXPECT_NO_THROW(Zaloha::zkontroluj(zaloha(), Schema::Soubor::Data));
+
+    QByteArray druha = demo();
+    ZakazkaJson::nacti(u.dataS(), druha.replace("Kuchyně Novák", "Druhá"));
+    u.dataS().execute(QStringLiteral("DELETE * FROM SkladOdrezku"));
+    SkriptovanyPrompt prompt;
+    prompt.odpovez(Prompt::Odpoved::Ano);
+    EXPECT_TRUE(Zaloha::obnov(u, Schema::Soubor::Data, zaloha(), prompt));
+    EXPECT_EQ(prompt.zpravy.last(), QStringLiteral("Obnova zálohy byla úspěšně dokončena"));
+    EXPECT_EQ(zakazky(), QStringList({"Kuchyně Novák"}));
+    EXPECT_EQ(ZakazkaJson::vypis(u.dataS(), QStringLiteral("Kuchyně Novák")), pred);
+    EXPECT_EQ(u.dataS().hodnota(QStringLiteral("SELECT count(*) FROM SkladOdrezku")).toInt(), 1);
+    // the replaced data are kept, and nothing else is left in Data/
+    Database z(Aplikace::cesta(QStringLiteral("Data/DataZ.db")));
+    EXPECT_EQ(ZakazkaJson::seznam(z), QStringList({"Kuchyně Novák", "Druhá"}));
+    EXPECT_EQ(slozkaDat(), QStringList({".lock", "Cenik.db", "DataS.db", "DataZ.db"}));
+}
+
+TEST_F(ZalohaTest, NeplatnySouborJeOdmitnutANicSeNezmeni)
+{
+    Uloziste& u = uloziste();
+    ZakazkaJson::nacti(u.dataS(), demo());
+    const QString cenik = domov() + QStringLiteral("/c.cen");
+    Zaloha::zalohuj(u, Schema::Soubor::Cenik, cenik);
+    Zaloha::zalohuj(u, Schema::Soubor::Data, zaloha());
+    QFile dobra(zaloha());
+    dobra.open(QIODevice::ReadOnly);
+    const QByteArray obsah = dobra.readAll();
+
+    const QString spatna = domov() + QStringLiteral("/spatna.bvk");
+    const std::vector<QByteArray> pripady = {QByteArray(), QByteArray("SQLite format 3\0 a pak nic", 26),
+                                             obsah.left(obsah.size() / 2), demo()};
+    for (const QByteArray& p : pripady) {
+        zapis(spatna, p);
+        SkriptovanyPrompt prompt; // asks nothing
+        EXPECT_EQ(cisloChyby([&] { Zaloha::obnov(u, Schema::Soubor::Data, spatna, prompt); }), Chyba::TabulkaChybi);
+    }
+    SkriptovanyPrompt prompt;
+    EXPECT_EQ(cisloChyby([&] { Zaloha::obnov(u, Schema::Soubor::Data, cenik, prompt); }), Chyba::TabulkaChybi);
+    EXPECT_EQ(cisloChyby([&] { Zaloha::obnov(u, Schema::Soubor::Cenik, zaloha(), prompt); }), Chyba::TabulkaChybi);
+    {   // a newer schema
+        Database novejsi(zaloha());
+        novejsi.executeSqlite(QStringLiteral("PRAGMA user_version = 99"));
+    }
+    EXPECT_EQ(cisloChyby([&] { Zaloha::obnov(u, Schema::Soubor::Data, zaloha(), prompt); }), Chyba::TabulkaChybi);
+    EXPECT_EQ(zakazky(), QStringList({"Kuchyně Novák"}));
+    EXPECT_EQ(slozkaDat(), QStringList({".lock", "Cenik.db", "DataS.db"}));
+    EXPECT_EQ(Zaloha::zpravaObnovy(Error(Chyba::TabulkaChybi, QString()), Schema::Soubor::Data).titulek,
+              QStringLiteral("Chybný soubor"));
+}
+
+TEST_F(ZalohaTest, OdpovedNeNeboDrzeneUlozisteNicNezmeni)
+{
+    Uloziste& u = uloziste();
+    Zaloha::zalohuj(u, Schema::Soubor::Data, zaloha());
+    ZakazkaJson::nacti(u.dataS(), demo());
+    SkriptovanyPrompt ne;
+    ne.odpovez(Prompt::Odpoved::Ne);
+    EXPECT_FALSE(Zaloha::obnov(u, Schema::Soubor::Data, zaloha(), ne));
+
+    // another process holds the store with its own shared lock
+    const int fd = ::open(QFile::encodeName(Aplikace::zamek()).constData(), O_RDWR);
+    ASSERT_EQ(::flock(fd, LOCK_SH), 0);
+    SkriptovanyPrompt ano;
+    ano.odpovez(Prompt::Odpoved::Ano);
+    EXPECT_EQ(cisloChyby([&] { Zaloha::obnov(u, Schema::Soubor::Data, zaloha(), ano); }), Chyba::DatabazePouzivana);
+    ::close(fd);
+    EXPECT_EQ(zakazky(), QStringList({"Kuchyně Novák"}));
+    EXPECT_EQ(slozkaDat(), QStringList({".lock", "Cenik.db", "DataS.db"}));
+}
+
+TEST_F(ZalohaTest, PlnyNeboChranenyDiskNechaDataIStarouZalohu)
+{
+    SelhavajiciVfs vfs;
+    Uloziste& u = uloziste();
+    ZakazkaJson::nacti(u.dataS(), demo());
+    Zaloha::zalohuj(u, Schema::Soubor::Data, zaloha());
+    QFile f(zaloha());
+    f.open(QIODevice::ReadOnly);
+    const QByteArray stara = f.readAll();
+    f.close();
+    QByteArray druha = demo();
+    ZakazkaJson::nacti(u.dataS(), druha.replace("Kuchyně Novák", "Druhá"));
+
+    for (auto porucha : {SelhavajiciVfs::Porucha::DiskPlny, SelhavajiciVfs::Porucha::JenProCteni}) {
+        vfs.selhej(QStringLiteral(".tmp-zaloha"), porucha, 8192);
+        const int cislo = cisloChyby([&] { Zaloha::zalohuj(u, Schema::Soubor::Data, zaloha()); });
+        EXPECT_EQ(cislo, porucha == SelhavajiciVfs::Porucha::DiskPlny ? Chyba::DiskPlny : Chyba::JenProCteni);
+        EXPECT_EQ(Zaloha::zpravaZalohy(Error(cislo, QString())).titulek, QStringLiteral("Chyba zápisu"));
+        f.open(QIODevice::ReadOnly);
+        EXPECT_EQ(f.readAll(), stara);
+        f.close();
+        EXPECT_EQ(QDir(domov() + QStringLiteral("/Zálohy dat")).entryList(QDir::Files).size(), 1);
+    }
+    // a restore whose safety copy cannot be written changes nothing either
+    vfs.selhej(QStringLiteral("DataZ.db.tmp"), SelhavajiciVfs::Porucha::DiskPlny, 4096);
+    SkriptovanyPrompt ano;
+    ano.odpovez(Prompt::Odpoved::Ano);
+    EXPECT_EQ(cisloChyby([&] { Zaloha::obnov(u, Schema::Soubor::Data, zaloha(), ano); }), Chyba::DiskPlny);
+    vfs.oprav();
+    EXPECT_EQ(zakazky(), QStringList({"Kuchyně Novák", "Druhá"}));
+    EXPECT_EQ(slozkaDat(), QStringList({".lock", "Cenik.db", "DataS.db"}));
+}
