@@ -7,10 +7,10 @@
 #include "core/Razitko.h"
 #include "core/Recordset.h"
 #include "core/Transakce.h"
+#include "orders/Strom.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QSet>
 #include <cmath>
 #include <map>
 #include <set>
@@ -422,14 +422,8 @@ QJsonObject vypis(Database& dataS, const QString& zakazka)
 QStringList seznam(Database& dataS)
 {
     QStringList zakazky;
-    QSet<QString> videne;
-    for (Recordset rs(dataS, QStringLiteral("SELECT * FROM Zakazky ORDER BY Datum ")); !rs.eof(); rs.moveNext()) {
-        const QString z = rs.text(QStringLiteral("Zakazka"));
-        if (!videne.contains(z)) {
-            videne.insert(z);
-            zakazky << z;
-        }
-    }
+    for (const UzelZakazky& z : NaplnitStrom(dataS))
+        zakazky << z.nazev;
     return zakazky;
 }
 
