@@ -10,7 +10,8 @@ public:
     explicit QtPrompt(QWidget* rodic = nullptr) : m_rodic(rodic) {}
     void nastavRodice(QWidget* rodic) { m_rodic = rodic; }
 
-    Odpoved zprava(const QString& text, const QString& titulek, Ikona ikona, Tlacitka tlacitka) override;
+    Odpoved zprava(const QString& text, const QString& titulek, Ikona ikona,
+                   Tlacitka tlacitka = Tlacitka::Ok) override;
     QString vstup(const QString& text, const QString& titulek, const QString& vychozi) override;
     QString soubor(bool ulozit, const QString& titulek, const QString& slozka, const QString& navrh,
                    const QString& filtr) override;

@@ -1,0 +1,51 @@
+// truhlar: the workbench.
+#include "core/Aplikace.h"
+#include "core/Error.h"
+#include "core/Nastaveni.h"
+#include "core/Uloziste.h"
+#include "ui/FrmBorovak.h"
+#include "ui/Ikony.h"
+#include "ui/QtPrompt.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QSplashScreen>
+#include <QThread>
+
+int main(int argc, char** argv)
+{
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("truhlar"));
+    QApplication::setApplicationDisplayName(QStringLiteral("Truhlář"));
+    QCommandLineParser argumenty;
+    argumenty.addOption({QStringLiteral("home"), QStringLiteral("Aplikační složka."), QStringLiteral("SLOŽKA")});
+    argumenty.process(app);
+    Aplikace::nastavDomov(argumenty.value(QStringLiteral("home")));
+
+    QPixmap obrazek = Ikony::proKlic("NP").pixmap(96, 96);
+    QSplashScreen splash(obrazek);
+    splash.showMessage(QStringLiteral("Truhlář V ") + Nastaveni::verze(), Qt::AlignBottom | Qt::AlignHCenter);
+    splash.show();
+    QApplication::processEvents();
+
+    QtPrompt prompt;
+    std::unique_ptr<Uloziste> uloziste;
+    try {
+        uloziste = std::make_unique<Uloziste>(true);
+    } catch (const Error& e) {
+        splash.close();
+        prompt.zprava(e.cislo() == Chyba::DatabazePouzivana
+                          ? QStringLiteral("Databáze programu je používána jiným programem!\rUkončete toto používání!!!")
+                          : e.text(),
+                      QStringLiteral("Truhlář"), Prompt::Ikona::Kriticka);
+        return 1;
+    }
+    if (Nastaveni::jeZmenaVerze())
+        Nastaveni::ZapisVychoziNastaveni(1000, 1000, 13500, 9000);
+    FrmBorovak okno(*uloziste, prompt);
+    prompt.nastavRodice(&okno);
+    QThread::msleep(qEnvironmentVariableIsSet("TRUHLAR_BEZ_PAUZY") ? 0 : 1000);
+    okno.show();
+    splash.finish(&okno);
+    return app.exec();
+}

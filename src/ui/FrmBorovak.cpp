@@ -1,0 +1,521 @@
+#include "ui/FrmBorovak.h"
+
+#include "core/Dotaz.h"
+#include "core/Error.h"
+#include "core/Nastaveni.h"
+#include "core/Razitko.h"
+#include "core/Recordset.h"
+#include "core/Uloziste.h"
+#include "exchange/Zaloha.h"
+#include "optimiser/PlanRun.h"
+#include "orders/Strom.h"
+#include "ui/FrmNovy.h"
+#include "ui/Ikony.h"
+#include "ui/Nabidka.h"
+#include "ui/QtPrompt.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDir>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QScreen>
+#include <QSplitter>
+#include <QStatusBar>
+#include <QTabWidget>
+#include <QTableWidget>
+#include <QToolBar>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+namespace {
+
+// Commands whose routines are in place; every other entry stands disabled until its own arrives.
+const QStringList hotove = {QStringLiteral("NP"),       QStringLiteral("Vz"),        QStringLiteral("OD"),
+                            QStringLiteral("Konec"),    QStringLiteral("NapovedaObsah"), QStringLiteral("OProgramu")};
+
+constexpr int TwipuNaPixel = 15; // the old window positions were kept in screen twips
+
+QString sqlZakazky(const QString& zakazka)
+{
+    return QStringLiteral("SELECT * FROM Zakazky  WHERE Zakazka = '") + Dotaz::text(zakazka) + QStringLiteral("'");
+}
+
+} // namespace
+
+FrmBorovak::FrmBorovak(Uloziste& uloziste, QtPrompt& prompt) : m_uloziste(uloziste), m_prompt(prompt)
+{
+    setObjectName(QStringLiteral("frmBorovak"));
+    setWindowTitle(QStringLiteral("Truhlář V ") + Nastaveni::verze());
+    setWindowIcon(Ikony::proKlic("NP"));
+    vytvorMenu();
+    vytvorNastroje();
+
+    m_tvzakazky = new QTreeWidget;
+    m_tvzakazky->setObjectName(QStringLiteral("tvzakazky"));
+    m_tvzakazky->setHeaderHidden(true);
+    m_tvzakazky->setIconSize(QSize(18, 18));
+    connect(m_tvzakazky, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* u) { klikNaUzel(u); });
+    auto* napis = new QLabel(QStringLiteral("Zakázka / Sestava"));
+    napis->setObjectName(QStringLiteral("lblNapis1"));
+    auto* strom = new QWidget;
+    auto* stromLayout = new QVBoxLayout(strom);
+    stromLayout->setContentsMargins(0, 0, 0, 0);
+    stromLayout->addWidget(napis);
+    stromLayout->addWidget(m_tvzakazky);
+    m_img1 = new QLabel;
+    m_img1->setObjectName(QStringLiteral("img1"));
+    m_img1->setAlignment(Qt::AlignCenter);
+    m_img1->setMinimumHeight(60);
+    m_img1->setFrameShape(QFrame::StyledPanel);
+    auto* vlevo = new QSplitter(Qt::Vertical);
+    vlevo->setObjectName(QStringLiteral("imgsplitter2"));
+    vlevo->addWidget(strom);
+    vlevo->addWidget(m_img1);
+    vlevo->setStretchFactor(0, 3);
+    vlevo->setStretchFactor(1, 1);
+
+    m_stZakazky = new QTabWidget;
+    m_stZakazky->setObjectName(QStringLiteral("stZakazky"));
+    m_stZakazky->addTab(vytvorStranku("fraFormat", QStringLiteral("Formáty:"), m_GridFormaty,
+                                      {QStringLiteral("Materiál"), QStringLiteral("Délka"), QStringLiteral("Šířka"),
+                                       QStringLiteral("Cena bez DPH"), QStringLiteral("Cena s DPH")},
+                                      "fraHrany", QStringLiteral("Hrany:"), m_GridHrany,
+                                      {QStringLiteral("Materiál"), QStringLiteral("Cena bez DPH"),
+                                       QStringLiteral("Přesah hrany"), QStringLiteral("Barva hrany v NP")},
+                                      {QStringLiteral("cmdNovyFormat"), QStringLiteral("cmdUpravitFormat"),
+                                       QStringLiteral("cmdSmazatFormat")},
+                                      {QStringLiteral("cmdNovaHrana"), QStringLiteral("cmdUpravitHrana"),
+                                       QStringLiteral("cmdSmazatHrana")}),
+                        QStringLiteral("Zakázka"));
+    m_stZakazky->addTab(vytvorStranku("fraPM", QStringLiteral("Plošný materiál:"), m_GPM,
+                                      {QStringLiteral("Název pl. materiálu"), QStringLiteral("Délka"),
+                                       QStringLiteral("Šířka"), QStringLiteral("Počet"), QStringLiteral("Formát")},
+                                      "fraPrislusenstvi", QStringLiteral("Příslušenství:"), m_GPR,
+                                      {QStringLiteral("Název příslušenství"), QStringLiteral("Množství"),
+                                       QStringLiteral("Cena bez DPH")},
+                                      {QStringLiteral("cmdNovyPM"), QStringLiteral("cmdUpravitPM"),
+                                       QStringLiteral("cmdSmazatPM"), QStringLiteral("cmdImport")},
+                                      {QStringLiteral("cmdNovePrislusenstvi"), QStringLiteral("cmdUpravitPrislusenstvi"),
+                                       QStringLiteral("cmdSmazatPrislusenstvi")}),
+                        QStringLiteral("Sestava"));
+
+    auto* rozdeleni = new QSplitter(Qt::Horizontal);
+    rozdeleni->setObjectName(QStringLiteral("imgSplitter"));
+    rozdeleni->addWidget(vlevo);
+    rozdeleni->addWidget(m_stZakazky);
+    rozdeleni->setStretchFactor(0, 1);
+    rozdeleni->setStretchFactor(1, 3);
+    setCentralWidget(rozdeleni);
+
+    statusBar()->setObjectName(QStringLiteral("stBorovak"));
+    for (int i = 0; i < 3; ++i) {
+        m_panel[i] = new QLabel;
+        m_panel[i]->setObjectName(QStringLiteral("panel%1").arg(i + 1));
+        m_panel[i]->setMinimumWidth(i == 0 ? 260 : 170);
+        statusBar()->addWidget(m_panel[i], i == 0 ? 1 : 0);
+    }
+    m_panel[1]->setToolTip(QStringLiteral("Cena zakázky s DPH"));
+    m_panel[2]->setToolTip(QStringLiteral("Cena za 1ks sestavy s DPH"));
+
+    NaplnitStrom();
+    obnovGeometrii();
+    ZakazEditaciZakazky();
+    ZakazEditaciSestavy();
+}
+
+void FrmBorovak::vytvorMenu()
+{
+    std::function<void(QWidget*, const std::vector<Nabidka::Polozka>&)> pridej =
+        [&](QWidget* kam, const std::vector<Nabidka::Polozka>& polozky) {
+            for (const Nabidka::Polozka& p : polozky) {
+                if (!p.polozky.empty()) {
+                    auto* m = new QMenu(QString::fromUtf8(p.popisek), kam);
+                    m->setObjectName(QLatin1String(p.nazev));
+                    m->menuAction()->setObjectName(QLatin1String(p.nazev));
+                    kam->addAction(m->menuAction());
+                    pridej(m, p.polozky);
+                    continue;
+                }
+                if (QLatin1String(p.nazev) == QLatin1String("Konec") || QLatin1String(p.nazev) == QLatin1String("Moznosti"))
+                    if (auto* m = qobject_cast<QMenu*>(kam))
+                        m->addSeparator();
+                auto* a = new QAction(QString::fromUtf8(p.popisek), this);
+                a->setObjectName(QLatin1String(p.nazev));
+                a->setEnabled(hotove.contains(a->objectName()));
+                connect(a, &QAction::triggered, this, [this, n = a->objectName()] { prikaz(n); });
+                kam->addAction(a);
+            }
+        };
+    pridej(menuBar(), Nabidka::menu());
+}
+
+void FrmBorovak::vytvorNastroje()
+{
+    auto* lista = addToolBar(QStringLiteral("Nástroje"));
+    lista->setObjectName(QStringLiteral("tbBorovak"));
+    lista->setMovable(false);
+    lista->setIconSize(QSize(28, 28));
+    for (const Nabidka::Tlacitko& t : Nabidka::nastroje()) {
+        if (QLatin1String(t.klic) == QLatin1String("CTM") || QLatin1String(t.klic) == QLatin1String("ZD") ||
+            QLatin1String(t.klic) == QLatin1String("Napoveda") || QLatin1String(t.klic) == QLatin1String("NPZ") ||
+            QLatin1String(t.klic) == QLatin1String("NPM") || QLatin1String(t.klic) == QLatin1String("NPR"))
+            lista->addSeparator();
+        auto* a = lista->addAction(Ikony::proKlic(t.klic), QString::fromUtf8(t.tip));
+        a->setObjectName(QStringLiteral("tb") + QLatin1String(t.klic));
+        a->setToolTip(QString::fromUtf8(t.tip));
+        a->setProperty("klic", QLatin1String(t.klic));
+        a->setEnabled(hotove.contains(QLatin1String(t.prikaz)));
+        connect(a, &QAction::triggered, this, [this, n = QString::fromLatin1(t.prikaz)] { prikaz(n); });
+    }
+}
+
+QWidget* FrmBorovak::vytvorStranku(const char* nazevRamce1, const QString& titulek1, QTableWidget*& grid1,
+                                   const QStringList& sloupce1, const char* nazevRamce2, const QString& titulek2,
+                                   QTableWidget*& grid2, const QStringList& sloupce2, const QStringList& tlacitka1,
+                                   const QStringList& tlacitka2)
+{
+    static const QHash<QString, QString> popisky = {
+        {QStringLiteral("cmdNovyFormat"), QStringLiteral("Nový")},     {QStringLiteral("cmdUpravitFormat"), QStringLiteral("Upravit")},
+        {QStringLiteral("cmdSmazatFormat"), QStringLiteral("Smazat")}, {QStringLiteral("cmdNovaHrana"), QStringLiteral("Nová")},
+        {QStringLiteral("cmdUpravitHrana"), QStringLiteral("Upravit")}, {QStringLiteral("cmdSmazatHrana"), QStringLiteral("Smazat")},
+        {QStringLiteral("cmdNovyPM"), QStringLiteral("Nový")},         {QStringLiteral("cmdUpravitPM"), QStringLiteral("Upravit")},
+        {QStringLiteral("cmdSmazatPM"), QStringLiteral("Smazat")},     {QStringLiteral("cmdImport"), QStringLiteral("Import...")},
+        {QStringLiteral("cmdNovePrislusenstvi"), QStringLiteral("Nové")},
+        {QStringLiteral("cmdUpravitPrislusenstvi"), QStringLiteral("Upravit")},
+        {QStringLiteral("cmdSmazatPrislusenstvi"), QStringLiteral("Smazat")},
+    };
+    auto ramec = [&](const char* nazev, const QString& titulek, QTableWidget*& grid, const QStringList& sloupce,
+                     const QStringList& tlacitka, const QString& nazevGridu) {
+        auto* box = new QGroupBox(titulek);
+        box->setObjectName(QLatin1String(nazev));
+        grid = new QTableWidget(0, int(sloupce.size()));
+        grid->setObjectName(nazevGridu);
+        grid->setHorizontalHeaderLabels(sloupce);
+        grid->setEditTriggers(QAbstractItemView::NoEditTriggers);
+        grid->setSelectionBehavior(QAbstractItemView::SelectRows);
+        grid->setSelectionMode(QAbstractItemView::SingleSelection);
+        grid->verticalHeader()->setVisible(false);
+        grid->horizontalHeader()->setStretchLastSection(true);
+        grid->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
+        auto* sloupec = new QVBoxLayout;
+        for (const QString& t : tlacitka) {
+            auto* b = new QPushButton(popisky.value(t));
+            b->setObjectName(t);
+            b->setEnabled(false);
+            sloupec->addWidget(b);
+        }
+        sloupec->addStretch();
+        auto* l = new QHBoxLayout(box);
+        l->addWidget(grid, 1);
+        l->addLayout(sloupec);
+        return box;
+    };
+    auto* stranka = new QWidget;
+    auto* l = new QVBoxLayout(stranka);
+    const bool zakazka = QLatin1String(nazevRamce1) == QLatin1String("fraFormat");
+    l->addWidget(ramec(nazevRamce1, titulek1, grid1, sloupce1, tlacitka1,
+                       zakazka ? QStringLiteral("GridFormaty") : QStringLiteral("GPM")), 3);
+    l->addWidget(ramec(nazevRamce2, titulek2, grid2, sloupce2, tlacitka2,
+                       zakazka ? QStringLiteral("GridHrany") : QStringLiteral("GPR")), 2);
+    return stranka;
+}
+
+QAction* FrmBorovak::akce(const QString& nazev) const
+{
+    return findChild<QAction*>(nazev);
+}
+
+void FrmBorovak::povol(const QStringList& nazvy, bool ano)
+{
+    for (const QString& n : nazvy) {
+        if (auto* a = akce(n))
+            a->setEnabled(ano && (hotove.contains(n) || a->menu() || n.startsWith(QLatin1String("tb"))));
+        if (auto* b = findChild<QPushButton*>(n))
+            b->setEnabled(ano && hotove.contains(n));
+    }
+    // a toolbar key is on only while the command behind it is in place
+    for (const Nabidka::Tlacitko& t : Nabidka::nastroje())
+        if (auto* a = akce(QStringLiteral("tb") + QLatin1String(t.klic)); a && !hotove.contains(QLatin1String(t.prikaz)))
+            a->setEnabled(false);
+}
+
+void FrmBorovak::ZakazEditaciZakazky()
+{
+    QStringList vse = {QStringLiteral("UpraveniZakazky"), QStringLiteral("UlozeniJakoZ"), QStringLiteral("SmazaniZakazky"),
+                       QStringLiteral("Sestava"), QStringLiteral("PlMaterial"), QStringLiteral("Format"), QStringLiteral("Hrana"),
+                       QStringLiteral("Vypisy"), QStringLiteral("Prislusenstvi"), QStringLiteral("Vz"), QStringLiteral("NP"),
+                       QStringLiteral("NF"), QStringLiteral("NH"), QStringLiteral("cmdNovyFormat"), QStringLiteral("cmdNovaHrana")};
+    for (const Nabidka::Tlacitko& t : Nabidka::nastroje())
+        if (!QStringList({"NZ", "CTM", "Moznosti", "Sklad"}).contains(QLatin1String(t.klic)))
+            vse << QStringLiteral("tb") + QLatin1String(t.klic);
+    povol(vse, false);
+}
+
+void FrmBorovak::PovolEditaciZakazky()
+{
+    povol({QStringLiteral("UpraveniZakazky"), QStringLiteral("SmazaniZakazky"), QStringLiteral("UlozeniJakoZ"),
+           QStringLiteral("Sestava"), QStringLiteral("Vypisy"), QStringLiteral("Format"), QStringLiteral("Hrana"),
+           QStringLiteral("Vz"), QStringLiteral("NP"), QStringLiteral("cmdNovyFormat"), QStringLiteral("cmdNovaHrana"),
+           QStringLiteral("NF"), QStringLiteral("NH"), QStringLiteral("tbOZ"), QStringLiteral("tbNPZ"), QStringLiteral("tbNP"),
+           QStringLiteral("tbZD")},
+          true);
+}
+
+void FrmBorovak::ZakazEditaciSestavy()
+{
+    povol({QStringLiteral("USestava"), QStringLiteral("UlozeniSestavyJako"), QStringLiteral("SmazaniSestavy"),
+           QStringLiteral("PlMaterial"), QStringLiteral("Prislusenstvi"), QStringLiteral("tbUPZ"), QStringLiteral("tbOPZ"),
+           QStringLiteral("tbNPM"), QStringLiteral("tbUPM"), QStringLiteral("tbOPM"), QStringLiteral("tbNPR"),
+           QStringLiteral("tbUPR"), QStringLiteral("tbOPR")},
+          false);
+}
+
+void FrmBorovak::PovolEditaciSestavy()
+{
+    povol({QStringLiteral("UlozeniJakoZ"), QStringLiteral("SmazaniZakazky"), QStringLiteral("USestava"),
+           QStringLiteral("UlozeniSestavyJako"), QStringLiteral("SmazaniSestavy"), QStringLiteral("PlMaterial"),
+           QStringLiteral("NovyPloM"), QStringLiteral("Prislusenstvi"), QStringLiteral("NoveP"), QStringLiteral("tbUPZ"),
+           QStringLiteral("tbOPZ"), QStringLiteral("tbNPM"), QStringLiteral("tbNPR")},
+          true);
+}
+
+void FrmBorovak::NaplnitStrom()
+{
+    m_tvzakazky->clear();
+    for (const UzelZakazky& z : ::NaplnitStrom(m_uloziste.dataS())) {
+        auto* uzel = new QTreeWidgetItem(m_tvzakazky, {z.nazev});
+        uzel->setIcon(0, Ikony::zakazka());
+        uzel->setData(0, Qt::UserRole, z.nazev + QLatin1Char('a'));
+        for (const UzelSestavy& s : z.sestavy) {
+            auto* dite = new QTreeWidgetItem(uzel, {s.text()});
+            dite->setIcon(0, Ikony::sestava());
+            dite->setData(0, Qt::UserRole, z.nazev + QLatin1Char('a') + s.nazev);
+            dite->setData(0, Qt::UserRole + 1, s.nazev); // the node's Tag
+        }
+    }
+}
+
+void FrmBorovak::klikNaUzel(QTreeWidgetItem* uzel)
+{
+    if (!uzel)
+        return;
+    const QString tag = uzel->data(0, Qt::UserRole + 1).toString();
+    if (tag.isEmpty()) {
+        m_AktZakazka = uzel->text(0);
+        m_AktSestava.clear();
+        m_stZakazky->setCurrentIndex(0);
+        nastavZakazku(uzel->text(0));
+        nastavSestavu(QString());
+    } else {
+        m_AktZakazka = uzel->parent()->text(0);
+        m_AktSestava = tag;
+        m_stZakazky->setCurrentIndex(1);
+        if (m_txtzakazka != m_AktZakazka)
+            nastavZakazku(m_AktZakazka);
+        nastavSestavu(tag);
+    }
+}
+
+void FrmBorovak::nastavZakazku(const QString& zakazka)
+{
+    if (m_txtzakazka == zakazka)
+        return;
+    m_txtzakazka = zakazka;
+    obnovZakazku();
+}
+
+void FrmBorovak::nastavSestavu(const QString& sestava)
+{
+    if (m_txtSestava == sestava)
+        return;
+    m_txtSestava = sestava;
+    obnovSestavu();
+}
+
+void FrmBorovak::obnovZakazku()
+{
+    const Recordset rs(m_uloziste.dataS(), sqlZakazky(m_txtzakazka), Recordset::Rozsah::Prvni);
+    m_panel[0]->setText(rs.eof() ? QString() : rs.text(QStringLiteral("Poznamka")));
+    m_panel[0]->setToolTip(QStringLiteral("Poznámka k zakázce"));
+    m_GridFormaty->setRowCount(0);
+    m_GridHrany->setRowCount(0);
+    if (!m_txtzakazka.isEmpty())
+        PovolEditaciZakazky();
+    else
+        ZakazEditaciZakazky();
+}
+
+void FrmBorovak::obnovSestavu()
+{
+    if (m_AktSestava.isEmpty()) {
+        const Recordset rs(m_uloziste.dataS(), sqlZakazky(m_txtzakazka), Recordset::Rozsah::Prvni);
+        m_panel[0]->setText(rs.eof() ? QString() : rs.text(QStringLiteral("Poznamka")));
+        m_panel[0]->setToolTip(QStringLiteral("Poznámka k zakázce"));
+        m_panel[2]->clear();
+    } else {
+        const Recordset rs(m_uloziste.dataS(),
+                           sqlZakazky(m_txtzakazka) + QStringLiteral(" and Sestava = '") + Dotaz::text(m_txtSestava) +
+                               QStringLiteral("' ORDER BY Zakazka"),
+                           Recordset::Rozsah::Prvni);
+        m_panel[0]->setText(rs.eof() ? QString() : rs.text(QStringLiteral("popis")));
+        m_panel[0]->setToolTip(QStringLiteral("Poznámka k sestavě"));
+    }
+    m_GPM->setRowCount(0);
+    m_GPR->setRowCount(0);
+    if (!m_AktSestava.isEmpty())
+        PovolEditaciSestavy();
+    else
+        ZakazEditaciSestavy();
+}
+
+void FrmBorovak::prikaz(const QString& nazev)
+{
+    try {
+        if (nazev == QLatin1String("NP"))
+            ZahajNP();
+        else if (nazev == QLatin1String("Vz"))
+            ZalohaDat();
+        else if (nazev == QLatin1String("OD"))
+            ObnovaDat();
+        else if (nazev == QLatin1String("Konec"))
+            close();
+        else if (nazev == QLatin1String("NapovedaObsah"))
+            m_prompt.zprava(QStringLiteral("Na aktualizaci nápovědy se pracuje..."), QString(), Prompt::Ikona::Informace);
+        else if (nazev == QLatin1String("OProgramu"))
+            m_prompt.zprava(windowTitle() + QStringLiteral("\nPracovní stůl truhlářské dílny: zakázky, nářezové plány, "
+                                                           "kalkulace a výpisy."),
+                            QStringLiteral("O programu"), Prompt::Ikona::Informace);
+    } catch (const Error& e) {
+        if (e.cislo() != Chyba::Zruseno)
+            m_prompt.zprava(e.text(), QStringLiteral("Chyba"), Prompt::Ikona::Kriticka);
+    }
+}
+
+void FrmBorovak::ZahajNP()
+{
+    const QString zakazka = m_txtzakazka;
+    const std::vector<FormatNP> formaty = PlanRun::formatySDeskami(m_uloziste.dataS(), zakazka);
+    if (formaty.empty()) {
+        m_prompt.zprava(QStringLiteral("V zakázce není co nařezat!!!!!"), QString(), Prompt::Ikona::Kriticka);
+        return;
+    }
+    std::vector<int> pocty;
+    for (const FormatNP& f : formaty)
+        pocty.push_back(Recordset(m_uloziste.dataS(), QStringLiteral("SELECT * FROM Zakazky WHERE Zakazka = '") +
+                                                          Dotaz::text(zakazka) + QStringLiteral("' and IDFormat =") +
+                                                          Dotaz::cislo(f.ID) + QStringLiteral(" ORDER BY Oznaceni"))
+                            .recordCount());
+    FrmNovy dialog(this);
+    FrmNovy::VolbaNP volba;
+    if (!dialog.zvolNP(formaty, pocty, volba))
+        return;
+    PlanRun run(m_uloziste, m_prompt, dialog);
+    bool hotovo = false;
+    std::optional<Error> chyba;
+    dialog.optimalizuj(volba.zpusob, [&] {
+        try {
+            hotovo = run.SpustNP(zakazka, volba.IDFormatuNP, volba.zpusob, volba.VolbaNPDeska);
+        } catch (const Error& e) {
+            chyba = e;
+        }
+    });
+    if (chyba) {
+        m_uloziste.zavriDataK();
+        const bool porucha = chyba->cislo() == Chyba::PristupKSouboru;
+        m_prompt.zprava(porucha ? QStringLiteral("Porucha databáze - restartujte PC!")
+                                : QStringLiteral("Databáze programu je používána jiným programem!\rUkončete toto používání!!!"),
+                        QString(), Prompt::Ikona::Kriticka);
+        QApplication::exit(1);
+        return;
+    }
+    if (hotovo) {
+        Database& k = m_uloziste.dataK();
+        const int tabuli = k.hodnota(QStringLiteral("SELECT count(*) FROM SoupisTabuli")).toInt();
+        const int desek = k.hodnota(QStringLiteral("SELECT count(*) FROM SoupisDesek WHERE ID = True")).toInt();
+        const int zbylo = k.hodnota(QStringLiteral("SELECT count(*) FROM SoupisDesek WHERE ID = False")).toInt();
+        m_prompt.zprava(QStringLiteral("Nářezový plán je hotov: %1 tabulí, usazeno %2 desek%3.")
+                            .arg(tabuli)
+                            .arg(desek)
+                            .arg(zbylo ? QStringLiteral(", neusazeno %1").arg(zbylo) : QString()),
+                        QStringLiteral("Nářezový plán"), Prompt::Ikona::Informace);
+    }
+    m_uloziste.zavriDataK();
+}
+
+void FrmBorovak::ZalohaDat()
+{
+    try {
+        QDir().mkpath(Zaloha::slozka());
+        const QString soubor = m_prompt.soubor(true, QStringLiteral("Vytvoření zálohy..."), Zaloha::slozka(),
+                                               Zaloha::navrh(Schema::Soubor::Data, Razitko::ted().date()),
+                                               Zaloha::filtr(Schema::Soubor::Data));
+        const QString cil = soubor.endsWith(QLatin1String(".bvk"), Qt::CaseInsensitive) ? soubor : soubor + QStringLiteral(".bvk");
+        if (QFile::exists(cil) &&
+            m_prompt.zprava(QStringLiteral("Soubor pod tímto názvem již existuje, chcete ho přepsat ?"),
+                            QStringLiteral("Upozornění !!!"), Prompt::Ikona::Vykricnik,
+                            Prompt::Tlacitka::AnoNe) != Prompt::Odpoved::Ano)
+            return;
+        Zaloha::zalohuj(m_uloziste, Schema::Soubor::Data, cil);
+        m_prompt.zprava(QStringLiteral("Zálohování bylo úspěšně dokončeno"), QStringLiteral("Uloženo.."),
+                        Prompt::Ikona::Informace);
+    } catch (const Error& e) {
+        const Zaloha::Zprava z = Zaloha::zpravaZalohy(e);
+        if (!z.text.isEmpty())
+            m_prompt.zprava(z.text, z.titulek, Prompt::Ikona::Kriticka);
+    }
+}
+
+void FrmBorovak::ObnovaDat()
+{
+    try {
+        QDir().mkpath(Zaloha::slozka());
+        const QString soubor = m_prompt.soubor(false, QStringLiteral("Vložení zálohovaných dat..."), Zaloha::slozka(),
+                                               QString(), Zaloha::filtr(Schema::Soubor::Data));
+        if (!Zaloha::obnov(m_uloziste, Schema::Soubor::Data, soubor, m_prompt))
+            return;
+        NaplnitStrom();
+        m_AktZakazka.clear();
+        m_AktSestava.clear();
+        nastavZakazku(QString());
+        nastavSestavu(QString());
+    } catch (const Error& e) {
+        const Zaloha::Zprava z = Zaloha::zpravaObnovy(e, Schema::Soubor::Data);
+        if (!z.text.isEmpty())
+            m_prompt.zprava(z.text, z.titulek, Prompt::Ikona::Kriticka);
+        if (z.konec)
+            QApplication::exit(1);
+    }
+}
+
+void FrmBorovak::obnovGeometrii()
+{
+    auto cti = [](const char* klic, int vychozi) {
+        return int(Nastaveni::GetSetting(QStringLiteral("Settings"), QLatin1String(klic), QString::number(vychozi)).toDouble()) /
+               TwipuNaPixel;
+    };
+    QRect r(cti("MainLeft", 1000), cti("MainTop", 1000), cti("MainWidth", 6500), cti("MainHeight", 6500));
+    r.setSize(r.size().expandedTo(QSize(900, 600)));
+    if (const QScreen* s = QApplication::primaryScreen(); s && !s->availableGeometry().intersects(r))
+        r.moveTopLeft(s->availableGeometry().topLeft());
+    setGeometry(r);
+}
+
+void FrmBorovak::ulozGeometrii()
+{
+    const QRect r = geometry();
+    for (auto [klic, hodnota] : {std::pair{"MainLeft", r.x()}, {"MainTop", r.y()}, {"MainWidth", r.width()},
+                                 {"MainHeight", r.height()}})
+        Nastaveni::SaveSetting(QStringLiteral("Settings"), QLatin1String(klic), QString::number(hodnota * TwipuNaPixel));
+}
+
+void FrmBorovak::closeEvent(QCloseEvent* e)
+{
+    ulozGeometrii();
+    e->accept();
+}

@@ -1,0 +1,70 @@
+#pragma once
+// The main window frmBorovak: the tree of orders and assemblies, the two-page tab with the four
+// grids, the menu bar, the toolbar and the status bar. It routes every command to the routine
+// that carries it out. The selection lives in txtzakazka and txtSestava: writing them refreshes
+// the page, exactly as the hidden text boxes of the old window did.
+#include <QMainWindow>
+
+class QAction;
+class QLabel;
+class QTableWidget;
+class QTabWidget;
+class QTreeWidget;
+class QTreeWidgetItem;
+class QtPrompt;
+class Uloziste;
+
+class FrmBorovak : public QMainWindow {
+    Q_OBJECT
+public:
+    FrmBorovak(Uloziste& uloziste, QtPrompt& prompt);
+
+    // The selection (what the hidden text boxes held).
+    QString txtzakazka() const { return m_txtzakazka; }
+    QString txtSestava() const { return m_txtSestava; }
+    void nastavZakazku(const QString& zakazka); // fires the order's refresh
+    void nastavSestavu(const QString& sestava); // fires the assembly's refresh
+
+    void NaplnitStrom();
+    void ZakazEditaciZakazky();
+    void PovolEditaciZakazky();
+    void ZakazEditaciSestavy();
+    void PovolEditaciSestavy();
+
+    // The commands of the menu bar and the toolbar, by entry name.
+    void prikaz(const QString& nazev);
+    QAction* akce(const QString& nazev) const;
+
+protected:
+    void closeEvent(QCloseEvent* e) override;
+
+private:
+    void vytvorMenu();
+    void vytvorNastroje();
+    QWidget* vytvorStranku(const char* nazevRamce1, const QString& titulek1, QTableWidget*& grid1,
+                           const QStringList& sloupce1, const char* nazevRamce2, const QString& titulek2,
+                           QTableWidget*& grid2, const QStringList& sloupce2, const QStringList& tlacitka1,
+                           const QStringList& tlacitka2);
+    void povol(const QStringList& nazvy, bool ano);
+    void klikNaUzel(QTreeWidgetItem* uzel);
+    void obnovZakazku();
+    void obnovSestavu();
+    void ZahajNP();
+    void ZalohaDat();
+    void ObnovaDat();
+    void obnovGeometrii();
+    void ulozGeometrii();
+
+    Uloziste& m_uloziste;
+    QtPrompt& m_prompt;
+    QString m_txtzakazka, m_txtSestava;
+    QString m_AktZakazka, m_AktSestava;
+    QTreeWidget* m_tvzakazky;
+    QTabWidget* m_stZakazky;
+    QTableWidget* m_GridFormaty;
+    QTableWidget* m_GridHrany;
+    QTableWidget* m_GPM;
+    QTableWidget* m_GPR;
+    QLabel* m_img1;
+    QLabel* m_panel[3];
+};

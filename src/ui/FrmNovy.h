@@ -1,0 +1,60 @@
+#pragma once
+// The entry dialog frmNovy: one modal window that shows one of its frames, chosen by its Tag.
+// Here the frames of a plan run: fraVolbaNP (format, mode, further variants) and
+// fraOptimalizace (progress, the trembling icon, Storno).
+#include "core/Prompt.h"
+#include "optimiser/PlanRun.h"
+
+#include <QDialog>
+
+class QComboBox;
+class QLabel;
+class QProgressBar;
+class QPushButton;
+class QSlider;
+class QStackedWidget;
+class QTimer;
+
+class FrmNovy : public QDialog, public Prubeh {
+    Q_OBJECT
+public:
+    explicit FrmNovy(QWidget* rodic = nullptr);
+
+    QString Tag;
+
+    // fraVolbaNP: the formats with boards and the variant counts; returns false on "Zpět".
+    struct VolbaNP {
+        double IDFormatuNP = 0;
+        ZpusobNP zpusob = ZpusobNP::Kombinovane;
+        int VolbaNPDeska = 0;
+    };
+    bool zvolNP(const std::vector<FormatNP>& formaty, const std::vector<int>& pocetDesek, VolbaNP& volba);
+
+    // fraOptimalizace: shows the progress frame and, from a single-shot timer inside the modal
+    // dialog, runs beh; the dialog closes when beh returns or Storno is pressed.
+    void optimalizuj(ZpusobNP zpusob, const std::function<void()>& beh);
+    bool storno() const { return m_storno; }
+
+    // Prubeh
+    void popisek(const QString& text) override;
+    void hodnota(double h) override;
+    double maximum() const override;
+    void zobraz() override;
+    bool prerusit() override;
+
+private:
+    void ukaz(QWidget* ramec, const QString& titulek, int navic);
+
+    QStackedWidget* m_ramce;
+    QWidget* m_fraVolbaNP;
+    QComboBox* m_cmbMaterialNP;
+    QComboBox* m_cmbZpusobRezani;
+    QSlider* m_slVolba;
+    QWidget* m_fraOptimalizace;
+    QLabel* m_lblNP;
+    QProgressBar* m_progressBar1;
+    QLabel* m_imgIkona;
+    QTimer* m_timIkona;
+    QPoint m_ikonaPozice;
+    bool m_storno = false;
+};
