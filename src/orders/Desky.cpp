@@ -1,0 +1,168 @@
+#include "orders/Desky.h"
+
+#include "core/Database.h"
+#include "core/Dotaz.h"
+#include "core/Jednotky.h"
+#include "core/Prompt.h"
+#include "core/Razitko.h"
+#include "core/Recordset.h"
+#include "core/Transakce.h"
+#include "orders/Materialy.h"
+
+namespace Desky {
+namespace {
+
+const char* const hranyPole[] = {"IDHX1", "IDHX2", "IDHY1", "IDHY2"};
+
+QString sestavy(const QString& zakazka, const QString& sestava)
+{
+    return QStringLiteral("SELECT * FROM Zakazky WHERE Zakazka = '") + Dotaz::text(zakazka) +
+           QStringLiteral("' and Sestava = '") + Dotaz::text(sestava) + QStringLiteral("'");
+}
+
+std::optional<Recordset> podleNazvu(Database& db, const QString& zakazka, const QString& sestava, const QString& oznaceni)
+{
+    Recordset rs(db, sestavy(zakazka, sestava) + QStringLiteral(" and Oznaceni = '") + Dotaz::text(oznaceni) +
+                         QStringLiteral("'ORDER BY Oznaceni"),
+                 Recordset::Rozsah::Prvni);
+    if (rs.eof())
+        return std::nullopt;
+    return rs;
+}
+
+Deska cti(const Recordset& rs)
+{
+    Deska d{rs.text(QStringLiteral("Oznaceni")), rs.cislo(QStringLiteral("x")), rs.cislo(QStringLiteral("y")),
+            rs.cislo(QStringLiteral("Pocet")), rs.ano(QStringLiteral("OV")), rs.cislo(QStringLiteral("IDFormat"))};
+    for (int i = 0; i < 4; ++i)
+        d.hrany[i] = rs.cislo(QLatin1String(hranyPole[i]));
+    return d;
+}
+
+void zapis(Recordset& rs, const Deska& d, const QString& nazev)
+{
+    rs.set(QStringLiteral("IDFormat"), d.idFormat);
+    for (int i = 0; i < 4; ++i)
+        rs.set(QLatin1String(hranyPole[i]), d.hrany[i]);
+    rs.set(QStringLiteral("Oznaceni"), nazev);
+    rs.set(QStringLiteral("x"), d.x);
+    rs.set(QStringLiteral("y"), d.y);
+    rs.set(QStringLiteral("Pocet"), d.pocet);
+    rs.set(QStringLiteral("OV"), d.ov);
+}
+
+QString nazevNoveDesky(Database& db, const QString& zakazka, const QString& sestava, const QString& nazev)
+{
+    if (!nazev.trimmed().isEmpty())
+        return nazev;
+    for (int n = 1;; ++n) {
+        const QString zkouska = QStringLiteral("deska %1").arg(n);
+        if (!podleNazvu(db, zakazka, sestava, zkouska))
+            return zkouska;
+    }
+}
+
+bool duplicita(Database& db, Prompt& p, const QString& zakazka, const QString& sestava, const QString& nazev)
+{
+    if (!podleNazvu(db, zakazka, sestava, nazev))
+        return false;
+    p.zprava(QStringLiteral("Název desky již v sestavě existuje"), QString(), Prompt::Ikona::Kriticka);
+    return true;
+}
+
+} // namespace
+
+std::vector<RadekGridu> NaplnitGridPM(Database& db, const QString& zakazka, const QString& sestava)
+{
+    std::vector<RadekGridu> radky;
+    for (Recordset rs(db, QStringLiteral("SELECT * FROM Zakazky  WHERE Zakazka = '") + Dotaz::text(zakazka) +
+                              QStringLiteral("' and Sestava = '") + Dotaz::text(sestava) +
+                              QStringLiteral("' and IDFormat > 1  ORDER BY cas"));
+         !rs.eof(); rs.moveNext()) {
+        RadekGridu r{cti(rs), QString()};
+        const Recordset f(db, QStringLiteral("SELECT * FROM ZakazkyMaterialy  WHERE Zakazka = '") + Dotaz::text(zakazka) +
+                                  QStringLiteral("' and ID = ") + Dotaz::cislo(r.deska.idFormat),
+                          Recordset::Rozsah::Prvni);
+        if (!f.eof())
+            r.format = Jednotky::RozmerDesky(f.text(QStringLiteral("Material")), f.cislo(QStringLiteral("RozmerX")),
+                                             f.cislo(QStringLiteral("RozmerY")));
+        radky.push_back(r);
+    }
+    return radky;
+}
+
+Deska nacti(Database& db, const QString& zakazka, const QString& sestava, const QString& oznaceni)
+{
+    auto rs = podleNazvu(db, zakazka, sestava, oznaceni);
+    return rs ? cti(*rs) : Deska{};
+}
+
+QString UlozitNovyPM(Database& db, Prompt& p, const QString& zakazka, const QString& sestava, const Deska& d)
+{
+    Transakce t(db);
+    const QString nazev = nazevNoveDesky(db, zakazka, sestava, d.oznaceni);
+    if (duplicita(db, p, zakazka, sestava, nazev))
+        return QString();
+    Recordset vse(db, sestavy(zakazka, sestava) + QStringLiteral("ORDER BY Sestava"));
+    vse.moveLast();
+    if (vse.recordCount() < 2 && !vse.eof() && vse.text(QStringLiteral("Oznaceni")).isEmpty()) {
+        vse.edit(); // the first item takes over the assembly's header row
+        zapis(vse, d, nazev);
+        vse.set(QStringLiteral("cas"), Razitko::sekundy(Razitko::ted()));
+        vse.update();
+    } else {
+        Recordset rs(db, QStringLiteral("Zakazky"), Recordset::Rozsah::Prvni);
+        rs.addNew();
+        for (const char* pole : {"Zakazka", "Sestava", "pocetelementuVsestave", "popis", "schema", "Poznamka", "datum"})
+            rs.set(QLatin1String(pole), vse.eof() ? QVariant() : vse.value(QLatin1String(pole)));
+        zapis(rs, d, nazev);
+        rs.set(QStringLiteral("cas"), Razitko::sekundy(Razitko::ted()));
+        rs.update();
+    }
+    t.commit();
+    return nazev;
+}
+
+QString UlozitUpravuPM(Database& db, Prompt& p, const QString& zakazka, const QString& sestava,
+                       const QString& staryNazev, const Deska& d)
+{
+    Transakce t(db);
+    const QString nazev = nazevNoveDesky(db, zakazka, sestava, d.oznaceni);
+    if (nazev != staryNazev && duplicita(db, p, zakazka, sestava, nazev))
+        return QString();
+    auto rs = podleNazvu(db, zakazka, sestava, staryNazev);
+    if (!rs)
+        return QString();
+    rs->edit();
+    zapis(*rs, d, nazev); // the stamp stays: the board keeps its place
+    rs->update();
+    t.commit();
+    return nazev;
+}
+
+bool SmazatPM(Database& db, Prompt& p, const QString& zakazka, const QString& sestava, const QString& oznaceni)
+{
+    const Deska d = nacti(db, zakazka, sestava, oznaceni);
+    if (p.zprava(QStringLiteral("Chcete odstranit tuto desku - ") + oznaceni + QStringLiteral(" (") +
+                     Jednotky::ZMilimetru(d.x) + QStringLiteral(" x ") + Jednotky::ZMilimetru(d.y) + QStringLiteral(")") +
+                     QStringLiteral(" - ?"),
+                 QStringLiteral("Odstranění desky"), Prompt::Ikona::Otaznik, Prompt::Tlacitka::AnoNe) !=
+        Prompt::Odpoved::Ano)
+        return false;
+    Transakce t(db);
+    Recordset vse(db, sestavy(zakazka, sestava));
+    auto rs = podleNazvu(db, zakazka, sestava, oznaceni);
+    if (rs && vse.recordCount() < 2) {
+        rs->edit(); // the row stays as the assembly's header
+        rs->set(QStringLiteral("Oznaceni"), QString());
+        for (const char* pole : {"x", "y", "OV", "Pocet", "Cena", "IDFormat", "IDHX1", "IDHX2", "IDHY1", "IDHY2"})
+            rs->set(QLatin1String(pole), 0);
+        rs->update();
+    } else if (rs) {
+        rs->remove();
+    }
+    t.commit();
+    return true;
+}
+
+}

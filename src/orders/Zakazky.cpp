@@ -1,0 +1,194 @@
+#include "orders/Zakazky.h"
+
+#include "core/Database.h"
+#include "core/Dotaz.h"
+#include "core/Prompt.h"
+#include "core/Razitko.h"
+#include "core/Recordset.h"
+#include "core/Transakce.h"
+
+namespace Zakazky {
+namespace {
+
+QString z(const QString& t) { return Dotaz::text(t); }
+
+QString radkyZakazky(const QString& zakazka)
+{
+    return QStringLiteral("SELECT * FROM Zakazky  WHERE Zakazka = '") + z(zakazka) + QStringLiteral("'");
+}
+
+QString radkySestavy(const QString& zakazka, const QString& sestava)
+{
+    return QStringLiteral("SELECT * FROM Zakazky  WHERE Zakazka = '") + z(zakazka) + QStringLiteral("' and Sestava = '") +
+           z(sestava) + QStringLiteral("' ");
+}
+
+bool existuje(Database& db, const QString& sql)
+{
+    return !Recordset(db, sql, Recordset::Rozsah::Prvni).prazdny();
+}
+
+void zapisSestavu(Recordset& rs, const Sestava& s)
+{
+    rs.set(QStringLiteral("Sestava"), s.nazev);
+    rs.set(QStringLiteral("popis"), s.popis);
+    rs.set(QStringLiteral("pocetelementuVsestave"), s.pocet);
+    rs.set(QStringLiteral("schema"), s.schema);
+}
+
+// An assembly's last row made back into the order's header row.
+void naHlavickuZakazky(Recordset& rs)
+{
+    rs.edit();
+    rs.set(QStringLiteral("Sestava"), QString());
+    rs.set(QStringLiteral("schema"), 0);
+    rs.set(QStringLiteral("popis"), QString());
+    rs.set(QStringLiteral("pocetelementuVsestave"), 0);
+    rs.set(QStringLiteral("Oznaceni"), QString());
+    for (const char* pole : {"x", "y", "OV", "Pocet", "Cena"})
+        rs.set(QLatin1String(pole), 0);
+    rs.update();
+}
+
+} // namespace
+
+bool UlozitNovouZakazku(Database& db, Prompt& p, const QString& nazev, const QString& poznamka)
+{
+    if (existuje(db, radkyZakazky(nazev))) {
+        p.zprava(QStringLiteral("Zakazka pod tímhle názvem již existuje, zadejte jiný nazev !!!"),
+                 QStringLiteral("Špatné zadání názvu zakázky"), Prompt::Ikona::Kriticka);
+        return false;
+    }
+    Recordset rs(db, QStringLiteral("Zakazky"), Recordset::Rozsah::Prvni);
+    rs.addNew();
+    rs.set(QStringLiteral("Zakazka"), nazev);
+    rs.set(QStringLiteral("Poznamka"), poznamka);
+    rs.set(QStringLiteral("Sestava"), QString());
+    rs.set(QStringLiteral("Oznaceni"), QString());
+    rs.set(QStringLiteral("datum"), Razitko::den(Razitko::ted()));
+    rs.update();
+    return true;
+}
+
+bool UlozitUpravuZakazky(Database& db, Prompt& p, const QString& stary, const QString& nazev, const QString& poznamka)
+{
+    if (nazev != stary && existuje(db, radkyZakazky(nazev))) {
+        p.zprava(QStringLiteral("Zakazka pod tímhle názvem již existuje, zadejte jiný nazev !!!"),
+                 QStringLiteral("Špatné zadání názvu zakázky"), Prompt::Ikona::Kriticka);
+        return false;
+    }
+    Transakce t(db);
+    for (Recordset rs(db, radkyZakazky(stary)); !rs.eof(); rs.moveNext()) {
+        rs.edit();
+        rs.set(QStringLiteral("Zakazka"), nazev);
+        rs.set(QStringLiteral("Poznamka"), poznamka);
+        rs.update();
+    }
+    if (nazev != stary)
+        for (Recordset rs(db, QStringLiteral("SELECT * FROM ZakazkyMaterialy  WHERE Zakazka = '") + z(stary) +
+                                  QStringLiteral("'"));
+             !rs.eof(); rs.moveNext()) {
+            rs.edit();
+            rs.set(QStringLiteral("Zakazka"), nazev);
+            rs.update();
+        }
+    t.commit();
+    return true;
+}
+
+bool SmazatZakazku(Database& db, Prompt& p, const QString& nazev)
+{
+    if (p.zprava(QStringLiteral("Chcete zakázku:  ") + nazev + QStringLiteral("      odstranit ?"),
+                 QStringLiteral("Odstranění zakázky"), Prompt::Ikona::Otaznik, Prompt::Tlacitka::AnoNe) !=
+        Prompt::Odpoved::Ano)
+        return false;
+    Transakce t(db);
+    for (Recordset rs(db, QStringLiteral("SELECT * FROM Zakazky WHERE Zakazka = '") + z(nazev) + QStringLiteral("'"));
+         !rs.eof(); rs.moveNext())
+        rs.remove();
+    for (Recordset rs(db, QStringLiteral("SELECT * FROM ZakazkyMaterialy WHERE Zakazka = '") + z(nazev) + QStringLiteral("'"));
+         !rs.eof(); rs.moveNext())
+        rs.remove();
+    t.commit();
+    return true;
+}
+
+Sestava nactiSestavu(Database& db, const QString& zakazka, const QString& nazev)
+{
+    const Recordset rs(db, radkySestavy(zakazka, nazev) + QStringLiteral("ORDER BY Zakazka"), Recordset::Rozsah::Prvni);
+    if (rs.eof())
+        return {nazev, QString(), 1, 0};
+    return {nazev, rs.text(QStringLiteral("popis")), rs.cislo(QStringLiteral("pocetelementuVsestave")),
+            int(rs.cislo(QStringLiteral("schema")))};
+}
+
+bool UlozitNovouSestavu(Database& db, Prompt& p, const QString& zakazka, const Sestava& s)
+{
+    if (existuje(db, radkySestavy(zakazka, s.nazev))) {
+        p.zprava(QStringLiteral("Sestava pod tímhle názvem již existuje, zadejte jiný nazev !!!"), QString(),
+                 Prompt::Ikona::Kriticka);
+        return false;
+    }
+    Transakce t(db);
+    Recordset vse(db, radkyZakazky(zakazka));
+    if (vse.recordCount() == 1 && vse.text(QStringLiteral("Sestava")).isEmpty()) {
+        vse.edit(); // the order's header row becomes the first assembly
+        zapisSestavu(vse, s);
+        vse.update();
+    } else {
+        Recordset rs(db, QStringLiteral("Zakazky"), Recordset::Rozsah::Prvni);
+        rs.addNew();
+        for (const char* pole : {"Zakazka", "datum", "Poznamka"})
+            rs.set(QLatin1String(pole), vse.eof() ? QVariant() : vse.value(QLatin1String(pole)));
+        zapisSestavu(rs, s);
+        rs.set(QStringLiteral("Oznaceni"), QString());
+        rs.update();
+    }
+    t.commit();
+    return true;
+}
+
+bool UlozitUpravuSestavy(Database& db, Prompt& p, const QString& zakazka, const QString& stary, const Sestava& s)
+{
+    if (s.nazev != stary && existuje(db, radkySestavy(zakazka, s.nazev) + QStringLiteral("ORDER BY Zakazka"))) {
+        p.zprava(QStringLiteral("Sestava pod tímhle názvem již existuje, zadejte jiný nazev !!!"), QString(),
+                 Prompt::Ikona::Kriticka);
+        return false;
+    }
+    Transakce t(db);
+    for (Recordset rs(db, radkySestavy(zakazka, stary)); !rs.eof(); rs.moveNext()) {
+        rs.edit();
+        zapisSestavu(rs, s);
+        rs.update();
+    }
+    t.commit();
+    return true;
+}
+
+bool SmazatSestavu(Database& db, Prompt& p, const QString& zakazka, const QString& nazev)
+{
+    if (p.zprava(QStringLiteral("Chcete smazat sestavu - ") + nazev + QStringLiteral(" - ?"),
+                 QStringLiteral("Odstranění sestavy"), Prompt::Ikona::Otaznik, Prompt::Tlacitka::AnoNe) !=
+        Prompt::Odpoved::Ano)
+        return false;
+    Transakce t(db);
+    const bool jine = existuje(db, QStringLiteral("SELECT * FROM Zakazky  WHERE Zakazka = '") + z(zakazka) +
+                                       QStringLiteral("' and Sestava <> '") + z(nazev) + QStringLiteral("'"));
+    Recordset rs(db, radkySestavy(zakazka, nazev));
+    for (int i = 0; !rs.eof(); rs.moveNext(), ++i) {
+        if (!jine && i == rs.recordCount() - 1)
+            naHlavickuZakazky(rs); // the last row stays as the order's header
+        else
+            rs.remove();
+    }
+    t.commit();
+    return true;
+}
+
+QString poznamka(Database& db, const QString& zakazka)
+{
+    const Recordset rs(db, radkyZakazky(zakazka), Recordset::Rozsah::Prvni);
+    return rs.eof() ? QString() : rs.text(QStringLiteral("Poznamka"));
+}
+
+}

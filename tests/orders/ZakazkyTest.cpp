@@ -1,0 +1,97 @@
+// Orders, assemblies, formats, bands and boards: the header-row rules, the refusals with their
+// messages, the twin merge, and that a refusal writes nothing.
+#include "DomovTest.h"
+#include "SkriptovanyPrompt.h"
+#include "core/Razitko.h"
+#include "core/Recordset.h"
+#include "orders/Desky.h"
+#include "orders/Materialy.h"
+#include "orders/Strom.h"
+#include "orders/Zakazky.h"
+
+namespace {
+int radku(Database& db, const QString& kde = QString())
+{
+    return db.hodnota(QStringLiteral("SELECT count(*) FROM Zakazky ") + kde).toInt();
+}
+}
+
+class Objednavky : public DomovTest {
+protected:
+    Database& db() { return uloziste().dataS(); }
+    SkriptovanyPrompt p;
+};
+
+TEST_F(Objednavky, HlavickoveRadkyZakazkyASestavy)
+{
+    ASSERT_TRUE(Zakazky::UlozitNovouZakazku(db(), p, QStringLiteral("Novák's"), QStringLiteral("kuchyň")));
+    EXPECT_EQ(radku(db()), 1);
+    EXPECT_FALSE(Zakazky::UlozitNovouZakazku(db(), p, QStringLiteral("NOVÁK'S"), QString()));
+    EXPECT_EQ(p.zpravy.last(), QStringLiteral("Zakazka pod tímhle názvem již existuje, zadejte jiný nazev !!!"));
+    // the first assembly takes over the header row, the second adds one
+    ASSERT_TRUE(Zakazky::UlozitNovouSestavu(db(), p, QStringLiteral("Novák's"), {QStringLiteral("S1"), QString(), 2, 0}));
+    EXPECT_EQ(radku(db()), 1);
+    ASSERT_TRUE(Zakazky::UlozitNovouSestavu(db(), p, QStringLiteral("Novák's"), {QStringLiteral("S2"), QString(), 1, 0}));
+    EXPECT_EQ(radku(db()), 2);
+    EXPECT_FALSE(Zakazky::UlozitNovouSestavu(db(), p, QStringLiteral("Novák's"), {QStringLiteral("s1"), QString(), 1, 0}));
+    const auto strom = NaplnitStrom(db());
+    ASSERT_EQ(strom.size(), 1u);
+    EXPECT_EQ(strom[0].sestavy[0].text(), QStringLiteral("S1 ( 2 ks )"));
+    // deleting the only assembly left leaves the order with its header row
+    p.odpovez(Prompt::Odpoved::Ano);
+    p.odpovez(Prompt::Odpoved::Ano);
+    ASSERT_TRUE(Zakazky::SmazatSestavu(db(), p, QStringLiteral("Novák's"), QStringLiteral("S1")));
+    ASSERT_TRUE(Zakazky::SmazatSestavu(db(), p, QStringLiteral("Novák's"), QStringLiteral("S2")));
+    EXPECT_EQ(radku(db()), 1);
+    EXPECT_TRUE(NaplnitStrom(db())[0].sestavy.empty());
+}
+
+TEST_F(Objednavky, DeskyPojmenovaniPrevzetiHlavickyAVraceni)
+{
+    Zakazky::UlozitNovouZakazku(db(), p, QStringLiteral("Z"), QString());
+    Materialy::UlozitNovyFormat(db(), QStringLiteral("Z"), {0, QStringLiteral("DTD"), 2800, 2070, false, 350});
+    const double f = Materialy::formaty(db(), QStringLiteral("Z"))[0].ID;
+    Zakazky::UlozitNovouSestavu(db(), p, QStringLiteral("Z"), {QStringLiteral("S"), QStringLiteral("popis"), 3, 0});
+    Desky::Deska d{QString(), 720, 560, 2, false, f};
+    EXPECT_EQ(Desky::UlozitNovyPM(db(), p, QStringLiteral("Z"), QStringLiteral("S"), d), QStringLiteral("deska 1"));
+    EXPECT_EQ(radku(db()), 1); // took over the header row
+    EXPECT_EQ(Desky::UlozitNovyPM(db(), p, QStringLiteral("Z"), QStringLiteral("S"), d), QStringLiteral("deska 2"));
+    d.oznaceni = QStringLiteral("DESKA 1");
+    EXPECT_TRUE(Desky::UlozitNovyPM(db(), p, QStringLiteral("Z"), QStringLiteral("S"), d).isNull());
+    EXPECT_EQ(p.zpravy.last(), QStringLiteral("Název desky již v sestavě existuje"));
+    const auto grid = Desky::NaplnitGridPM(db(), QStringLiteral("Z"), QStringLiteral("S"));
+    ASSERT_EQ(grid.size(), 2u);
+    EXPECT_EQ(grid[0].format, QStringLiteral("DTD (2800 mm x 2070 mm)"));
+    p.odpovez(Prompt::Odpoved::Ano);
+    p.odpovez(Prompt::Odpoved::Ano);
+    Desky::SmazatPM(db(), p, QStringLiteral("Z"), QStringLiteral("S"), QStringLiteral("deska 1"));
+    Desky::SmazatPM(db(), p, QStringLiteral("Z"), QStringLiteral("S"), QStringLiteral("deska 2"));
+    Recordset h(db(), QStringLiteral("Zakazky"));
+    ASSERT_EQ(h.recordCount(), 1);
+    EXPECT_EQ(h.text(QStringLiteral("Oznaceni")), QString());
+    EXPECT_EQ(h.cislo(QStringLiteral("pocetelementuVsestave")), 3);
+    EXPECT_EQ(h.text(QStringLiteral("popis")), QStringLiteral("popis"));
+}
+
+TEST_F(Objednavky, SlouceniDvojcetFormatuAFormatVPouzitiNejdeSmazat)
+{
+    Zakazky::UlozitNovouZakazku(db(), p, QStringLiteral("Z"), QString());
+    Materialy::UlozitNovyFormat(db(), QStringLiteral("Z"), {0, QStringLiteral("DTD"), 2800, 2070, false, 350});
+    Razitko::nastavHodiny([] { return QDateTime(QDate(2026, 3, 5), QTime(10, 0, 5)); });
+    Materialy::UlozitNovyFormat(db(), QStringLiteral("Z"), {0, QStringLiteral("DTD 2"), 2800, 2070, false, 350});
+    auto f = Materialy::formaty(db(), QStringLiteral("Z"));
+    ASSERT_EQ(f.size(), 2u);
+    Zakazky::UlozitNovouSestavu(db(), p, QStringLiteral("Z"), {QStringLiteral("S"), QString(), 1, 0});
+    Desky::UlozitNovyPM(db(), p, QStringLiteral("Z"), QStringLiteral("S"), {QStringLiteral("bok"), 720, 560, 1, false, f[1].ID});
+    // the edited second format becomes the twin of the first: merged, its boards follow
+    Materialy::Material m = f[1];
+    m.nazev = QStringLiteral("DTD");
+    p.odpovez(Prompt::Odpoved::Ano);
+    EXPECT_EQ(Materialy::UlozitUpravuFormatu(db(), p, QStringLiteral("Z"), m), Materialy::Uprava::Slouceno);
+    EXPECT_EQ(Materialy::formaty(db(), QStringLiteral("Z")).size(), 1u);
+    EXPECT_EQ(Desky::nacti(db(), QStringLiteral("Z"), QStringLiteral("S"), QStringLiteral("bok")).idFormat, f[0].ID);
+    p.odpovez(Prompt::Odpoved::Ano);
+    EXPECT_FALSE(Materialy::SmazatFormat(db(), p, QStringLiteral("Z"), f[0]));
+    EXPECT_EQ(p.zpravy.last(), QStringLiteral("Formát je použit v sestavách a proto ho není možné smazat !!!"));
+    EXPECT_EQ(Materialy::idPodleTextu(db(), QStringLiteral("Z"), QStringLiteral("DTD (2800 mm x 2070 mm)"), false), f[0].ID);
+}
