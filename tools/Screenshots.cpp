@@ -7,6 +7,7 @@
 #include "ui/FrmBorovak.h"
 #include "ui/FrmNovy.h"
 #include "ui/QtPrompt.h"
+#include "orders/Materialy.h"
 
 #include <QApplication>
 #include <QDir>
@@ -56,6 +57,44 @@ int main(int argc, char** argv)
     strom->setCurrentItem(zakazka->child(0));
     emit strom->itemClicked(zakazka->child(0), 0);
     uloz(&okno, vystup, QStringLiteral("frmBorovak-sestava"));
+
+    // the entry frames, each grabbed as soon as it stands and closed again
+    auto ramec = [&](const QString& nazev, const std::function<void(FrmNovy&)>& otevri) {
+        FrmNovy d(&okno);
+        QTimer::singleShot(50, &d, [&] {
+            uloz(&d, vystup, nazev);
+            d.reject();
+        });
+        otevri(d);
+    };
+    using Po = FrmNovy::PoUlozeni;
+    ramec(QStringLiteral("frmNovy-fraZakazka"), [](FrmNovy& d) {
+        d.zakazka(QStringLiteral("NovaZakazka"), QStringLiteral("Kuchyně Novák"), QStringLiteral("linka 2,4 m"),
+                  [](const QString&, const QString&) { return Po::Zavrit; });
+    });
+    ramec(QStringLiteral("frmNovy-fraTyp"), [](FrmNovy& d) {
+        d.sestava(QStringLiteral("NovaSestava"), {QStringLiteral("Dřez80"), QStringLiteral("Spodní skříňka"), 1, 0},
+                  [](const Zakazky::Sestava&) { return Po::Zavrit; });
+    });
+    ramec(QStringLiteral("frmNovy-fraMaterial"), [](FrmNovy& d) {
+        d.material(QStringLiteral("UpraveniFormatu"), false, {1, QStringLiteral("DTD bílá 18"), 2800, 2070, true, 350},
+                   [](const Materialy::Material&) { return Po::Zavrit; });
+    });
+    ramec(QStringLiteral("frmNovy-fraHrana"), [](FrmNovy& d) {
+        d.material(QStringLiteral("UpraveniHrany"), true, {1, QStringLiteral("ABS bílá 2"), 0, 0, false, 12.5, 255, 2},
+                   [](const Materialy::Material&) { return Po::Zavrit; });
+    });
+    ramec(QStringLiteral("frmNovy-fraPlMat"), [&](FrmNovy& d) {
+        const auto hrany = Materialy::hrany(u.dataS(), QStringLiteral("Kuchyně Novák"));
+        FrmNovy::TextyDesky t{Materialy::textFormatu(Materialy::formaty(u.dataS(), QStringLiteral("Kuchyně Novák"))[0])};
+        t.hrany[0] = t.hrany[1] = Materialy::textHrany(hrany[0]);
+        t.hrany[2] = Materialy::textHrany(hrany[1]);
+        QStringList ht;
+        for (const auto& h : hrany)
+            ht << Materialy::textHrany(h);
+        d.deska(QStringLiteral("UpraveniPM"), {t.format}, ht, hrany, {QStringLiteral("dvířka"), 716, 396, 2, false}, t,
+                [](const Desky::Deska&, const FrmNovy::TextyDesky&) { return Po::Zavrit; });
+    });
 
     FrmNovy volba(&okno);
     QTimer::singleShot(0, &volba, [&] {

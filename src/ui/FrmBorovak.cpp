@@ -36,8 +36,16 @@
 namespace {
 
 // Commands whose routines are in place; every other entry stands disabled until its own arrives.
-const QStringList hotove = {QStringLiteral("NP"),       QStringLiteral("Vz"),        QStringLiteral("OD"),
-                            QStringLiteral("Konec"),    QStringLiteral("NapovedaObsah"), QStringLiteral("OProgramu")};
+const QStringList hotove = {
+    QStringLiteral("NP"), QStringLiteral("Vz"), QStringLiteral("OD"), QStringLiteral("Konec"),
+    QStringLiteral("NapovedaObsah"), QStringLiteral("OProgramu"), QStringLiteral("NZakazka"),
+    QStringLiteral("UpraveniZakazky"), QStringLiteral("SmazaniZakazky"), QStringLiteral("NSestava"),
+    QStringLiteral("USestava"), QStringLiteral("SmazaniSestavy"), QStringLiteral("NF"), QStringLiteral("UF"),
+    QStringLiteral("SF"), QStringLiteral("NH"), QStringLiteral("UH"), QStringLiteral("SH"), QStringLiteral("NovyPloM"),
+    QStringLiteral("UpraveniPM"), QStringLiteral("SmazaniPM"), QStringLiteral("cmdNovyFormat"),
+    QStringLiteral("cmdUpravitFormat"), QStringLiteral("cmdSmazatFormat"), QStringLiteral("cmdNovaHrana"),
+    QStringLiteral("cmdUpravitHrana"), QStringLiteral("cmdSmazatHrana"), QStringLiteral("cmdNovyPM"),
+    QStringLiteral("cmdUpravitPM"), QStringLiteral("cmdSmazatPM")};
 
 constexpr int TwipuNaPixel = 15; // the old window positions were kept in screen twips
 
@@ -203,11 +211,19 @@ QWidget* FrmBorovak::vytvorStranku(const char* nazevRamce1, const QString& titul
         grid->verticalHeader()->setVisible(false);
         grid->horizontalHeader()->setStretchLastSection(true);
         grid->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
+        connect(grid, &QTableWidget::cellDoubleClicked, this, [this, nazevGridu] {
+            static const QHash<QString, QString> upravy = {{QStringLiteral("GridFormaty"), QStringLiteral("UF")},
+                                                           {QStringLiteral("GridHrany"), QStringLiteral("UH")},
+                                                           {QStringLiteral("GPM"), QStringLiteral("UpraveniPM")}};
+            if (upravy.contains(nazevGridu))
+                prikaz(upravy.value(nazevGridu));
+        });
         auto* sloupec = new QVBoxLayout;
         for (const QString& t : tlacitka) {
             auto* b = new QPushButton(popisky.value(t));
             b->setObjectName(t);
             b->setEnabled(false);
+            connect(b, &QPushButton::clicked, this, [this, t] { prikaz(t); });
             sloupec->addWidget(b);
         }
         sloupec->addStretch();
@@ -343,8 +359,8 @@ void FrmBorovak::obnovZakazku()
     const Recordset rs(m_uloziste.dataS(), sqlZakazky(m_txtzakazka), Recordset::Rozsah::Prvni);
     m_panel[0]->setText(rs.eof() ? QString() : rs.text(QStringLiteral("Poznamka")));
     m_panel[0]->setToolTip(QStringLiteral("Poznámka k zakázce"));
-    m_GridFormaty->setRowCount(0);
-    m_GridHrany->setRowCount(0);
+    NaplnitGridFormaty(QStringLiteral("Novy zaznam"));
+    NaplnitGridHrany(QStringLiteral("Novy zaznam"));
     if (!m_txtzakazka.isEmpty())
         PovolEditaciZakazky();
     else
@@ -366,7 +382,7 @@ void FrmBorovak::obnovSestavu()
         m_panel[0]->setText(rs.eof() ? QString() : rs.text(QStringLiteral("popis")));
         m_panel[0]->setToolTip(QStringLiteral("Poznámka k sestavě"));
     }
-    m_GPM->setRowCount(0);
+    NaplnitGridPM(QStringLiteral("Novy zaznam"));
     m_GPR->setRowCount(0);
     if (!m_AktSestava.isEmpty())
         PovolEditaciSestavy();
@@ -377,6 +393,8 @@ void FrmBorovak::obnovSestavu()
 void FrmBorovak::prikaz(const QString& nazev)
 {
     try {
+        if (zaznam(nazev))
+            return;
         if (nazev == QLatin1String("NP"))
             ZahajNP();
         else if (nazev == QLatin1String("Vz"))

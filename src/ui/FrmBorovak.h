@@ -49,6 +49,24 @@ private:
     void klikNaUzel(QTreeWidgetItem* uzel);
     void obnovZakazku();
     void obnovSestavu();
+    // the entry commands (FrmBorovakZaznamy.cpp)
+    bool zaznam(const QString& nazev);
+    void NovaZakazka();
+    void UpravitZakazku();
+    void SmazatZakazku();
+    void NovaSestava();
+    void UpravitSestavu();
+    void SmazatSestavu();
+    void NovyMaterial(bool hrana);
+    void UpravitMaterial(bool hrana);
+    void SmazatMaterial(bool hrana);
+    void NovyPM();
+    void UpravitPM();
+    void SmazatPM();
+    void NaplnitGridFormaty(const QString& akce);
+    void NaplnitGridHrany(const QString& akce);
+    void NaplnitGridPM(const QString& akce);
+    void vyberUzel(QString zakazka, QString sestava); // by value: callers pass the selection itself
     void ZahajNP();
     void ZalohaDat();
     void ObnovaDat();

@@ -4,6 +4,11 @@
 // fraOptimalizace (progress, the trembling icon, Storno).
 #include "core/Prompt.h"
 #include "optimiser/PlanRun.h"
+#include "orders/Desky.h"
+#include "orders/Materialy.h"
+#include "orders/Zakazky.h"
+
+#include <functional>
 
 #include <QDialog>
 
@@ -34,6 +39,24 @@ public:
     // dialog, runs beh; the dialog closes when beh returns or Storno is pressed.
     void optimalizuj(ZpusobNP zpusob, const std::function<void()>& beh);
     bool storno() const { return m_storno; }
+
+    // The entry frames. ulozit is called by the frame's save button with what was typed; its
+    // answer says what the dialog does next. The dialog returns when it closes.
+    enum class PoUlozeni { Odmitnuto, Dalsi, Zavrit };
+    void zakazka(const QString& tag, const QString& nazev, const QString& poznamka,
+                 const std::function<PoUlozeni(const QString&, const QString&)>& ulozit);
+    void sestava(const QString& tag, const Zakazky::Sestava& s,
+                 const std::function<PoUlozeni(const Zakazky::Sestava&)>& ulozit);
+    void material(const QString& tag, bool hrana, const Materialy::Material& m,
+                  const std::function<PoUlozeni(const Materialy::Material&)>& ulozit);
+    // formaty and hrany are the combos' texts; the save gets them back as typed.
+    struct TextyDesky {
+        QString format;
+        QString hrany[4];
+    };
+    void deska(const QString& tag, const QStringList& formaty, const QStringList& hrany,
+               const std::vector<Materialy::Material>& pasky, const Desky::Deska& d, const TextyDesky& texty,
+               const std::function<PoUlozeni(const Desky::Deska&, const TextyDesky&)>& ulozit);
 
     // Prubeh
     void popisek(const QString& text) override;

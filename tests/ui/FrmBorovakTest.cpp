@@ -11,7 +11,11 @@
 #include <QAction>
 #include <QApplication>
 #include <QFile>
+#include <QComboBox>
+#include <QLineEdit>
 #include <QMenuBar>
+#include <QTableWidget>
+#include <QTest>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
@@ -103,4 +107,64 @@ TEST_F(Okno, PlanSpustenyZOknaDobehneAZpravaRekneKolikTabuli)
     EXPECT_TRUE(zpravy[0].startsWith(QStringLiteral("Nářezový plán je hotov: ")));
     EXPECT_TRUE(zpravy[0].contains(QStringLiteral("usazeno 40 desek")));
     EXPECT_FALSE(uloziste().maDataK());
+}
+
+// A whole order entered by hand: new order, its format (the dialog opens by itself), a new
+// assembly and its first board, each through its frame's fields and save button.
+TEST_F(Okno, ZakazkaZadanaRucneOdZakazkyPoDesku)
+{
+    int krok = 0;
+    QTimer ruka;
+    auto vypln = [](QWidget* d, const char* nazev, const QString& text) {
+        if (auto* e = d->findChild<QLineEdit*>(QLatin1String(nazev)))
+            e->setText(text);
+        else if (auto* c = d->findChild<QComboBox*>(QLatin1String(nazev)))
+            c->setCurrentText(text);
+    };
+    QObject::connect(&ruka, &QTimer::timeout, [&] {
+        auto* d = qobject_cast<FrmNovy*>(QApplication::activeModalWidget());
+        if (!d)
+            return;
+        auto stisk = [&](const char* tlacitko) { d->findChild<QPushButton*>(QLatin1String(tlacitko))->click(); };
+        if (d->findChild<QWidget*>(QStringLiteral("fraZakázka")) && krok == 0) {
+            vypln(d, "txtzakazka", QStringLiteral("Skříň 'Dvořák'"));
+            stisk("cmdZakazkaPouzit");
+            krok = 1;
+        } else if (d->findChild<QWidget*>(QStringLiteral("fraMaterial")) && krok == 1) {
+            vypln(d, "txtFormat", QStringLiteral("DTD dub 18"));
+            vypln(d, "txtFX", QStringLiteral("2800"));
+            vypln(d, "txtFY", QStringLiteral("2070"));
+            vypln(d, "txtFCena", QStringLiteral("420"));
+            stisk("cmdFormatUlozit"); // stays open for the next format
+            krok = 2;
+        } else if (d->findChild<QWidget*>(QStringLiteral("fraMaterial")) && krok == 2) {
+            d->close();
+            krok = 3;
+        } else if (d->findChild<QWidget*>(QStringLiteral("fraTyp")) && krok == 4) {
+            vypln(d, "txtNT", QStringLiteral("Skříň12345")); // cut to 7 while typing
+            QTest::keyClicks(d->findChild<QLineEdit*>(QStringLiteral("txtNT")), QStringLiteral("X"));
+            stisk("cmdUlozitP");
+            krok = 5;
+        } else if (d->findChild<QWidget*>(QStringLiteral("fraPlMat")) && krok == 5) {
+            vypln(d, "txtX", QStringLiteral("720"));
+            vypln(d, "txtY", QStringLiteral("560"));
+            vypln(d, "cmbMaterial", QStringLiteral("DTD dub 18 (2800 mm x 2070 mm)"));
+            stisk("cmdUPM");
+            d->close();
+            krok = 6;
+        }
+    });
+    ruka.start(10);
+    okno->prikaz(QStringLiteral("NZakazka"));
+    ASSERT_EQ(krok, 3);
+    EXPECT_EQ(okno->txtzakazka(), QStringLiteral("Skříň 'Dvořák'"));
+    krok = 4;
+    okno->prikaz(QStringLiteral("NSestava"));
+    ASSERT_EQ(krok, 6);
+    EXPECT_EQ(okno->txtSestava(), QStringLiteral("Skříň12"));
+    auto* gpm = okno->findChild<QTableWidget*>(QStringLiteral("GPM"));
+    ASSERT_EQ(gpm->rowCount(), 1);
+    EXPECT_EQ(gpm->item(0, 0)->text(), QStringLiteral("deska 1"));
+    EXPECT_EQ(gpm->item(0, 4)->text(), QStringLiteral("DTD dub 18 (2800 mm x 2070 mm)"));
+    EXPECT_EQ(strom->topLevelItemCount(), 2);
 }

@@ -1,0 +1,24 @@
+#pragma once
+// A numeric field: keys filtered as the old fields filtered them (decimals by the unit or
+// fixed, whole numbers by digits), the whole text selected on focus, and a length shown with
+// its unit's suffix when the focus leaves ("1200" reads "1200 mm").
+#include <QLineEdit>
+
+class CiselnePole : public QLineEdit {
+    Q_OBJECT
+public:
+    enum class Druh { Delka, Desetinne, Cele };
+    CiselnePole(Druh druh, int mist, QWidget* rodic = nullptr);
+    double mm() const;       // a length in millimetres
+    double hodnota() const;  // the number typed
+    void nastavMm(double mm); // a length from the store, shown in the unit
+
+protected:
+    void keyPressEvent(QKeyEvent* e) override;
+    void focusInEvent(QFocusEvent* e) override;
+    void focusOutEvent(QFocusEvent* e) override;
+
+private:
+    Druh m_druh;
+    int m_mist;
+};

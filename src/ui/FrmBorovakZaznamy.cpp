@@ -1,0 +1,369 @@
+// The main window's entry commands: orders, assemblies, formats, bands and boards. Each opens
+// frmNovy in its frame, hands the save to the orders library, and refills and reselects what
+// the save changed.
+#include "ui/FrmBorovak.h"
+
+#include "core/Jednotky.h"
+#include "core/Nastaveni.h"
+#include "core/Uloziste.h"
+#include "orders/Desky.h"
+#include "orders/Materialy.h"
+#include "orders/Zakazky.h"
+#include "ui/FrmNovy.h"
+#include "ui/QtPrompt.h"
+
+#include <QAction>
+#include <QTabWidget>
+#include <QTableWidget>
+#include <QTreeWidget>
+
+using PoUlozeni = FrmNovy::PoUlozeni;
+
+bool FrmBorovak::zaznam(const QString& n)
+{
+    static const std::vector<std::pair<QStringList, void (FrmBorovak::*)()>> prikazy = {
+        {{"NZakazka"}, &FrmBorovak::NovaZakazka},
+        {{"UpraveniZakazky"}, &FrmBorovak::UpravitZakazku},
+        {{"SmazaniZakazky"}, &FrmBorovak::SmazatZakazku},
+        {{"NSestava"}, &FrmBorovak::NovaSestava},
+        {{"USestava"}, &FrmBorovak::UpravitSestavu},
+        {{"SmazaniSestavy"}, &FrmBorovak::SmazatSestavu},
+        {{"NovyPloM", "cmdNovyPM"}, &FrmBorovak::NovyPM},
+        {{"UpraveniPM", "cmdUpravitPM"}, &FrmBorovak::UpravitPM},
+        {{"SmazaniPM", "cmdSmazatPM"}, &FrmBorovak::SmazatPM},
+    };
+    for (const auto& [nazvy, f] : prikazy)
+        if (nazvy.contains(n)) {
+            (this->*f)();
+            return true;
+        }
+    const bool hrana = n == QLatin1String("NH") || n == QLatin1String("UH") || n == QLatin1String("SH") ||
+                       n.endsWith(QLatin1String("Hrana"));
+    if (n == QLatin1String("NF") || n == QLatin1String("NH") || n == QLatin1String("cmdNovyFormat") ||
+        n == QLatin1String("cmdNovaHrana"))
+        NovyMaterial(hrana);
+    else if (n == QLatin1String("UF") || n == QLatin1String("UH") || n == QLatin1String("cmdUpravitFormat") ||
+             n == QLatin1String("cmdUpravitHrana"))
+        UpravitMaterial(hrana);
+    else if (n == QLatin1String("SF") || n == QLatin1String("SH") || n == QLatin1String("cmdSmazatFormat") ||
+             n == QLatin1String("cmdSmazatHrana"))
+        SmazatMaterial(hrana);
+    else
+        return false;
+    return true;
+}
+
+void FrmBorovak::vyberUzel(QString zakazka, QString sestava)
+{
+    NaplnitStrom();
+    for (int i = 0; i < m_tvzakazky->topLevelItemCount(); ++i) {
+        QTreeWidgetItem* z = m_tvzakazky->topLevelItem(i);
+        if (z->text(0) != zakazka)
+            continue;
+        QTreeWidgetItem* cil = z;
+        for (int j = 0; j < z->childCount(); ++j)
+            if (!sestava.isEmpty() && z->child(j)->data(0, Qt::UserRole + 1).toString() == sestava)
+                cil = z->child(j);
+        m_tvzakazky->setCurrentItem(cil);
+        m_tvzakazky->scrollToItem(cil);
+    }
+    m_AktZakazka = zakazka;
+    m_AktSestava = sestava;
+    m_txtzakazka.clear(); // force both refreshes, as the old window did by writing the boxes
+    m_txtSestava = QStringLiteral("\x01");
+    nastavZakazku(zakazka);
+    nastavSestavu(sestava);
+}
+
+void FrmBorovak::NovaZakazka()
+{
+    FrmNovy d(this);
+    QString ulozena;
+    d.zakazka(QStringLiteral("NovaZakazka"), QString(), QString(), [&](const QString& nazev, const QString& poznamka) {
+        if (!Zakazky::UlozitNovouZakazku(m_uloziste.dataS(), m_prompt, nazev, poznamka))
+            return PoUlozeni::Odmitnuto;
+        ulozena = nazev;
+        return PoUlozeni::Zavrit;
+    });
+    if (ulozena.isEmpty())
+        return;
+    vyberUzel(ulozena, QString());
+    NovyMaterial(false); // an order without a format cannot receive boards
+}
+
+void FrmBorovak::UpravitZakazku()
+{
+    FrmNovy d(this);
+    const QString stara = m_txtzakazka;
+    QString nova;
+    d.zakazka(QStringLiteral("UpraveniZakazky"), stara, Zakazky::poznamka(m_uloziste.dataS(), stara),
+              [&](const QString& nazev, const QString& poznamka) {
+                  if (!Zakazky::UlozitUpravuZakazky(m_uloziste.dataS(), m_prompt, stara, nazev, poznamka))
+                      return PoUlozeni::Odmitnuto;
+                  nova = nazev;
+                  return PoUlozeni::Zavrit;
+              });
+    if (!nova.isEmpty())
+        vyberUzel(nova, QString());
+}
+
+void FrmBorovak::SmazatZakazku()
+{
+    if (!Zakazky::SmazatZakazku(m_uloziste.dataS(), m_prompt, m_txtzakazka))
+        return;
+    NaplnitStrom();
+    QTreeWidgetItem* dalsi = m_tvzakazky->topLevelItem(0);
+    vyberUzel(dalsi ? dalsi->text(0) : QString(), QString());
+}
+
+void FrmBorovak::NovaSestava()
+{
+    FrmNovy d(this);
+    QString ulozena;
+    d.sestava(QStringLiteral("NovaSestava"), {QString(), QString(), 1, 0}, [&](const Zakazky::Sestava& s) {
+        if (!Zakazky::UlozitNovouSestavu(m_uloziste.dataS(), m_prompt, m_txtzakazka, s))
+            return PoUlozeni::Odmitnuto;
+        ulozena = s.nazev;
+        return PoUlozeni::Zavrit;
+    });
+    if (ulozena.isEmpty())
+        return;
+    vyberUzel(m_txtzakazka, ulozena);
+    m_stZakazky->setCurrentIndex(1);
+    NovyPM();
+}
+
+void FrmBorovak::UpravitSestavu()
+{
+    FrmNovy d(this);
+    const QString stara = m_txtSestava;
+    Nastaveni::SaveSetting(QStringLiteral("Editor"), QStringLiteral("Sestava"), stara);
+    QString nova;
+    d.sestava(QStringLiteral("UpraveniSestavy"), Zakazky::nactiSestavu(m_uloziste.dataS(), m_txtzakazka, stara),
+              [&](const Zakazky::Sestava& s) {
+                  if (!Zakazky::UlozitUpravuSestavy(m_uloziste.dataS(), m_prompt, m_txtzakazka, stara, s))
+                      return PoUlozeni::Odmitnuto;
+                  nova = s.nazev;
+                  return PoUlozeni::Zavrit;
+              });
+    if (!nova.isEmpty())
+        vyberUzel(m_txtzakazka, nova);
+}
+
+void FrmBorovak::SmazatSestavu()
+{
+    if (Zakazky::SmazatSestavu(m_uloziste.dataS(), m_prompt, m_txtzakazka, m_txtSestava))
+        vyberUzel(m_txtzakazka, QString());
+}
+
+namespace {
+
+// The material of the grid's current row, or nothing.
+std::optional<Materialy::Material> aktualni(QTableWidget* grid, const std::vector<Materialy::Material>& vse)
+{
+    const int r = grid->currentRow();
+    if (r < 0 || r >= int(vse.size()))
+        return std::nullopt;
+    return vse[r];
+}
+
+void nastavRadek(QTableWidget* grid, const QString& akce, int predtim)
+{
+    const int n = grid->rowCount();
+    if (n == 0)
+        return;
+    const int r = akce == QLatin1String("Novy zaznam") ? n - 1 : std::min(std::max(predtim, 0), n - 1);
+    grid->setCurrentCell(r, 0);
+}
+
+} // namespace
+
+void FrmBorovak::NovyMaterial(bool hrana)
+{
+    m_stZakazky->setCurrentIndex(0);
+    FrmNovy d(this);
+    d.material(hrana ? QStringLiteral("NovaHrana") : QStringLiteral("NovyFormat"), hrana, {}, [&](const Materialy::Material& m) {
+        const bool ok = hrana ? Materialy::UlozitNovouHranu(m_uloziste.dataS(), m_txtzakazka, m)
+                              : Materialy::UlozitNovyFormat(m_uloziste.dataS(), m_txtzakazka, m);
+        if (!ok)
+            return PoUlozeni::Odmitnuto;
+        hrana ? NaplnitGridHrany(QStringLiteral("Novy zaznam")) : NaplnitGridFormaty(QStringLiteral("Novy zaznam"));
+        return PoUlozeni::Dalsi;
+    });
+}
+
+void FrmBorovak::UpravitMaterial(bool hrana)
+{
+    m_stZakazky->setCurrentIndex(0);
+    QTableWidget* grid = hrana ? m_GridHrany : m_GridFormaty;
+    const auto vse = hrana ? Materialy::hrany(m_uloziste.dataS(), m_txtzakazka)
+                           : Materialy::formaty(m_uloziste.dataS(), m_txtzakazka);
+    const auto m = aktualni(grid, vse);
+    if (!m)
+        return;
+    FrmNovy d(this);
+    d.material(hrana ? QStringLiteral("UpraveniHrany") : QStringLiteral("UpraveniFormatu"), hrana, *m,
+               [&](const Materialy::Material& z) {
+                   if (hrana) {
+                       if (!Materialy::UlozitUpravuHrany(m_uloziste.dataS(), m_txtzakazka, z))
+                           return PoUlozeni::Odmitnuto;
+                       NaplnitGridHrany(QStringLiteral("Upraveni zaznamu"));
+                       return PoUlozeni::Zavrit;
+                   }
+                   const auto u = Materialy::UlozitUpravuFormatu(m_uloziste.dataS(), m_prompt, m_txtzakazka, z);
+                   if (u == Materialy::Uprava::Odmitnuto)
+                       return PoUlozeni::Odmitnuto;
+                   NaplnitGridFormaty(u == Materialy::Uprava::Slouceno ? QStringLiteral("Odstraneni zaznamu")
+                                                                        : QStringLiteral("Upraveni zaznamu"));
+                   NaplnitGridPM(QStringLiteral("Upravení záznamu"));
+                   return PoUlozeni::Zavrit;
+               });
+}
+
+void FrmBorovak::SmazatMaterial(bool hrana)
+{
+    m_stZakazky->setCurrentIndex(0);
+    QTableWidget* grid = hrana ? m_GridHrany : m_GridFormaty;
+    const auto vse = hrana ? Materialy::hrany(m_uloziste.dataS(), m_txtzakazka)
+                           : Materialy::formaty(m_uloziste.dataS(), m_txtzakazka);
+    const auto m = aktualni(grid, vse);
+    if (!m)
+        return;
+    const bool smazano = hrana ? Materialy::SmazatHranu(m_uloziste.dataS(), m_prompt, m_txtzakazka, *m)
+                               : Materialy::SmazatFormat(m_uloziste.dataS(), m_prompt, m_txtzakazka, *m);
+    if (smazano)
+        hrana ? NaplnitGridHrany(QStringLiteral("Odstraneni zaznamu")) : NaplnitGridFormaty(QStringLiteral("Odstraneni zaznamu"));
+}
+
+void FrmBorovak::NaplnitGridFormaty(const QString& akce)
+{
+    const int predtim = m_GridFormaty->currentRow();
+    const auto vse = Materialy::formaty(m_uloziste.dataS(), m_txtzakazka);
+    m_GridFormaty->setRowCount(int(vse.size()));
+    for (int i = 0; i < int(vse.size()); ++i) {
+        const auto& m = vse[i];
+        const QString cena = Jednotky::cislo(m.cena);
+        const QStringList bunky = {m.nazev, Jednotky::ZMilimetru(m.x), Jednotky::ZMilimetru(m.y),
+                                   Jednotky::CenaZaPlochu(cena), Jednotky::CenaZaPlochuSDPH(cena)};
+        for (int j = 0; j < bunky.size(); ++j)
+            m_GridFormaty->setItem(i, j, new QTableWidgetItem(bunky[j]));
+    }
+    nastavRadek(m_GridFormaty, akce, predtim);
+    const bool radek = m_GridFormaty->rowCount() > 0 && !m_txtzakazka.isEmpty();
+    povol({QStringLiteral("UF"), QStringLiteral("SF"), QStringLiteral("cmdUpravitFormat"), QStringLiteral("cmdSmazatFormat")},
+          radek);
+}
+
+void FrmBorovak::NaplnitGridHrany(const QString& akce)
+{
+    const int predtim = m_GridHrany->currentRow();
+    const auto vse = Materialy::hrany(m_uloziste.dataS(), m_txtzakazka);
+    m_GridHrany->setRowCount(int(vse.size()));
+    for (int i = 0; i < int(vse.size()); ++i) {
+        const auto& m = vse[i];
+        const QStringList bunky = {m.nazev, Jednotky::CenaZaMetr(Jednotky::cislo(m.cena)), Jednotky::ZMilimetru(m.presah),
+                                   QString()};
+        for (int j = 0; j < bunky.size(); ++j)
+            m_GridHrany->setItem(i, j, new QTableWidgetItem(bunky[j]));
+        QTableWidgetItem* barva = m_GridHrany->item(i, 3);
+        barva->setBackground(QColor(int(m.barva & 0xff), int((m.barva >> 8) & 0xff), int((m.barva >> 16) & 0xff)));
+        barva->setFlags(Qt::ItemIsEnabled); // not selectable: the colour shows on the current row too
+    }
+    nastavRadek(m_GridHrany, akce, predtim);
+    const bool radek = m_GridHrany->rowCount() > 0 && !m_txtzakazka.isEmpty();
+    povol({QStringLiteral("UH"), QStringLiteral("SH"), QStringLiteral("cmdUpravitHrana"), QStringLiteral("cmdSmazatHrana")},
+          radek);
+}
+
+void FrmBorovak::NaplnitGridPM(const QString& akce)
+{
+    const int predtim = m_GPM->currentRow();
+    const auto radky = m_AktSestava.isEmpty() ? std::vector<Desky::RadekGridu>{}
+                                              : Desky::NaplnitGridPM(m_uloziste.dataS(), m_txtzakazka, m_txtSestava);
+    m_GPM->setRowCount(int(radky.size()));
+    for (int i = 0; i < int(radky.size()); ++i) {
+        const auto& d = radky[i].deska;
+        const QStringList bunky = {d.oznaceni, Jednotky::ZMilimetru(d.x), Jednotky::ZMilimetru(d.y),
+                                   Jednotky::JednotkaPocet(Jednotky::cislo(d.pocet)), radky[i].format};
+        for (int j = 0; j < bunky.size(); ++j)
+            m_GPM->setItem(i, j, new QTableWidgetItem(bunky[j]));
+    }
+    nastavRadek(m_GPM, akce, predtim);
+    const bool radek = m_GPM->rowCount() > 0 && !m_AktSestava.isEmpty();
+    povol({QStringLiteral("UpraveniPM"), QStringLiteral("SmazaniPM"), QStringLiteral("cmdUpravitPM"),
+           QStringLiteral("cmdSmazatPM"), QStringLiteral("tbUPM"), QStringLiteral("tbOPM")},
+          radek);
+    povol({QStringLiteral("cmdNovyPM")}, !m_AktSestava.isEmpty());
+}
+
+void FrmBorovak::NovyPM()
+{
+    const auto formaty = Materialy::formaty(m_uloziste.dataS(), m_txtzakazka);
+    const auto hrany = Materialy::hrany(m_uloziste.dataS(), m_txtzakazka);
+    QStringList ft, ht;
+    for (const auto& f : formaty)
+        ft << Materialy::textFormatu(f);
+    for (const auto& h : hrany)
+        ht << Materialy::textHrany(h);
+    const QString zakazka = m_txtzakazka, sestava = m_txtSestava;
+    FrmNovy d(this);
+    d.deska(QStringLiteral("NovyPM"), ft, ht, hrany, {QString(), 0, 0, 1}, {},
+            [&](const Desky::Deska& z, const FrmNovy::TextyDesky& t) {
+                Desky::Deska deska = z;
+                deska.idFormat = Materialy::idPodleTextu(m_uloziste.dataS(), zakazka, t.format, false);
+                for (int i = 0; i < 4; ++i)
+                    deska.hrany[i] = Materialy::idPodleTextu(m_uloziste.dataS(), zakazka, t.hrany[i], true);
+                if (Desky::UlozitNovyPM(m_uloziste.dataS(), m_prompt, zakazka, sestava, deska).isNull())
+                    return PoUlozeni::Odmitnuto;
+                NaplnitGridPM(QStringLiteral("Novy zaznam"));
+                return PoUlozeni::Dalsi;
+            });
+}
+
+void FrmBorovak::UpravitPM()
+{
+    const int r = m_GPM->currentRow();
+    if (r < 0)
+        return;
+    const QString zakazka = m_txtzakazka, sestava = m_txtSestava;
+    const QString stary = m_GPM->item(r, 0)->text();
+    Nastaveni::SaveSetting(QStringLiteral("Editor"), QStringLiteral("PM"), stary);
+    const auto formaty = Materialy::formaty(m_uloziste.dataS(), zakazka);
+    const auto hrany = Materialy::hrany(m_uloziste.dataS(), zakazka);
+    QStringList ft, ht;
+    for (const auto& f : formaty)
+        ft << Materialy::textFormatu(f);
+    for (const auto& h : hrany)
+        ht << Materialy::textHrany(h);
+    const Desky::Deska deska = Desky::nacti(m_uloziste.dataS(), zakazka, sestava, stary);
+    FrmNovy::TextyDesky texty;
+    for (const auto& f : formaty)
+        if (f.ID == deska.idFormat)
+            texty.format = Materialy::textFormatu(f);
+    for (int i = 0; i < 4; ++i)
+        for (const auto& h : hrany)
+            if (h.ID == deska.hrany[i])
+                texty.hrany[i] = Materialy::textHrany(h);
+    FrmNovy d(this);
+    d.deska(QStringLiteral("UpraveniPM"), ft, ht, hrany, deska, texty,
+            [&](const Desky::Deska& z, const FrmNovy::TextyDesky& t) {
+                Desky::Deska nova = z;
+                nova.idFormat = Materialy::idPodleTextu(m_uloziste.dataS(), zakazka, t.format, false);
+                for (int i = 0; i < 4; ++i)
+                    nova.hrany[i] = Materialy::idPodleTextu(m_uloziste.dataS(), zakazka, t.hrany[i], true);
+                const QString puvodni = Nastaveni::GetSetting(QStringLiteral("Editor"), QStringLiteral("PM"));
+                if (Desky::UlozitUpravuPM(m_uloziste.dataS(), m_prompt, zakazka, sestava, puvodni, nova).isNull())
+                    return PoUlozeni::Odmitnuto;
+                NaplnitGridPM(QStringLiteral("Upravení záznamu"));
+                return PoUlozeni::Zavrit;
+            });
+}
+
+void FrmBorovak::SmazatPM()
+{
+    const int r = m_GPM->currentRow();
+    if (r < 0)
+        return;
+    if (Desky::SmazatPM(m_uloziste.dataS(), m_prompt, m_txtzakazka, m_txtSestava, m_GPM->item(r, 0)->text()))
+        NaplnitGridPM(QStringLiteral("Odstraneni zaznamu"));
+}

@@ -1,0 +1,394 @@
+// The entry frames of frmNovy: order, assembly, format, edge band, board. Each frame fills
+// its fields, keeps its save button in step with them, and hands what was typed to the
+// routine of the orders library that the main window passes in.
+#include "ui/FrmNovy.h"
+
+#include "core/Jednotky.h"
+#include "ui/CiselnePole.h"
+
+#include <QCheckBox>
+#include <QColorDialog>
+#include <QComboBox>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPainter>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QStackedWidget>
+
+namespace {
+
+// A frame shown alone in the dialog, deleted when the dialog is done with it.
+struct Ramec {
+    QWidget* w;
+    QFormLayout* formular;
+    QPushButton* ulozit;
+};
+
+Ramec novyRamec(QStackedWidget* ramce, const char* nazev, const char* tlacitko, const QString& tip)
+{
+    auto* w = new QWidget;
+    w->setObjectName(QString::fromUtf8(nazev));
+    auto* formular = new QFormLayout;
+    auto* ulozit = new QPushButton(QStringLiteral("Uložit"), w);
+    ulozit->setObjectName(QLatin1String(tlacitko));
+    ulozit->setToolTip(tip);
+    ulozit->setDefault(true);
+    ulozit->setEnabled(false);
+    auto* zavrit = new QPushButton(QStringLiteral("Zavřít"), w);
+    zavrit->setObjectName(QStringLiteral("cmdZavrit"));
+    auto* tlacitka = new QHBoxLayout;
+    tlacitka->addStretch();
+    tlacitka->addWidget(ulozit);
+    tlacitka->addWidget(zavrit);
+    auto* l = new QVBoxLayout(w);
+    l->addLayout(formular);
+    l->addLayout(tlacitka);
+    QObject::connect(zavrit, &QPushButton::clicked, w->window(), [w] { w->window()->close(); });
+    ramce->addWidget(w);
+    ramce->setCurrentWidget(w);
+    return {w, formular, ulozit};
+}
+
+QLineEdit* text(const char* nazev, int max = 0)
+{
+    auto* e = new QLineEdit;
+    e->setObjectName(QLatin1String(nazev));
+    if (max > 0) // cut while typing, the caret at the end
+        QObject::connect(e, &QLineEdit::textEdited, e, [e, max](const QString& t) {
+            if (t.size() > max) {
+                e->setText(t.left(max));
+                e->setCursorPosition(max);
+            }
+        });
+    return e;
+}
+
+CiselnePole* pole(const char* nazev, CiselnePole::Druh druh, int mist = 2)
+{
+    auto* p = new CiselnePole(druh, mist);
+    p->setObjectName(QLatin1String(nazev));
+    return p;
+}
+
+// The proportional picture of a board or format, with the banded sides in their colours.
+class Nahled : public QWidget {
+public:
+    explicit Nahled(const char* nazev)
+    {
+        setObjectName(QLatin1String(nazev));
+        setMinimumSize(220, 150);
+    }
+    double x = 0, y = 0;
+    bool vzor = false;
+    std::optional<QColor> hrany[4];
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter g(this);
+        g.fillRect(rect(), palette().base());
+        if (x <= 0 || y <= 0)
+            return;
+        const double k = std::min((width() - 40) / x, (height() - 40) / y);
+        const QRectF r((width() - x * k) / 2, (height() - y * k) / 2, x * k, y * k);
+        g.setPen(Qt::black);
+        g.setBrush(vzor ? QBrush(QColor(0xd9, 0xb3, 0x82), Qt::HorPattern) : QBrush(QColor(0xf3, 0xe6, 0xcf)));
+        g.drawRect(r);
+        const QLineF strany[4] = {{r.topLeft(), r.topRight()}, {r.bottomLeft(), r.bottomRight()},
+                                  {r.topLeft(), r.bottomLeft()}, {r.topRight(), r.bottomRight()}};
+        for (int i = 0; i < 4; ++i)
+            if (hrany[i]) {
+                g.setPen(QPen(*hrany[i], 5));
+                g.drawLine(strany[i]);
+            }
+        g.setPen(palette().text().color());
+        g.drawText(QRectF(r.left(), r.bottom() + 2, r.width(), 16), Qt::AlignCenter, Jednotky::ZMilimetru(x));
+        g.save();
+        g.translate(r.left() - 4, r.center().y());
+        g.rotate(-90);
+        g.drawText(QRectF(-r.height() / 2, -16, r.height(), 16), Qt::AlignCenter, Jednotky::ZMilimetru(y));
+        g.restore();
+    }
+};
+
+QColor barvaZVB(qint64 bgr)
+{
+    return QColor(int(bgr & 0xff), int((bgr >> 8) & 0xff), int((bgr >> 16) & 0xff));
+}
+
+} // namespace
+
+void FrmNovy::zakazka(const QString& tag, const QString& nazev, const QString& poznamka,
+                      const std::function<PoUlozeni(const QString&, const QString&)>& ulozit)
+{
+    Tag = tag;
+    const bool nova = tag == QLatin1String("NovaZakazka");
+    Ramec r = novyRamec(m_ramce, "fraZakázka", "cmdZakazkaPouzit",
+                        nova ? QStringLiteral("Uložení nové zakázky") : QStringLiteral("Uložení úprav v zakázce"));
+    auto* jmeno = text("txtzakazka", Zakazky::MaxNazevZakazky);
+    auto* pozn = text("txtPoznamka");
+    jmeno->setText(nazev);
+    pozn->setText(poznamka);
+    jmeno->setMinimumWidth(320);
+    r.formular->addRow(QStringLiteral("Zakázka:"), jmeno);
+    r.formular->addRow(QStringLiteral("Poznámka:"), pozn);
+    auto stav = [=] { r.ulozit->setEnabled(!jmeno->text().trimmed().isEmpty()); };
+    connect(jmeno, &QLineEdit::textChanged, this, stav);
+    connect(pozn, &QLineEdit::textChanged, this, stav);
+    stav();
+    connect(r.ulozit, &QPushButton::clicked, this, [=] {
+        const PoUlozeni po = ulozit(jmeno->text().trimmed(), pozn->text());
+        if (po == PoUlozeni::Zavrit)
+            accept();
+        else if (po == PoUlozeni::Odmitnuto) {
+            r.ulozit->setEnabled(false);
+            jmeno->setFocus();
+        }
+    });
+    ukaz(r.w, nova ? QStringLiteral("Založení nové zakázky") : QStringLiteral("Upravení zakázky"), 20);
+    exec();
+    r.w->deleteLater();
+}
+
+void FrmNovy::sestava(const QString& tag, const Zakazky::Sestava& s,
+                      const std::function<PoUlozeni(const Zakazky::Sestava&)>& ulozit)
+{
+    Tag = QStringLiteral("Najeti");
+    const bool nova = tag == QLatin1String("NovaSestava");
+    Ramec r = novyRamec(m_ramce, "fraTyp", "cmdUlozitP", nova ? QStringLiteral("Uložení nové sestavy")
+                                                              : QStringLiteral("Uložení úprav sestavy"));
+    auto* nazev = text("txtNT", Zakazky::MaxNazevSestavy);
+    auto* popis = text("txtP");
+    auto* pocet = new QSpinBox;
+    pocet->setObjectName(QStringLiteral("txtPocetElementuVSestave"));
+    pocet->setRange(1, 9999);
+    auto* schema = new QLabel;
+    schema->setObjectName(QStringLiteral("lblSchema"));
+    nazev->setText(s.nazev);
+    popis->setText(s.popis);
+    popis->setMinimumWidth(320);
+    pocet->setValue(int(s.pocet));
+    schema->setText(s.schema ? QString::number(s.schema) : QString());
+    r.formular->addRow(QStringLiteral("Název:"), nazev);
+    r.formular->addRow(QStringLiteral("Popis:"), popis);
+    r.formular->addRow(QStringLiteral("Počet:"), pocet);
+    r.formular->addRow(QStringLiteral("Schema:"), schema);
+    auto stav = [=] { r.ulozit->setEnabled(Tag != QLatin1String("Najeti") && !nazev->text().trimmed().isEmpty()); };
+    Tag = tag;
+    connect(nazev, &QLineEdit::textChanged, this, stav);
+    connect(popis, &QLineEdit::textChanged, this, stav);
+    connect(pocet, &QSpinBox::valueChanged, this, stav);
+    stav();
+    connect(r.ulozit, &QPushButton::clicked, this, [=] {
+        const PoUlozeni po = ulozit({nazev->text().trimmed(), popis->text(), double(pocet->value()), schema->text().toInt()});
+        if (po == PoUlozeni::Zavrit)
+            accept();
+        else if (po == PoUlozeni::Odmitnuto) {
+            r.ulozit->setEnabled(false);
+            nazev->setFocus();
+        }
+    });
+    ukaz(r.w, nova ? QStringLiteral("Nová sestava") : QStringLiteral("Upravení sestavy"), 20);
+    exec();
+    r.w->deleteLater();
+}
+
+void FrmNovy::material(const QString& tag, bool hrana, const Materialy::Material& m,
+                       const std::function<PoUlozeni(const Materialy::Material&)>& ulozit)
+{
+    const bool novy = tag.startsWith(QLatin1String("Nov"));
+    Tag = QStringLiteral("Najeti");
+    Ramec r = hrana ? novyRamec(m_ramce, "fraHrana", "cmdUlozeniHrany", QStringLiteral("Uložení hrany"))
+                    : novyRamec(m_ramce, "fraMaterial", "cmdFormatUlozit", QStringLiteral("Uložení formátu"));
+    auto* nazev = new QComboBox;
+    nazev->setObjectName(hrana ? QStringLiteral("cmbHrana") : QStringLiteral("txtFormat"));
+    nazev->setEditable(true);
+    nazev->setMinimumWidth(300);
+    auto* fx = pole("txtFX", CiselnePole::Druh::Delka);
+    auto* fy = pole("txtFY", CiselnePole::Druh::Delka);
+    auto* ov = new QCheckBox(QStringLiteral("Vzor ( neotáčet )"));
+    ov->setObjectName(QStringLiteral("chOVFormat"));
+    auto* cena = pole(hrana ? "txtCenaHrany" : "txtFCena", CiselnePole::Druh::Desetinne, 2);
+    auto* presah = pole("txtPresahHrany", CiselnePole::Druh::Delka);
+    auto* barva = new QPushButton;
+    barva->setObjectName(QStringLiteral("pctBarvaHrany"));
+    barva->setFixedSize(60, 22);
+    auto* nahled = new Nahled("pctDF");
+    QColor vybrana = barvaZVB(m.barva);
+    auto ukazBarvu = [=, &vybrana] { barva->setStyleSheet(QStringLiteral("background-color: %1").arg(vybrana.name())); };
+    auto vyplnit = [=](const Materialy::Material& z) {
+        nazev->setCurrentText(z.nazev);
+        fx->nastavMm(z.x);
+        fy->nastavMm(z.y);
+        ov->setChecked(z.ov);
+        cena->setText(z.cena ? Jednotky::cislo(z.cena) : QString());
+        presah->nastavMm(z.presah);
+    };
+    vyplnit(m);
+    ukazBarvu();
+    r.formular->addRow(hrana ? QStringLiteral("Název:") : QStringLiteral("Název materiálu:"), nazev);
+    if (hrana) {
+        r.formular->addRow(QStringLiteral("Cena bez DPH:"), cena);
+        r.formular->addRow(QStringLiteral("Barva v NP:"), barva);
+        auto* skupina = new QGroupBox(QStringLiteral("Přesah hranovací pásky "));
+        auto* l = new QHBoxLayout(skupina);
+        l->addWidget(presah);
+        r.formular->addRow(skupina);
+    } else {
+        r.formular->addRow(QStringLiteral("Délka"), fx);
+        r.formular->addRow(QStringLiteral("Šířka"), fy);
+        r.formular->addRow(QString(), ov);
+        r.formular->addRow(QStringLiteral("Cena bez DPH:"), cena);
+        r.formular->addRow(nahled);
+    }
+    connect(barva, &QPushButton::clicked, this, [=, &vybrana] {
+        const QColor c = QColorDialog::getColor(vybrana, this, QStringLiteral("Barva hrany v NP"));
+        if (c.isValid()) {
+            vybrana = c;
+            ukazBarvu();
+        }
+    });
+    auto stav = [=] {
+        const bool mameRozmery = hrana || (!fx->text().isEmpty() && !fy->text().isEmpty());
+        r.ulozit->setEnabled(Tag != QLatin1String("Najeti") && !nazev->currentText().trimmed().isEmpty() &&
+                             !cena->text().isEmpty() && cena->hodnota() != 0 && mameRozmery);
+        nahled->x = nazev->currentText().isEmpty() ? 0 : fx->mm();
+        nahled->y = fy->mm();
+        nahled->vzor = ov->isChecked();
+        nahled->update();
+    };
+    Tag = novy ? tag : (hrana ? QStringLiteral("UpraveniHrany") : QStringLiteral("UpraveniFormatu"));
+    for (QLineEdit* e : {static_cast<QLineEdit*>(fx), static_cast<QLineEdit*>(fy), static_cast<QLineEdit*>(cena),
+                         static_cast<QLineEdit*>(presah)})
+        connect(e, &QLineEdit::textChanged, this, stav);
+    connect(nazev, &QComboBox::currentTextChanged, this, stav);
+    connect(ov, &QCheckBox::toggled, this, stav);
+    stav();
+    connect(r.ulozit, &QPushButton::clicked, this, [=, &vybrana] {
+        Materialy::Material z = m;
+        z.nazev = nazev->currentText().trimmed();
+        z.x = fx->mm();
+        z.y = fy->mm();
+        z.ov = ov->isChecked();
+        z.cena = cena->hodnota();
+        z.presah = presah->mm();
+        z.barva = qint64(vybrana.red()) | qint64(vybrana.green()) << 8 | qint64(vybrana.blue()) << 16;
+        const PoUlozeni po = ulozit(z);
+        if (po == PoUlozeni::Zavrit)
+            accept();
+        else if (po == PoUlozeni::Dalsi) {
+            vyplnit({});
+            r.ulozit->setEnabled(false);
+            (hrana ? static_cast<QWidget*>(nazev) : fx)->setFocus();
+        }
+    });
+    ukaz(r.w,
+         hrana ? (novy ? QStringLiteral("Přidání nové hrany") : QStringLiteral("Upravení hrany"))
+               : (novy ? QStringLiteral("Přidání nového formátu") : QStringLiteral("Upravení formátu")),
+         20);
+    exec();
+    r.w->deleteLater();
+}
+
+void FrmNovy::deska(const QString& tag, const QStringList& formaty, const QStringList& hrany,
+                    const std::vector<Materialy::Material>& pasky, const Desky::Deska& d, const TextyDesky& texty,
+                    const std::function<PoUlozeni(const Desky::Deska&, const TextyDesky&)>& ulozit)
+{
+    const bool nova = tag == QLatin1String("NovyPM");
+    Tag = QStringLiteral("Najeti");
+    Ramec r = novyRamec(m_ramce, "fraPlMat", "cmdUPM", QStringLiteral("Uložení plošného materiálu"));
+    auto* nazev = new QComboBox;
+    nazev->setObjectName(QStringLiteral("txtPM"));
+    nazev->setEditable(true);
+    for (const char* n : Desky::NazvyDesek)
+        nazev->addItem(QString::fromUtf8(n));
+    auto* x = pole("txtX", CiselnePole::Druh::Delka);
+    auto* y = pole("txtY", CiselnePole::Druh::Delka);
+    auto* pocet = pole("txtPocetMaterial", CiselnePole::Druh::Cele, 5);
+    auto* format = new QComboBox;
+    format->setObjectName(QStringLiteral("cmbMaterial"));
+    format->addItem(QString());
+    format->addItems(formaty);
+    format->setMinimumWidth(300);
+    auto* ov = new QCheckBox(QStringLiteral("Vzor ( neotáčet )"));
+    ov->setObjectName(QStringLiteral("chOV"));
+    static const char* const popisky[] = {"Hrana X - horní:", "Hrana X - spodní:", "Hrana Y - vlevo:", "Hrana Y - vpravo:"};
+    QComboBox* h[4];
+    auto* nahled = new Nahled("pctZB");
+    r.formular->addRow(QStringLiteral("Název:"), nazev);
+    r.formular->addRow(QStringLiteral("Délka"), x);
+    r.formular->addRow(QStringLiteral("Šířka"), y);
+    r.formular->addRow(QStringLiteral("Počet"), pocet);
+    r.formular->addRow(QStringLiteral("Formát:"), format);
+    r.formular->addRow(QString(), ov);
+    for (int i = 0; i < 4; ++i) {
+        h[i] = new QComboBox;
+        h[i]->setObjectName(QStringLiteral("cmbH(%1)").arg(i));
+        h[i]->addItem(QString());
+        h[i]->addItems(hrany);
+        r.formular->addRow(QString::fromUtf8(popisky[i]), h[i]);
+    }
+    r.formular->addRow(nahled);
+    auto vyplnit = [=](const Desky::Deska& z, const TextyDesky& t) {
+        nazev->setCurrentText(z.oznaceni);
+        x->nastavMm(z.x);
+        y->nastavMm(z.y);
+        pocet->setText(QString::number(z.pocet));
+        ov->setChecked(z.ov);
+        format->setCurrentText(t.format);
+        for (int i = 0; i < 4; ++i)
+            h[i]->setCurrentText(t.hrany[i]);
+    };
+    vyplnit(d, texty);
+    auto stav = [=] {
+        const bool rozmery = !x->text().isEmpty() && !y->text().isEmpty();
+        r.ulozit->setEnabled(Tag != QLatin1String("Najeti") && rozmery && !pocet->text().isEmpty() &&
+                             !format->currentText().isEmpty());
+        nahled->x = rozmery ? x->mm() : 0;
+        nahled->y = rozmery ? y->mm() : 0;
+        nahled->vzor = ov->isChecked();
+        for (int i = 0; i < 4; ++i) {
+            nahled->hrany[i].reset();
+            for (const Materialy::Material& p : pasky)
+                if (Materialy::textHrany(p) == h[i]->currentText())
+                    nahled->hrany[i] = barvaZVB(p.barva);
+        }
+        nahled->update();
+    };
+    Tag = nova ? tag : QStringLiteral("UpraveniPM");
+    for (QLineEdit* e : {static_cast<QLineEdit*>(x), static_cast<QLineEdit*>(y), static_cast<QLineEdit*>(pocet)})
+        connect(e, &QLineEdit::textChanged, this, stav);
+    for (QComboBox* c : {format, h[0], h[1], h[2], h[3]})
+        connect(c, &QComboBox::currentTextChanged, this, stav);
+    connect(ov, &QCheckBox::toggled, this, stav);
+    stav();
+    connect(r.ulozit, &QPushButton::clicked, this, [=] {
+        Desky::Deska z;
+        z.oznaceni = nazev->currentText().trimmed();
+        z.x = x->mm();
+        z.y = y->mm();
+        z.pocet = pocet->hodnota();
+        z.ov = ov->isChecked();
+        TextyDesky t{format->currentText()};
+        for (int i = 0; i < 4; ++i)
+            t.hrany[i] = h[i]->currentText();
+        const PoUlozeni po = ulozit(z, t);
+        if (po == PoUlozeni::Zavrit)
+            accept();
+        else if (po == PoUlozeni::Dalsi) {
+            vyplnit({QString(), 0, 0, 1}, {});
+            r.ulozit->setEnabled(false);
+            x->setFocus();
+        } else {
+            r.ulozit->setEnabled(false);
+            nazev->setFocus();
+        }
+    });
+    ukaz(r.w, nova ? QStringLiteral(" Přidání nového plošného materiálu") : QStringLiteral(" Upravení plošného materiálu"), 20);
+    exec();
+    r.w->deleteLater();
+}
