@@ -111,7 +111,13 @@ int spust(QStringList argumenty)
 {
     int kod = Hotovo;
     try {
-        Aplikace::nastavDomov(vezmiVolbu(argumenty, QStringLiteral("--home")));
+        // --home belongs before the command, so an order name or a setting may read "--home"
+        if (!argumenty.isEmpty() && argumenty.first() == QLatin1String("--home")) {
+            if (argumenty.size() < 2)
+                throw ChybaPouziti(QStringLiteral("Volba --home potřebuje složku."));
+            Aplikace::nastavDomov(argumenty.at(1));
+            argumenty.remove(0, 2);
+        }
         if (argumenty.isEmpty())
             throw ChybaPouziti(QStringLiteral("Chybí příkaz."));
         const QString nazev = argumenty.takeFirst();

@@ -7,6 +7,7 @@
 #include "core/Razitko.h"
 #include "core/Recordset.h"
 #include "core/Transakce.h"
+#include "exchange/CteniJson.h"
 #include "orders/Strom.h"
 
 #include <QJsonArray>
@@ -19,86 +20,13 @@ namespace ZakazkaJson {
 namespace {
 
 constexpr int MaxNazevZakazky = 50;
+constexpr int MaxNazevPrislusenstvi = 100;
 constexpr double MaxRozmer = 100000;
+constexpr double MaxId = 1e15; // spliced with 15 digits, so it must stay exact
 
 [[noreturn]] void odmitni(const QString& text)
 {
-    throw Error(Chyba::NeplatnyVstup, text);
-}
-
-// Reading with the place of the fault in every message.
-class Cteni {
-public:
-    Cteni(const QJsonObject& o, QString kde) : m_o(o), m_kde(std::move(kde)) {}
-
-    QString text(const char* klic, bool povinny) const
-    {
-        const QJsonValue v = m_o.value(QLatin1String(klic));
-        if (v.isUndefined() || v.isNull()) {
-            if (povinny)
-                odmitni(QStringLiteral("%1: chybí údaj „%2“.").arg(m_kde, QLatin1String(klic)));
-            return QString();
-        }
-        if (!v.isString())
-            odmitni(QStringLiteral("%1: údaj „%2“ musí být text.").arg(m_kde, QLatin1String(klic)));
-        const QString t = v.toString().trimmed();
-        if (povinny && t.isEmpty())
-            odmitni(QStringLiteral("%1: údaj „%2“ nesmí být prázdný.").arg(m_kde, QLatin1String(klic)));
-        return t;
-    }
-
-    double cislo(const char* klic, double od, double doHodnoty, bool povinny, double vychozi = 0) const
-    {
-        const QJsonValue v = m_o.value(QLatin1String(klic));
-        if (v.isUndefined() || v.isNull()) {
-            if (povinny)
-                odmitni(QStringLiteral("%1: chybí údaj „%2“.").arg(m_kde, QLatin1String(klic)));
-            return vychozi;
-        }
-        if (!v.isDouble() || !std::isfinite(v.toDouble()))
-            odmitni(QStringLiteral("%1: údaj „%2“ musí být číslo.").arg(m_kde, QLatin1String(klic)));
-        const double d = v.toDouble();
-        if (d < od || d > doHodnoty)
-            odmitni(QStringLiteral("%1: údaj „%2“ = %3 je mimo povolený rozsah %4 až %5.")
-                        .arg(m_kde, QLatin1String(klic))
-                        .arg(d)
-                        .arg(od)
-                        .arg(doHodnoty));
-        return d;
-    }
-
-    bool ano(const char* klic) const
-    {
-        const QJsonValue v = m_o.value(QLatin1String(klic));
-        if (v.isUndefined() || v.isNull())
-            return false;
-        if (!v.isBool())
-            odmitni(QStringLiteral("%1: údaj „%2“ musí být true nebo false.").arg(m_kde, QLatin1String(klic)));
-        return v.toBool();
-    }
-
-    QJsonArray pole(const char* klic) const
-    {
-        const QJsonValue v = m_o.value(QLatin1String(klic));
-        if (v.isUndefined() || v.isNull())
-            return {};
-        if (!v.isArray())
-            odmitni(QStringLiteral("%1: údaj „%2“ musí být seznam.").arg(m_kde, QLatin1String(klic)));
-        return v.toArray();
-    }
-
-    const QString& kde() const { return m_kde; }
-
-private:
-    QJsonObject m_o;
-    QString m_kde;
-};
-
-QJsonObject objekt(const QJsonValue& v, const QString& kde)
-{
-    if (!v.isObject())
-        odmitni(QStringLiteral("%1: položka musí být objekt.").arg(kde));
-    return v.toObject();
+    CteniJson::odmitni(text);
 }
 
 struct Material {
@@ -137,18 +65,20 @@ bool stejneJmeno(const QString& a, const QString& b)
     return Kolace::porovnej(a, b) == 0;
 }
 
-std::vector<Material> ctiMaterialy(const Cteni& z, bool hrany, std::set<double>& idy)
+std::vector<Material> ctiMaterialy(const CteniJson& z, bool hrany, std::set<double>& idy)
 {
     std::vector<Material> vysledek;
     const QJsonArray pole = z.pole(hrany ? "hrany" : "formaty");
     for (int i = 0; i < pole.size(); ++i) {
-        const Cteni m(objekt(pole[i], z.kde()), QStringLiteral("%1 č. %2").arg(hrany ? QStringLiteral("Hrana") : QStringLiteral("Formát")).arg(i + 1));
-        Material mat{m.cislo("id", 2, 1e12, false, 0), m.text("material", true), hrany};
+        const QString kde = QStringLiteral("%1 č. %2").arg(hrany ? QStringLiteral("Hrana") : QStringLiteral("Formát")).arg(i + 1);
+        const CteniJson m = hrany ? CteniJson(pole[i], kde, {"id", "material", "cena", "barva", "presah"})
+                                  : CteniJson(pole[i], kde, {"id", "material", "x", "y", "ov", "cena"});
+        Material mat{m.celeCislo("id", 2, MaxId, false, 0), m.text("material", true), hrany};
         if (mat.id != 0 && !idy.insert(mat.id).second)
             odmitni(QStringLiteral("%1: číslo materiálu %2 je v zakázce dvakrát.").arg(m.kde()).arg(mat.id, 0, 'f', 0));
         mat.cena = m.cislo("cena", 0, 1e9, false);
         if (hrany) {
-            mat.barva = qint64(m.cislo("barva", 0, 0xFFFFFF, false));
+            mat.barva = qint64(m.celeCislo("barva", 0, 0xFFFFFF, false));
             mat.presah = m.cislo("presah", 0, 1000, false);
         } else {
             mat.x = m.cislo("x", 0.1, MaxRozmer, true);
@@ -160,45 +90,85 @@ std::vector<Material> ctiMaterialy(const Cteni& z, bool hrany, std::set<double>&
     return vysledek;
 }
 
-Polozka ctiDesku(const Cteni& d, const std::vector<Material>& materialy)
+bool maMaterial(const std::vector<Material>& materialy, double id, bool hrana)
+{
+    return std::any_of(materialy.begin(), materialy.end(),
+                       [&](const Material& m) { return m.id == id && m.hrana == hrana; });
+}
+
+// A board left without a name is named as the board dialog names it: "deska N", the first N
+// that no earlier item of the assembly bears.
+QString novyNazevDesky(const std::vector<Polozka>& dosud)
+{
+    for (int n = 1;; ++n) {
+        const QString nazev = QStringLiteral("deska %1").arg(n);
+        if (std::none_of(dosud.begin(), dosud.end(), [&](const Polozka& p) { return stejneJmeno(p.oznaceni, nazev); }))
+            return nazev;
+    }
+}
+
+Polozka ctiDesku(const CteniJson& d, const std::vector<Material>& materialy, const std::vector<Polozka>& dosud)
 {
     Polozka p;
-    p.oznaceni = d.text("oznaceni", true);
+    p.oznaceni = d.text("oznaceni", false);
+    if (p.oznaceni.trimmed().isEmpty())
+        p.oznaceni = novyNazevDesky(dosud);
     p.x = d.cislo("x", 0.1, MaxRozmer, true);
     p.y = d.cislo("y", 0.1, MaxRozmer, true);
-    p.pocet = d.cislo("pocet", 1, MaxRozmer, true);
-    if (p.pocet != std::trunc(p.pocet))
-        odmitni(QStringLiteral("%1: počet desek musí být celé číslo.").arg(d.kde()));
-    p.format = d.cislo("format", 2, 1e12, true);
+    p.pocet = d.celeCislo("pocet", 1, MaxRozmer, true);
+    p.format = d.cislo("format", 2, MaxId, true);
     p.ov = d.ano("ov");
-    auto najdi = [&](double id, bool hrana) {
-        return std::any_of(materialy.begin(), materialy.end(),
-                           [&](const Material& m) { return m.id == id && m.hrana == hrana; });
-    };
-    if (!najdi(p.format, false))
+    if (!maMaterial(materialy, p.format, false))
         odmitni(QStringLiteral("%1: formát č. %2 v zakázce není.").arg(d.kde()).arg(p.format, 0, 'f', 0));
     const QJsonArray hrany = d.pole("hrany");
     if (!hrany.isEmpty() && hrany.size() != 4)
         odmitni(QStringLiteral("%1: hrany se zadávají čtyři (X1, X2, Y1, Y2).").arg(d.kde()));
     for (int i = 0; i < hrany.size(); ++i) {
         if (!hrany[i].isDouble())
-            odmitni(QStringLiteral("%1: hrana musí být číslo.").arg(d.kde()));
+            odmitni(QStringLiteral("%1: hrana musí být číslo (0 pro žádnou).").arg(d.kde()));
         p.hrany[i] = hrany[i].toDouble();
-        if (p.hrany[i] != 0 && !najdi(p.hrany[i], true))
+        if (p.hrany[i] != 0 && !maMaterial(materialy, p.hrany[i], true))
             odmitni(QStringLiteral("%1: hrana č. %2 v zakázce není.").arg(d.kde()).arg(p.hrany[i], 0, 'f', 0));
     }
     return p;
 }
 
+Polozka ctiPrislusenstvi(const CteniJson& p)
+{
+    Polozka pr;
+    pr.oznaceni = p.text("oznaceni", true);
+    if (pr.oznaceni.size() > MaxNazevPrislusenstvi)
+        odmitni(QStringLiteral("%1: Název nového příslušenstvi smí obsahovat maximálně 100 znaků!!!").arg(p.kde()));
+    pr.pocet = p.cislo("mnozstvi", 0, 1e9, true);
+    pr.jednotka = p.text("jednotka", false);
+    pr.cena = p.cislo("cena", 0, 1e9, false);
+    return pr;
+}
+
+Sestava ctiSestavu(const CteniJson& s, const std::vector<Material>& materialy)
+{
+    Sestava sestava{s.text("nazev", true), s.text("popis", false), s.celeCislo("pocet", 1, MaxRozmer, false, 1),
+                    qint64(s.celeCislo("schema", 0, 1e9, false))};
+    const QString kde = QStringLiteral("%1 (%2)").arg(s.kde(), sestava.nazev);
+    const QJsonArray desky = s.pole("desky");
+    for (int j = 0; j < desky.size(); ++j)
+        sestava.polozky.push_back(ctiDesku(CteniJson(desky[j], QStringLiteral("%1, deska č. %2").arg(kde).arg(j + 1),
+                                                     {"oznaceni", "x", "y", "pocet", "format", "ov", "hrany"}),
+                                           materialy, sestava.polozky));
+    const QJsonArray prislusenstvi = s.pole("prislusenstvi");
+    for (int j = 0; j < prislusenstvi.size(); ++j)
+        sestava.polozky.push_back(ctiPrislusenstvi(CteniJson(prislusenstvi[j],
+                                                             QStringLiteral("%1, příslušenství č. %2").arg(kde).arg(j + 1),
+                                                             {"oznaceni", "mnozstvi", "jednotka", "cena"})));
+    return sestava;
+}
+
 Zakazka cti(const QByteArray& json)
 {
-    QJsonParseError chyba;
-    const QJsonDocument doc = QJsonDocument::fromJson(json, &chyba);
-    if (chyba.error != QJsonParseError::NoError)
-        odmitni(QStringLiteral("Soubor není platný JSON: %1 (znak %2).").arg(chyba.errorString()).arg(chyba.offset));
+    const QJsonDocument doc = CteniJson::dokument(json);
     if (!doc.isObject())
         odmitni(QStringLiteral("Soubor musí obsahovat jednu zakázku (objekt JSON)."));
-    const Cteni z(doc.object(), QStringLiteral("Zakázka"));
+    const CteniJson z(doc.object(), QStringLiteral("Zakázka"), {"zakazka", "poznamka", "formaty", "hrany", "sestavy"});
     Zakazka zakazka{z.text("zakazka", true), z.text("poznamka", false)};
     if (zakazka.nazev.size() > MaxNazevZakazky)
         odmitni(QStringLiteral("Název zakázky může mít nejvýše %1 znaků.").arg(MaxNazevZakazky));
@@ -208,29 +178,13 @@ Zakazka cti(const QByteArray& json)
         zakazka.materialy.push_back(h);
     const QJsonArray sestavy = z.pole("sestavy");
     for (int i = 0; i < sestavy.size(); ++i) {
-        const Cteni s(objekt(sestavy[i], z.kde()), QStringLiteral("Sestava č. %1").arg(i + 1));
-        Sestava sestava{s.text("nazev", true), s.text("popis", false), s.cislo("pocet", 1, MaxRozmer, false, 1),
-                        qint64(s.cislo("schema", 0, 1e9, false))};
+        const CteniJson s(sestavy[i], QStringLiteral("Sestava č. %1").arg(i + 1),
+                          {"nazev", "popis", "pocet", "schema", "desky", "prislusenstvi"});
+        Sestava sestava = ctiSestavu(s, zakazka.materialy);
         for (const Sestava& jina : zakazka.sestavy)
             if (stejneJmeno(jina.nazev, sestava.nazev))
                 odmitni(QStringLiteral("Sestava pod tímhle názvem již existuje, zadejte jiný nazev !!! (%1)").arg(sestava.nazev));
-        const QJsonArray desky = s.pole("desky");
-        for (int j = 0; j < desky.size(); ++j)
-            sestava.polozky.push_back(ctiDesku(
-                Cteni(objekt(desky[j], s.kde()), QStringLiteral("%1 (%2), deska č. %3").arg(s.kde(), sestava.nazev).arg(j + 1)),
-                zakazka.materialy));
-        const QJsonArray prislusenstvi = s.pole("prislusenstvi");
-        for (int j = 0; j < prislusenstvi.size(); ++j) {
-            const Cteni p(objekt(prislusenstvi[j], s.kde()),
-                          QStringLiteral("%1 (%2), příslušenství č. %3").arg(s.kde(), sestava.nazev).arg(j + 1));
-            Polozka pr;
-            pr.oznaceni = p.text("oznaceni", true);
-            pr.pocet = p.cislo("mnozstvi", 0, 1e9, true);
-            pr.jednotka = p.text("jednotka", false);
-            pr.cena = p.cislo("cena", 0, 1e9, false);
-            sestava.polozky.push_back(pr);
-        }
-        zakazka.sestavy.push_back(sestava);
+        zakazka.sestavy.push_back(std::move(sestava));
     }
     return zakazka;
 }

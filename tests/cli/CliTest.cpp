@@ -46,7 +46,8 @@ TEST_F(CliTest, InitZalozeDatabazeSeVsemiTabulkami)
     for (const QString& t : Schema::tabulky(Schema::Soubor::Data))
         EXPECT_EQ(data.sloupce(t), Schema::sloupce(t));
     Database cenik(domov() + QStringLiteral("/Data/Cenik.db"));
-    EXPECT_EQ(cenik.sloupce(QStringLiteral("Obrazky")), Schema::sloupce(QStringLiteral("Obrazky")));
+    for (const QString& t : Schema::tabulky(Schema::Soubor::Cenik))
+        EXPECT_EQ(cenik.sloupce(t), Schema::sloupce(t));
     EXPECT_TRUE(QFile::exists(domov() + QStringLiteral("/Zálohy dat")));
 }
 
@@ -74,13 +75,18 @@ TEST_F(CliTest, ZakazkaTamAZpetAPlanVeVsechRezimech)
 
 TEST_F(CliTest, SpatnyVstupDaCeskouZpravuAKod)
 {
-    EXPECT_EQ(spust({"nesmysl"}).kod, 2);
+    const Vysledek nesmysl = spust({"nesmysl"});
+    EXPECT_EQ(nesmysl.kod, 2);
+    EXPECT_TRUE(nesmysl.err.startsWith(QStringLiteral("Neznámý příkaz: nesmysl\nPoužití: truhlar-cli [--home SLOŽKA]")));
+    EXPECT_EQ(spust({"order-dump"}).kod, 2);
     const Vysledek bezSlozky = spust({"order-list"});
     EXPECT_EQ(bezSlozky.kod, 4);
     EXPECT_TRUE(bezSlozky.err.contains(QStringLiteral("neobsahuje databáze")));
     spust({"init"});
     spust({"order-load", demo()});
-    EXPECT_EQ(spust({"order-load", demo()}).kod, 3);
+    const Vysledek podruhe = spust({"order-load", demo()});
+    EXPECT_EQ(podruhe.kod, 3);
+    EXPECT_EQ(podruhe.err, QStringLiteral("Zakazka pod tímhle názvem již existuje, zadejte jiný nazev !!!\n"));
     EXPECT_EQ(spust({"plan", "Neni", "--format", "5000001", "--mode", "podelne"}).kod, 3);
     const Vysledek format = spust({"plan", "Kuchyně Novák", "--format", "5000101", "--mode", "podelne"});
     EXPECT_EQ(format.kod, 3);
@@ -114,4 +120,35 @@ TEST_F(CliTest, NastaveniSeCteAZapisuje)
     EXPECT_EQ(spust({"settings", "set", "Setting2", "Srez", "3.2"}).kod, 0);
     EXPECT_EQ(spust({"settings", "get", "Setting2", "Srez"}).out, QStringLiteral("3.2\n"));
     EXPECT_EQ(spust({"settings", "get"}).kod, 2);
+}
+
+TEST_F(CliTest, ApostrofACeskaJmenaAOdrezky)
+{
+    spust({"init"});
+    const QString soubor = m_dir.filePath(QStringLiteral("z.json"));
+    const QByteArray zakazka = R"({"zakazka": "Novák's kuchyň", "poznamka": "", "formaty": [], "hrany": [],
+        "sestavy": [{"nazev": "Šuplík 'A'", "popis": "", "pocet": 1, "schema": 0, "desky": [], "prislusenstvi": []}]})";
+    QFile f(soubor);
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+    f.write(zakazka);
+    f.close();
+    spust({"order-load", demo()});
+    EXPECT_EQ(spust({"order-load", soubor}).kod, 0);
+    EXPECT_EQ(QJsonDocument::fromJson(spust({"order-dump", "Novák's kuchyň"}).out.toUtf8()), QJsonDocument::fromJson(zakazka));
+    EXPECT_EQ(spust({"order-list"}).out, QStringLiteral("Kuchyně Novák\nNovák's kuchyň\n"));
+
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    f.write(R"([{"material": "DTD bílá 18", "x": 900, "y": 600, "pocet": 2}, {"material": "Novák's", "x": 300, "y": 200, "pocet": 1}])");
+    f.close();
+    const Vysledek odrezky = spust({"offcuts-load", soubor});
+    EXPECT_EQ(odrezky.kod, 0) << odrezky.err.toStdString();
+    EXPECT_EQ(odrezky.out, QStringLiteral("Do skladu přidáno odřezků: 2\n"));
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    f.write(R"([{"material": "DTD", "x": 0, "y": 600, "pocet": 1}])");
+    f.close();
+    const Vysledek spatne = spust({"offcuts-load", soubor});
+    EXPECT_EQ(spatne.kod, 3);
+    EXPECT_TRUE(spatne.err.startsWith(QStringLiteral("Odřezek č. 1: údaj „x“")));
+    Database data(domov() + QStringLiteral("/Data/DataS.db"));
+    EXPECT_EQ(data.hodnota(QStringLiteral("SELECT count(*) FROM SkladOdrezku")).toInt(), 2);
 }
