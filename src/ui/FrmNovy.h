@@ -52,7 +52,7 @@ public:
     // formaty and hrany are the combos' texts; the save gets them back as typed.
     struct TextyDesky {
         QString format;
-        QString hrany[4];
+        QString hrany[4] = {};
     };
     void deska(const QString& tag, const QStringList& formaty, const QStringList& hrany,
                const std::vector<Materialy::Material>& pasky, const Desky::Deska& d, const TextyDesky& texty,
