@@ -136,11 +136,11 @@ void FrmNovy::zakazka(const QString& tag, const QString& nazev, const QString& p
     jmeno->setMinimumWidth(320);
     r.formular->addRow(QStringLiteral("Zakázka:"), jmeno);
     r.formular->addRow(QStringLiteral("Poznámka:"), pozn);
-    auto stav = [=] { r.ulozit->setEnabled(!jmeno->text().trimmed().isEmpty()); };
+    auto stav = [=, this] { r.ulozit->setEnabled(!jmeno->text().trimmed().isEmpty()); };
     connect(jmeno, &QLineEdit::textChanged, this, stav);
     connect(pozn, &QLineEdit::textChanged, this, stav);
     stav();
-    connect(r.ulozit, &QPushButton::clicked, this, [=] {
+    connect(r.ulozit, &QPushButton::clicked, this, [=, this] {
         const PoUlozeni po = ulozit(jmeno->text().trimmed(), pozn->text());
         if (po == PoUlozeni::Zavrit)
             accept();
@@ -177,13 +177,13 @@ void FrmNovy::sestava(const QString& tag, const Zakazky::Sestava& s,
     r.formular->addRow(QStringLiteral("Popis:"), popis);
     r.formular->addRow(QStringLiteral("Počet:"), pocet);
     r.formular->addRow(QStringLiteral("Schema:"), schema);
-    auto stav = [=] { r.ulozit->setEnabled(Tag != QLatin1String("Najeti") && !nazev->text().trimmed().isEmpty()); };
+    auto stav = [=, this] { r.ulozit->setEnabled(Tag != QLatin1String("Najeti") && !nazev->text().trimmed().isEmpty()); };
     Tag = tag;
     connect(nazev, &QLineEdit::textChanged, this, stav);
     connect(popis, &QLineEdit::textChanged, this, stav);
     connect(pocet, &QSpinBox::valueChanged, this, stav);
     stav();
-    connect(r.ulozit, &QPushButton::clicked, this, [=] {
+    connect(r.ulozit, &QPushButton::clicked, this, [=, this] {
         const PoUlozeni po = ulozit({nazev->text().trimmed(), popis->text(), double(pocet->value()), schema->text().toInt()});
         if (po == PoUlozeni::Zavrit)
             accept();
@@ -219,7 +219,7 @@ void FrmNovy::material(const QString& tag, bool hrana, const Materialy::Material
     barva->setFixedSize(60, 22);
     auto* nahled = new Nahled("pctDF");
     QColor vybrana = barvaZVB(m.barva);
-    auto ukazBarvu = [=, &vybrana] { barva->setStyleSheet(QStringLiteral("background-color: %1").arg(vybrana.name())); };
+    auto ukazBarvu = [=, this, &vybrana] { barva->setStyleSheet(QStringLiteral("background-color: %1").arg(vybrana.name())); };
     auto vyplnit = [=](const Materialy::Material& z) {
         nazev->setCurrentText(z.nazev);
         fx->nastavMm(z.x);
@@ -245,14 +245,14 @@ void FrmNovy::material(const QString& tag, bool hrana, const Materialy::Material
         r.formular->addRow(QStringLiteral("Cena bez DPH:"), cena);
         r.formular->addRow(nahled);
     }
-    connect(barva, &QPushButton::clicked, this, [=, &vybrana] {
+    connect(barva, &QPushButton::clicked, this, [=, this, &vybrana] {
         const QColor c = QColorDialog::getColor(vybrana, this, QStringLiteral("Barva hrany v NP"));
         if (c.isValid()) {
             vybrana = c;
             ukazBarvu();
         }
     });
-    auto stav = [=] {
+    auto stav = [=, this] {
         const bool mameRozmery = hrana || (!fx->text().isEmpty() && !fy->text().isEmpty());
         r.ulozit->setEnabled(Tag != QLatin1String("Najeti") && !nazev->currentText().trimmed().isEmpty() &&
                              !cena->text().isEmpty() && cena->hodnota() != 0 && mameRozmery);
@@ -268,7 +268,7 @@ void FrmNovy::material(const QString& tag, bool hrana, const Materialy::Material
     connect(nazev, &QComboBox::currentTextChanged, this, stav);
     connect(ov, &QCheckBox::toggled, this, stav);
     stav();
-    connect(r.ulozit, &QPushButton::clicked, this, [=, &vybrana] {
+    connect(r.ulozit, &QPushButton::clicked, this, [=, this, &vybrana] {
         Materialy::Material z = m;
         z.nazev = nazev->currentText().trimmed();
         z.x = fx->mm();
@@ -344,7 +344,7 @@ void FrmNovy::deska(const QString& tag, const QStringList& formaty, const QStrin
             h[i]->setCurrentText(t.hrany[i]);
     };
     vyplnit(d, texty);
-    auto stav = [=] {
+    auto stav = [=, this] {
         const bool rozmery = !x->text().isEmpty() && !y->text().isEmpty();
         r.ulozit->setEnabled(Tag != QLatin1String("Najeti") && rozmery && !pocet->text().isEmpty() &&
                              !format->currentText().isEmpty());
@@ -366,7 +366,7 @@ void FrmNovy::deska(const QString& tag, const QStringList& formaty, const QStrin
         connect(c, &QComboBox::currentTextChanged, this, stav);
     connect(ov, &QCheckBox::toggled, this, stav);
     stav();
-    connect(r.ulozit, &QPushButton::clicked, this, [=] {
+    connect(r.ulozit, &QPushButton::clicked, this, [=, this] {
         Desky::Deska z;
         z.oznaceni = nazev->currentText().trimmed();
         z.x = x->mm();
