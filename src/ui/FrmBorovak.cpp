@@ -18,6 +18,8 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDir>
+#include <QDropEvent>
+#include <QMenu>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -69,6 +71,20 @@ FrmBorovak::FrmBorovak(Uloziste& uloziste, QtPrompt& prompt) : m_uloziste(ulozis
     m_tvzakazky->setHeaderHidden(true);
     m_tvzakazky->setIconSize(QSize(18, 18));
     connect(m_tvzakazky, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* u) { klikNaUzel(u); });
+    m_tvzakazky->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(m_tvzakazky, &QTreeWidget::customContextMenuRequested, this, [this](const QPoint& bod) {
+        QTreeWidgetItem* u = m_tvzakazky->itemAt(bod);
+        if (!u)
+            return;
+        klikNaUzel(u);
+        const bool sestava = !u->data(0, Qt::UserRole + 1).toString().isEmpty();
+        if (auto* m = findChild<QMenu*>(sestava ? QStringLiteral("Sestava") : QStringLiteral("Zakazka")))
+            m->exec(m_tvzakazky->viewport()->mapToGlobal(bod));
+    });
+    m_tvzakazky->setDragEnabled(true);
+    m_tvzakazky->setAcceptDrops(true);
+    m_tvzakazky->setDragDropMode(QAbstractItemView::DragDrop);
+    m_tvzakazky->viewport()->installEventFilter(this);
     auto* napis = new QLabel(QStringLiteral("Zakázka / Sestava"));
     napis->setObjectName(QStringLiteral("lblNapis1"));
     auto* strom = new QWidget;
@@ -128,6 +144,8 @@ FrmBorovak::FrmBorovak(Uloziste& uloziste, QtPrompt& prompt) : m_uloziste(ulozis
         m_panel[i]->setMinimumWidth(i == 0 ? 260 : 170);
         statusBar()->addWidget(m_panel[i], i == 0 ? 1 : 0);
     }
+    m_panel[0]->installEventFilter(this);
+    m_img1->installEventFilter(this);
     m_panel[1]->setToolTip(QStringLiteral("Cena zakázky s DPH"));
     m_panel[2]->setToolTip(QStringLiteral("Cena za 1ks sestavy s DPH"));
 
@@ -211,6 +229,15 @@ QWidget* FrmBorovak::vytvorStranku(const char* nazevRamce1, const QString& titul
         grid->verticalHeader()->setVisible(false);
         grid->horizontalHeader()->setStretchLastSection(true);
         grid->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
+        grid->setContextMenuPolicy(Qt::CustomContextMenu);
+        connect(grid, &QTableWidget::customContextMenuRequested, this, [this, grid, nazevGridu](const QPoint& bod) {
+            static const QHash<QString, QString> menu = {{QStringLiteral("GridFormaty"), QStringLiteral("Format")},
+                                                         {QStringLiteral("GridHrany"), QStringLiteral("Hrana")},
+                                                         {QStringLiteral("GPM"), QStringLiteral("PlMaterial")},
+                                                         {QStringLiteral("GPR"), QStringLiteral("Prislusenstvi")}};
+            if (auto* m = findChild<QMenu*>(menu.value(nazevGridu)))
+                m->exec(grid->viewport()->mapToGlobal(bod));
+        });
         connect(grid, &QTableWidget::cellDoubleClicked, this, [this, nazevGridu] {
             static const QHash<QString, QString> upravy = {{QStringLiteral("GridFormaty"), QStringLiteral("UF")},
                                                            {QStringLiteral("GridHrany"), QStringLiteral("UH")},
@@ -530,6 +557,39 @@ void FrmBorovak::ulozGeometrii()
     for (auto [klic, hodnota] : {std::pair{"MainLeft", r.x()}, {"MainTop", r.y()}, {"MainWidth", r.width()},
                                  {"MainHeight", r.height()}})
         Nastaveni::SaveSetting(QStringLiteral("Settings"), QLatin1String(klic), QString::number(hodnota * TwipuNaPixel));
+}
+
+bool FrmBorovak::eventFilter(QObject* o, QEvent* e)
+{
+    // An assembly dropped on another order: the question, then the copy (which arrives with the
+    // copying of orders and assemblies; until then the drop is refused with a message).
+    if ((o == m_panel[0] || o == m_img1) && e->type() == QEvent::MouseButtonRelease) {
+        // the note panel edits the order or the assembly; the schema picture the assembly
+        if (!m_AktSestava.isEmpty())
+            prikaz(QStringLiteral("USestava"));
+        else if (o == m_panel[0] && !m_txtzakazka.isEmpty())
+            prikaz(QStringLiteral("UpraveniZakazky"));
+        return true;
+    }
+    if (o == m_tvzakazky->viewport() && e->type() == QEvent::Drop) {
+        auto* drop = static_cast<QDropEvent*>(e);
+        QTreeWidgetItem* cil = m_tvzakazky->itemAt(drop->position().toPoint());
+        QTreeWidgetItem* zdroj = m_tvzakazky->currentItem();
+        drop->ignore();
+        if (!cil || !zdroj || zdroj->data(0, Qt::UserRole + 1).toString().isEmpty())
+            return true;
+        QTreeWidgetItem* cilovaZakazka = cil->parent() ? cil->parent() : cil;
+        if (cilovaZakazka == zdroj->parent())
+            return true; // on its own order nothing happens
+        const QString sestava = zdroj->data(0, Qt::UserRole + 1).toString();
+        if (m_prompt.zprava(QStringLiteral("Chcete zkopírovat sestavu - ") + sestava + QStringLiteral(" - do zakázky - ") +
+                                cilovaZakazka->text(0) + QStringLiteral(" - ?"),
+                            QString(), Prompt::Ikona::Otaznik, Prompt::Tlacitka::AnoNe) == Prompt::Odpoved::Ano)
+            m_prompt.zprava(QStringLiteral("Kopírování sestav mezi zakázkami zatím není k dispozici; nic nebylo změněno."),
+                            QStringLiteral("Kopírování sestavy"), Prompt::Ikona::Informace);
+        return true;
+    }
+    return QMainWindow::eventFilter(o, e);
 }
 
 void FrmBorovak::closeEvent(QCloseEvent* e)
