@@ -171,16 +171,15 @@ void Zkouska::oznacKZ(DeskaKZ& d, bool otoceno)
         d.OTOC = true;
 }
 
-// The look-ups of UsazeniKZ, steps 1 to 6. For a board as it would lie (E its extents along
-// the sheet's axes), krok 0/1 is exact, 2/3 spans the rest along the strip, 4/5 spans the
-// strip's height; odd steps turned. Unturned look-ups pass over a board left turned by a trial
-// that did not fit ("OTOC = False"), turned ones over grain boards. All are ordered by the
-// extent across the strip, then along it, descending: "ORDER BY y DESC, x DESC" in a row,
-// "ORDER BY x DESC, y DESC" in a column, and their turned forms.
-int Zkouska::najdiDesku(int smer, int krok) const
+// The look-ups of UsazeniKZ. For a board as it would lie (E its extents along the sheet's
+// axes, Z the current rectangle's), the first that pasuje() accepts, ordered by the extent across
+// the strip, then along it, descending: "ORDER BY y DESC, x DESC" in a row, "ORDER BY x DESC,
+// y DESC" in a column, and their turned forms. Unturned look-ups pass over a board left turned
+// by a trial that did not fit ("OTOC = False"), turned ones over grain boards.
+template <typename Pasuje>
+int Zkouska::najdi(int smer, bool otoceno, Pasuje pasuje) const
 {
     const int a = smer, b = 1 - smer;
-    const bool otoceno = krok % 2 == 1;
     const double Z[2] = {t15(s.ZbyvaKZ[0]), t15(s.ZbyvaKZ[1])};
     int nejlepsi = -1;
     double nb = 0, na = 0;
@@ -189,13 +188,7 @@ int Zkouska::najdiDesku(int smer, int krok) const
         if (d.ID || (otoceno ? d.OV : d.OTOC))
             continue;
         const double E[2] = {otoceno ? d.y : d.x, otoceno ? d.x : d.y};
-        bool ano;
-        switch (krok / 2) {
-        case 0: ano = E[b] == Z[b] && E[a] == Z[a]; break;
-        case 1: ano = E[b] < Z[b] && E[a] == Z[a]; break;
-        default: ano = E[b] == Z[b] && E[a] < Z[a]; break;
-        }
-        if (ano && (nejlepsi < 0 || E[b] > nb || (E[b] == nb && E[a] > na))) {
+        if (pasuje(E[a], E[b], Z[a], Z[b]) && (nejlepsi < 0 || E[b] > nb || (E[b] == nb && E[a] > na))) {
             nejlepsi = i;
             nb = E[b];
             na = E[a];
@@ -204,25 +197,22 @@ int Zkouska::najdiDesku(int smer, int krok) const
     return nejlepsi;
 }
 
-// Step 7: the next stair, smaller both ways, ordered as above.
+// Steps 1 to 6: krok 0/1 exact, 2/3 spanning the rest along the strip, 4/5 its height; odd turned.
+int Zkouska::najdiDesku(int smer, int krok) const
+{
+    return najdi(smer, krok % 2 == 1, [krok](double ea, double eb, double za, double zb) {
+        switch (krok / 2) {
+        case 0: return eb == zb && ea == za;
+        case 1: return eb < zb && ea == za;
+        default: return eb == zb && ea < za;
+        }
+    });
+}
+
+// Step 7: the next stair, smaller both ways.
 int Zkouska::najdiSchod(int smer, bool otoceno) const
 {
-    const int a = smer, b = 1 - smer;
-    const double Z[2] = {t15(s.ZbyvaKZ[0]), t15(s.ZbyvaKZ[1])};
-    int nejlepsi = -1;
-    double nb = 0, na = 0;
-    for (int i = 0; i < int(m_desky.size()); ++i) {
-        const DeskaKZ& d = m_desky[i];
-        if (d.ID || (otoceno ? d.OV : d.OTOC))
-            continue;
-        const double E[2] = {otoceno ? d.y : d.x, otoceno ? d.x : d.y};
-        if (E[b] < Z[b] && E[a] < Z[a] && (nejlepsi < 0 || E[b] > nb || (E[b] == nb && E[a] > na))) {
-            nejlepsi = i;
-            nb = E[b];
-            na = E[a];
-        }
-    }
-    return nejlepsi;
+    return najdi(smer, otoceno, [](double ea, double eb, double za, double zb) { return eb < zb && ea < za; });
 }
 
 // "... WHERE [ID = false and] Oznaceni = '…' and Rada = {CisloRady} order by Cislo desc"

@@ -44,6 +44,8 @@ private:
     void zkus(int smer, DeskaKZ& deska, bool otoceno);
     void UsazeniKZ(int smer);
     void oznacKZ(DeskaKZ& d, bool otoceno);
+    template <typename Pasuje>
+    int najdi(int smer, bool otoceno, Pasuje pasuje) const;
     int najdiDesku(int smer, int krok) const;
     int najdiSchod(int smer, bool otoceno) const;
     int najdiZbytek(Druh druh, bool jenCekajici) const;

@@ -3,7 +3,10 @@
 // grids, the menu bar, the toolbar and the status bar. It routes every command to the routine
 // that carries it out. The selection lives in txtzakazka and txtSestava: writing them refreshes
 // the page, exactly as the hidden text boxes of the old window did.
+#include "orders/Materialy.h"
+
 #include <QMainWindow>
+#include <optional>
 
 class QAction;
 class QLabel;
@@ -59,6 +62,7 @@ private:
     void UpravitSestavu();
     void SmazatSestavu();
     void NovyMaterial(bool hrana);
+    std::optional<Materialy::Material> vybranyMaterial(bool hrana); // the grid's current row
     void UpravitMaterial(bool hrana);
     void SmazatMaterial(bool hrana);
     void NovyPM();

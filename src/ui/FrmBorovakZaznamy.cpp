@@ -5,6 +5,7 @@
 
 #include "core/Jednotky.h"
 #include "core/Nastaveni.h"
+#include "core/Database.h"
 #include "core/Uloziste.h"
 #include "orders/Desky.h"
 #include "orders/Materialy.h"
@@ -167,6 +168,31 @@ std::optional<Materialy::Material> aktualni(QTableWidget* grid, const std::vecto
     return vse[r];
 }
 
+// What the board dialog's combos offer: the order's formats and bands and their texts.
+struct Nabidka {
+    std::vector<Materialy::Material> formaty, hrany;
+    QStringList textyFormatu, textyHran;
+};
+
+Nabidka nabidka(Database& db, const QString& zakazka)
+{
+    Nabidka n{Materialy::formaty(db, zakazka), Materialy::hrany(db, zakazka), {}, {}};
+    for (const auto& f : n.formaty)
+        n.textyFormatu << Materialy::textFormatu(f);
+    for (const auto& h : n.hrany)
+        n.textyHran << Materialy::textHrany(h);
+    return n;
+}
+
+// The combos' texts back into IDs, by the same text rule (a text that matches nothing is 0).
+Desky::Deska sIdy(Database& db, const QString& zakazka, Desky::Deska d, const FrmNovy::TextyDesky& t)
+{
+    d.idFormat = Materialy::idPodleTextu(db, zakazka, t.format, false);
+    for (int i = 0; i < 4; ++i)
+        d.hrany[i] = Materialy::idPodleTextu(db, zakazka, t.hrany[i], true);
+    return d;
+}
+
 void nastavRadek(QTableWidget* grid, const QString& akce, int predtim)
 {
     const int n = grid->rowCount();
@@ -192,13 +218,16 @@ void FrmBorovak::NovyMaterial(bool hrana)
     });
 }
 
-void FrmBorovak::UpravitMaterial(bool hrana)
+std::optional<Materialy::Material> FrmBorovak::vybranyMaterial(bool hrana)
 {
     m_stZakazky->setCurrentIndex(0);
-    QTableWidget* grid = hrana ? m_GridHrany : m_GridFormaty;
-    const auto vse = hrana ? Materialy::hrany(m_uloziste.dataS(), m_txtzakazka)
-                           : Materialy::formaty(m_uloziste.dataS(), m_txtzakazka);
-    const auto m = aktualni(grid, vse);
+    return aktualni(hrana ? m_GridHrany : m_GridFormaty, hrana ? Materialy::hrany(m_uloziste.dataS(), m_txtzakazka)
+                                                               : Materialy::formaty(m_uloziste.dataS(), m_txtzakazka));
+}
+
+void FrmBorovak::UpravitMaterial(bool hrana)
+{
+    const auto m = vybranyMaterial(hrana);
     if (!m)
         return;
     FrmNovy d(this);
@@ -222,11 +251,7 @@ void FrmBorovak::UpravitMaterial(bool hrana)
 
 void FrmBorovak::SmazatMaterial(bool hrana)
 {
-    m_stZakazky->setCurrentIndex(0);
-    QTableWidget* grid = hrana ? m_GridHrany : m_GridFormaty;
-    const auto vse = hrana ? Materialy::hrany(m_uloziste.dataS(), m_txtzakazka)
-                           : Materialy::formaty(m_uloziste.dataS(), m_txtzakazka);
-    const auto m = aktualni(grid, vse);
+    const auto m = vybranyMaterial(hrana);
     if (!m)
         return;
     const bool smazano = hrana ? Materialy::SmazatHranu(m_uloziste.dataS(), m_prompt, m_txtzakazka, *m)
@@ -298,22 +323,14 @@ void FrmBorovak::NaplnitGridPM(const QString& akce)
 
 void FrmBorovak::NovyPM()
 {
-    const auto formaty = Materialy::formaty(m_uloziste.dataS(), m_txtzakazka);
-    const auto hrany = Materialy::hrany(m_uloziste.dataS(), m_txtzakazka);
-    QStringList ft, ht;
-    for (const auto& f : formaty)
-        ft << Materialy::textFormatu(f);
-    for (const auto& h : hrany)
-        ht << Materialy::textHrany(h);
     const QString zakazka = m_txtzakazka, sestava = m_txtSestava;
+    const Nabidka n = nabidka(m_uloziste.dataS(), zakazka);
     FrmNovy d(this);
-    d.deska(QStringLiteral("NovyPM"), ft, ht, hrany, {QString(), 0, 0, 1}, {},
+    d.deska(QStringLiteral("NovyPM"), n.textyFormatu, n.textyHran, n.hrany, {QString(), 0, 0, 1}, {},
             [&](const Desky::Deska& z, const FrmNovy::TextyDesky& t) {
-                Desky::Deska deska = z;
-                deska.idFormat = Materialy::idPodleTextu(m_uloziste.dataS(), zakazka, t.format, false);
-                for (int i = 0; i < 4; ++i)
-                    deska.hrany[i] = Materialy::idPodleTextu(m_uloziste.dataS(), zakazka, t.hrany[i], true);
-                if (Desky::UlozitNovyPM(m_uloziste.dataS(), m_prompt, zakazka, sestava, deska).isNull())
+                if (Desky::UlozitNovyPM(m_uloziste.dataS(), m_prompt, zakazka, sestava,
+                                        sIdy(m_uloziste.dataS(), zakazka, z, t))
+                        .isNull())
                     return PoUlozeni::Odmitnuto;
                 NaplnitGridPM(QStringLiteral("Novy zaznam"));
                 return PoUlozeni::Dalsi;
@@ -328,31 +345,23 @@ void FrmBorovak::UpravitPM()
     const QString zakazka = m_txtzakazka, sestava = m_txtSestava;
     const QString stary = m_GPM->item(r, 0)->text();
     Nastaveni::SaveSetting(QStringLiteral("Editor"), QStringLiteral("PM"), stary);
-    const auto formaty = Materialy::formaty(m_uloziste.dataS(), zakazka);
-    const auto hrany = Materialy::hrany(m_uloziste.dataS(), zakazka);
-    QStringList ft, ht;
-    for (const auto& f : formaty)
-        ft << Materialy::textFormatu(f);
-    for (const auto& h : hrany)
-        ht << Materialy::textHrany(h);
+    const Nabidka n = nabidka(m_uloziste.dataS(), zakazka);
     const Desky::Deska deska = Desky::nacti(m_uloziste.dataS(), zakazka, sestava, stary);
     FrmNovy::TextyDesky texty;
-    for (const auto& f : formaty)
-        if (f.ID == deska.idFormat)
-            texty.format = Materialy::textFormatu(f);
-    for (int i = 0; i < 4; ++i)
-        for (const auto& h : hrany)
-            if (h.ID == deska.hrany[i])
-                texty.hrany[i] = Materialy::textHrany(h);
+    for (size_t i = 0; i < n.formaty.size(); ++i)
+        if (n.formaty[i].ID == deska.idFormat)
+            texty.format = n.textyFormatu[int(i)];
+    for (int s = 0; s < 4; ++s)
+        for (size_t i = 0; i < n.hrany.size(); ++i)
+            if (n.hrany[i].ID == deska.hrany[s])
+                texty.hrany[s] = n.textyHran[int(i)];
     FrmNovy d(this);
-    d.deska(QStringLiteral("UpraveniPM"), ft, ht, hrany, deska, texty,
+    d.deska(QStringLiteral("UpraveniPM"), n.textyFormatu, n.textyHran, n.hrany, deska, texty,
             [&](const Desky::Deska& z, const FrmNovy::TextyDesky& t) {
-                Desky::Deska nova = z;
-                nova.idFormat = Materialy::idPodleTextu(m_uloziste.dataS(), zakazka, t.format, false);
-                for (int i = 0; i < 4; ++i)
-                    nova.hrany[i] = Materialy::idPodleTextu(m_uloziste.dataS(), zakazka, t.hrany[i], true);
                 const QString puvodni = Nastaveni::GetSetting(QStringLiteral("Editor"), QStringLiteral("PM"));
-                if (Desky::UlozitUpravuPM(m_uloziste.dataS(), m_prompt, zakazka, sestava, puvodni, nova).isNull())
+                if (Desky::UlozitUpravuPM(m_uloziste.dataS(), m_prompt, zakazka, sestava, puvodni,
+                                          sIdy(m_uloziste.dataS(), zakazka, z, t))
+                        .isNull())
                     return PoUlozeni::Odmitnuto;
                 NaplnitGridPM(QStringLiteral("Upravení záznamu"));
                 return PoUlozeni::Zavrit;

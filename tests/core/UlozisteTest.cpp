@@ -15,16 +15,6 @@
 
 namespace {
 
-int cisloChyby(const std::function<void()>& f)
-{
-    try {
-        f();
-    } catch (const Error& e) {
-        return e.cislo();
-    }
-    return 0;
-}
-
 void pridejMaterial(Database& db, const QString& material, double x)
 {
     Recordset rs(db, QStringLiteral("SkladOdrezku"));

@@ -26,16 +26,6 @@ QByteArray demo()
     return f.readAll();
 }
 
-int cisloChyby(const std::function<void()>& f)
-{
-    try {
-        f();
-    } catch (const Error& e) {
-        return e.cislo();
-    }
-    return 0;
-}
-
 QStringList slozkaDat()
 {
     return QDir(Aplikace::cesta(QStringLiteral("Data"))).entryList(QDir::Files | QDir::Hidden, QDir::Name);

@@ -1,6 +1,7 @@
 #include "DomovTest.h"
 
 #include "core/Aplikace.h"
+#include "core/Error.h"
 #include "core/Razitko.h"
 
 #include <QDir>
@@ -30,4 +31,14 @@ Uloziste& DomovTest::uloziste()
     if (!m_uloziste)
         m_uloziste = std::make_unique<Uloziste>(true);
     return *m_uloziste;
+}
+
+int cisloChyby(const std::function<void()>& f)
+{
+    try {
+        f();
+    } catch (const Error& e) {
+        return e.cislo();
+    }
+    return 0;
 }

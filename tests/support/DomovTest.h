@@ -4,6 +4,7 @@
 #include "core/Uloziste.h"
 
 #include <QTemporaryDir>
+#include <functional>
 #include <gtest/gtest.h>
 #include <memory>
 
@@ -20,3 +21,6 @@ private:
     QTemporaryDir m_dir;
     std::unique_ptr<Uloziste> m_uloziste;
 };
+
+// The store's error number that f throws, 0 when it throws none.
+int cisloChyby(const std::function<void()>& f);
