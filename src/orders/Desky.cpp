@@ -72,6 +72,19 @@ bool duplicita(Database& db, Prompt& p, const QString& zakazka, const QString& s
 
 } // namespace
 
+Nahled NahledDesky(const QString& x, const QString& y, const QString& pocet, const QString& format,
+                   const QString (&hrany)[4], const std::vector<Materialy::Material>& pasky)
+{
+    Nahled n;
+    n.vykreslit = !x.isEmpty() && !y.isEmpty();
+    n.ulozit = n.vykreslit && !pocet.isEmpty() && !format.isEmpty();
+    for (int i = 0; i < 4; ++i)
+        for (const Materialy::Material& p : pasky)
+            if (Materialy::textHrany(p) == hrany[i])
+                n.barvy[i] = p.barva;
+    return n;
+}
+
 std::vector<RadekGridu> NaplnitGridPM(Database& db, const QString& zakazka, const QString& sestava)
 {
     std::vector<RadekGridu> radky;

@@ -149,6 +149,8 @@ FrmBorovak::FrmBorovak(Uloziste& uloziste, QtPrompt& prompt) : m_uloziste(ulozis
     m_panel[1]->setToolTip(QStringLiteral("Cena zakázky s DPH"));
     m_panel[2]->setToolTip(QStringLiteral("Cena za 1ks sestavy s DPH"));
 
+    connect(&m_vyber, &Vyber::zmenaZakazky, this, &FrmBorovak::obnovZakazku);
+    connect(&m_vyber, &Vyber::zmenaSestavy, this, &FrmBorovak::obnovSestavu);
     NaplnitStrom();
     obnovGeometrii();
     ZakazEditaciZakazky();
@@ -353,42 +355,25 @@ void FrmBorovak::klikNaUzel(QTreeWidgetItem* uzel)
         m_AktZakazka = uzel->text(0);
         m_AktSestava.clear();
         m_stZakazky->setCurrentIndex(0);
-        nastavZakazku(uzel->text(0));
-        nastavSestavu(QString());
+        m_vyber.setTxtzakazka(uzel->text(0));
+        m_vyber.setTxtSestava(QString());
     } else {
         m_AktZakazka = uzel->parent()->text(0);
         m_AktSestava = tag;
         m_stZakazky->setCurrentIndex(1);
-        if (m_txtzakazka != m_AktZakazka)
-            nastavZakazku(m_AktZakazka);
-        nastavSestavu(tag);
+        m_vyber.setTxtzakazka(m_AktZakazka);
+        m_vyber.setTxtSestava(tag);
     }
-}
-
-void FrmBorovak::nastavZakazku(const QString& zakazka)
-{
-    if (m_txtzakazka == zakazka)
-        return;
-    m_txtzakazka = zakazka;
-    obnovZakazku();
-}
-
-void FrmBorovak::nastavSestavu(const QString& sestava)
-{
-    if (m_txtSestava == sestava)
-        return;
-    m_txtSestava = sestava;
-    obnovSestavu();
 }
 
 void FrmBorovak::obnovZakazku()
 {
-    const Recordset rs(m_uloziste.dataS(), sqlZakazky(m_txtzakazka), Recordset::Rozsah::Prvni);
+    const Recordset rs(m_uloziste.dataS(), sqlZakazky(m_vyber.txtzakazka()), Recordset::Rozsah::Prvni);
     m_panel[0]->setText(rs.eof() ? QString() : rs.text(QStringLiteral("Poznamka")));
     m_panel[0]->setToolTip(QStringLiteral("Poznámka k zakázce"));
     NaplnitGridFormaty(QStringLiteral("Novy zaznam"));
     NaplnitGridHrany(QStringLiteral("Novy zaznam"));
-    if (!m_txtzakazka.isEmpty())
+    if (!m_vyber.txtzakazka().isEmpty())
         PovolEditaciZakazky();
     else
         ZakazEditaciZakazky();
@@ -397,13 +382,13 @@ void FrmBorovak::obnovZakazku()
 void FrmBorovak::obnovSestavu()
 {
     if (m_AktSestava.isEmpty()) {
-        const Recordset rs(m_uloziste.dataS(), sqlZakazky(m_txtzakazka), Recordset::Rozsah::Prvni);
+        const Recordset rs(m_uloziste.dataS(), sqlZakazky(m_vyber.txtzakazka()), Recordset::Rozsah::Prvni);
         m_panel[0]->setText(rs.eof() ? QString() : rs.text(QStringLiteral("Poznamka")));
         m_panel[0]->setToolTip(QStringLiteral("Poznámka k zakázce"));
         m_panel[2]->clear();
     } else {
         const Recordset rs(m_uloziste.dataS(),
-                           sqlZakazky(m_txtzakazka) + QStringLiteral(" and Sestava = '") + Dotaz::text(m_txtSestava) +
+                           sqlZakazky(m_vyber.txtzakazka()) + QStringLiteral(" and Sestava = '") + Dotaz::text(m_vyber.txtSestava()) +
                                QStringLiteral("' ORDER BY Zakazka"),
                            Recordset::Rozsah::Prvni);
         m_panel[0]->setText(rs.eof() ? QString() : rs.text(QStringLiteral("popis")));
@@ -444,7 +429,7 @@ void FrmBorovak::prikaz(const QString& nazev)
 
 void FrmBorovak::ZahajNP()
 {
-    const QString zakazka = m_txtzakazka;
+    const QString zakazka = m_vyber.txtzakazka();
     const std::vector<FormatNP> formaty = PlanRun::formatySDeskami(m_uloziste.dataS(), zakazka);
     if (formaty.empty()) {
         m_prompt.zprava(QStringLiteral("V zakázce není co nařezat!!!!!"), QString(), Prompt::Ikona::Kriticka);
@@ -527,8 +512,7 @@ void FrmBorovak::ObnovaDat()
         NaplnitStrom();
         m_AktZakazka.clear();
         m_AktSestava.clear();
-        nastavZakazku(QString());
-        nastavSestavu(QString());
+        m_vyber.obnov(QString(), QString()); // nothing selected, every page refreshed
     } catch (const Error& e) {
         const Zaloha::Zprava z = Zaloha::zpravaObnovy(e, Schema::Soubor::Data);
         if (!z.text.isEmpty())
@@ -567,7 +551,7 @@ bool FrmBorovak::eventFilter(QObject* o, QEvent* e)
         // the note panel edits the order or the assembly; the schema picture the assembly
         if (!m_AktSestava.isEmpty())
             prikaz(QStringLiteral("USestava"));
-        else if (o == m_panel[0] && !m_txtzakazka.isEmpty())
+        else if (o == m_panel[0] && !m_vyber.txtzakazka().isEmpty())
             prikaz(QStringLiteral("UpraveniZakazky"));
         return true;
     }

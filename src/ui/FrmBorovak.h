@@ -4,6 +4,7 @@
 // that carries it out. The selection lives in txtzakazka and txtSestava: writing them refreshes
 // the page, exactly as the hidden text boxes of the old window did.
 #include "orders/Materialy.h"
+#include "orders/Vyber.h"
 
 #include <QMainWindow>
 #include <optional>
@@ -23,10 +24,9 @@ public:
     FrmBorovak(Uloziste& uloziste, QtPrompt& prompt);
 
     // The selection (what the hidden text boxes held).
-    QString txtzakazka() const { return m_txtzakazka; }
-    QString txtSestava() const { return m_txtSestava; }
-    void nastavZakazku(const QString& zakazka); // fires the order's refresh
-    void nastavSestavu(const QString& sestava); // fires the assembly's refresh
+    QString txtzakazka() const { return m_vyber.txtzakazka(); }
+    QString txtSestava() const { return m_vyber.txtSestava(); }
+    Vyber& vyber() { return m_vyber; }
 
     void NaplnitStrom();
     void ZakazEditaciZakazky();
@@ -80,7 +80,7 @@ private:
 
     Uloziste& m_uloziste;
     QtPrompt& m_prompt;
-    QString m_txtzakazka, m_txtSestava;
+    Vyber m_vyber;
     QString m_AktZakazka, m_AktSestava;
     QTreeWidget* m_tvzakazky;
     QTabWidget* m_stZakazky;

@@ -70,10 +70,7 @@ void FrmBorovak::vyberUzel(QString zakazka, QString sestava)
     }
     m_AktZakazka = zakazka;
     m_AktSestava = sestava;
-    m_txtzakazka.clear(); // force both refreshes, as the old window did by writing the boxes
-    m_txtSestava = QStringLiteral("\x01");
-    nastavZakazku(zakazka);
-    nastavSestavu(sestava);
+    m_vyber.obnov(zakazka, sestava);
 }
 
 void FrmBorovak::NovaZakazka()
@@ -95,7 +92,7 @@ void FrmBorovak::NovaZakazka()
 void FrmBorovak::UpravitZakazku()
 {
     FrmNovy d(this);
-    const QString stara = m_txtzakazka;
+    const QString stara = m_vyber.txtzakazka();
     QString nova;
     d.zakazka(QStringLiteral("UpraveniZakazky"), stara, Zakazky::poznamka(m_uloziste.dataS(), stara),
               [&](const QString& nazev, const QString& poznamka) {
@@ -110,7 +107,7 @@ void FrmBorovak::UpravitZakazku()
 
 void FrmBorovak::SmazatZakazku()
 {
-    if (!Zakazky::SmazatZakazku(m_uloziste.dataS(), m_prompt, m_txtzakazka))
+    if (!Zakazky::SmazatZakazku(m_uloziste.dataS(), m_prompt, m_vyber.txtzakazka()))
         return;
     NaplnitStrom();
     QTreeWidgetItem* dalsi = m_tvzakazky->topLevelItem(0);
@@ -122,14 +119,14 @@ void FrmBorovak::NovaSestava()
     FrmNovy d(this);
     QString ulozena;
     d.sestava(QStringLiteral("NovaSestava"), {QString(), QString(), 1, 0}, [&](const Zakazky::Sestava& s) {
-        if (!Zakazky::UlozitNovouSestavu(m_uloziste.dataS(), m_prompt, m_txtzakazka, s))
+        if (!Zakazky::UlozitNovouSestavu(m_uloziste.dataS(), m_prompt, m_vyber.txtzakazka(), s))
             return PoUlozeni::Odmitnuto;
         ulozena = s.nazev;
         return PoUlozeni::Zavrit;
     });
     if (ulozena.isEmpty())
         return;
-    vyberUzel(m_txtzakazka, ulozena);
+    vyberUzel(m_vyber.txtzakazka(), ulozena);
     m_stZakazky->setCurrentIndex(1);
     NovyPM();
 }
@@ -137,24 +134,24 @@ void FrmBorovak::NovaSestava()
 void FrmBorovak::UpravitSestavu()
 {
     FrmNovy d(this);
-    const QString stara = m_txtSestava;
+    const QString stara = m_vyber.txtSestava();
     Nastaveni::SaveSetting(QStringLiteral("Editor"), QStringLiteral("Sestava"), stara);
     QString nova;
-    d.sestava(QStringLiteral("UpraveniSestavy"), Zakazky::nactiSestavu(m_uloziste.dataS(), m_txtzakazka, stara),
+    d.sestava(QStringLiteral("UpraveniSestavy"), Zakazky::nactiSestavu(m_uloziste.dataS(), m_vyber.txtzakazka(), stara),
               [&](const Zakazky::Sestava& s) {
-                  if (!Zakazky::UlozitUpravuSestavy(m_uloziste.dataS(), m_prompt, m_txtzakazka, stara, s))
+                  if (!Zakazky::UlozitUpravuSestavy(m_uloziste.dataS(), m_prompt, m_vyber.txtzakazka(), stara, s))
                       return PoUlozeni::Odmitnuto;
                   nova = s.nazev;
                   return PoUlozeni::Zavrit;
               });
     if (!nova.isEmpty())
-        vyberUzel(m_txtzakazka, nova);
+        vyberUzel(m_vyber.txtzakazka(), nova);
 }
 
 void FrmBorovak::SmazatSestavu()
 {
-    if (Zakazky::SmazatSestavu(m_uloziste.dataS(), m_prompt, m_txtzakazka, m_txtSestava))
-        vyberUzel(m_txtzakazka, QString());
+    if (Zakazky::SmazatSestavu(m_uloziste.dataS(), m_prompt, m_vyber.txtzakazka(), m_vyber.txtSestava()))
+        vyberUzel(m_vyber.txtzakazka(), QString());
 }
 
 namespace {
@@ -209,8 +206,8 @@ void FrmBorovak::NovyMaterial(bool hrana)
     m_stZakazky->setCurrentIndex(0);
     FrmNovy d(this);
     d.material(hrana ? QStringLiteral("NovaHrana") : QStringLiteral("NovyFormat"), hrana, {}, [&](const Materialy::Material& m) {
-        const bool ok = hrana ? Materialy::UlozitNovouHranu(m_uloziste.dataS(), m_txtzakazka, m)
-                              : Materialy::UlozitNovyFormat(m_uloziste.dataS(), m_txtzakazka, m);
+        const bool ok = hrana ? Materialy::UlozitNovouHranu(m_uloziste.dataS(), m_vyber.txtzakazka(), m)
+                              : Materialy::UlozitNovyFormat(m_uloziste.dataS(), m_vyber.txtzakazka(), m);
         if (!ok)
             return PoUlozeni::Odmitnuto;
         hrana ? NaplnitGridHrany(QStringLiteral("Novy zaznam")) : NaplnitGridFormaty(QStringLiteral("Novy zaznam"));
@@ -221,8 +218,8 @@ void FrmBorovak::NovyMaterial(bool hrana)
 std::optional<Materialy::Material> FrmBorovak::vybranyMaterial(bool hrana)
 {
     m_stZakazky->setCurrentIndex(0);
-    return aktualni(hrana ? m_GridHrany : m_GridFormaty, hrana ? Materialy::hrany(m_uloziste.dataS(), m_txtzakazka)
-                                                               : Materialy::formaty(m_uloziste.dataS(), m_txtzakazka));
+    return aktualni(hrana ? m_GridHrany : m_GridFormaty, hrana ? Materialy::hrany(m_uloziste.dataS(), m_vyber.txtzakazka())
+                                                               : Materialy::formaty(m_uloziste.dataS(), m_vyber.txtzakazka()));
 }
 
 void FrmBorovak::UpravitMaterial(bool hrana)
@@ -234,12 +231,12 @@ void FrmBorovak::UpravitMaterial(bool hrana)
     d.material(hrana ? QStringLiteral("UpraveniHrany") : QStringLiteral("UpraveniFormatu"), hrana, *m,
                [&](const Materialy::Material& z) {
                    if (hrana) {
-                       if (!Materialy::UlozitUpravuHrany(m_uloziste.dataS(), m_txtzakazka, z))
+                       if (!Materialy::UlozitUpravuHrany(m_uloziste.dataS(), m_vyber.txtzakazka(), z))
                            return PoUlozeni::Odmitnuto;
                        NaplnitGridHrany(QStringLiteral("Upraveni zaznamu"));
                        return PoUlozeni::Zavrit;
                    }
-                   const auto u = Materialy::UlozitUpravuFormatu(m_uloziste.dataS(), m_prompt, m_txtzakazka, z);
+                   const auto u = Materialy::UlozitUpravuFormatu(m_uloziste.dataS(), m_prompt, m_vyber.txtzakazka(), z);
                    if (u == Materialy::Uprava::Odmitnuto)
                        return PoUlozeni::Odmitnuto;
                    NaplnitGridFormaty(u == Materialy::Uprava::Slouceno ? QStringLiteral("Odstraneni zaznamu")
@@ -254,8 +251,8 @@ void FrmBorovak::SmazatMaterial(bool hrana)
     const auto m = vybranyMaterial(hrana);
     if (!m)
         return;
-    const bool smazano = hrana ? Materialy::SmazatHranu(m_uloziste.dataS(), m_prompt, m_txtzakazka, *m)
-                               : Materialy::SmazatFormat(m_uloziste.dataS(), m_prompt, m_txtzakazka, *m);
+    const bool smazano = hrana ? Materialy::SmazatHranu(m_uloziste.dataS(), m_prompt, m_vyber.txtzakazka(), *m)
+                               : Materialy::SmazatFormat(m_uloziste.dataS(), m_prompt, m_vyber.txtzakazka(), *m);
     if (smazano)
         hrana ? NaplnitGridHrany(QStringLiteral("Odstraneni zaznamu")) : NaplnitGridFormaty(QStringLiteral("Odstraneni zaznamu"));
 }
@@ -263,7 +260,7 @@ void FrmBorovak::SmazatMaterial(bool hrana)
 void FrmBorovak::NaplnitGridFormaty(const QString& akce)
 {
     const int predtim = m_GridFormaty->currentRow();
-    const auto vse = Materialy::formaty(m_uloziste.dataS(), m_txtzakazka);
+    const auto vse = Materialy::formaty(m_uloziste.dataS(), m_vyber.txtzakazka());
     m_GridFormaty->setRowCount(int(vse.size()));
     for (int i = 0; i < int(vse.size()); ++i) {
         const auto& m = vse[i];
@@ -274,7 +271,7 @@ void FrmBorovak::NaplnitGridFormaty(const QString& akce)
             m_GridFormaty->setItem(i, j, new QTableWidgetItem(bunky[j]));
     }
     nastavRadek(m_GridFormaty, akce, predtim);
-    const bool radek = m_GridFormaty->rowCount() > 0 && !m_txtzakazka.isEmpty();
+    const bool radek = m_GridFormaty->rowCount() > 0 && !m_vyber.txtzakazka().isEmpty();
     povol({QStringLiteral("UF"), QStringLiteral("SF"), QStringLiteral("cmdUpravitFormat"), QStringLiteral("cmdSmazatFormat")},
           radek);
 }
@@ -282,7 +279,7 @@ void FrmBorovak::NaplnitGridFormaty(const QString& akce)
 void FrmBorovak::NaplnitGridHrany(const QString& akce)
 {
     const int predtim = m_GridHrany->currentRow();
-    const auto vse = Materialy::hrany(m_uloziste.dataS(), m_txtzakazka);
+    const auto vse = Materialy::hrany(m_uloziste.dataS(), m_vyber.txtzakazka());
     m_GridHrany->setRowCount(int(vse.size()));
     for (int i = 0; i < int(vse.size()); ++i) {
         const auto& m = vse[i];
@@ -295,7 +292,7 @@ void FrmBorovak::NaplnitGridHrany(const QString& akce)
         barva->setFlags(Qt::ItemIsEnabled); // not selectable: the colour shows on the current row too
     }
     nastavRadek(m_GridHrany, akce, predtim);
-    const bool radek = m_GridHrany->rowCount() > 0 && !m_txtzakazka.isEmpty();
+    const bool radek = m_GridHrany->rowCount() > 0 && !m_vyber.txtzakazka().isEmpty();
     povol({QStringLiteral("UH"), QStringLiteral("SH"), QStringLiteral("cmdUpravitHrana"), QStringLiteral("cmdSmazatHrana")},
           radek);
 }
@@ -304,7 +301,7 @@ void FrmBorovak::NaplnitGridPM(const QString& akce)
 {
     const int predtim = m_GPM->currentRow();
     const auto radky = m_AktSestava.isEmpty() ? std::vector<Desky::RadekGridu>{}
-                                              : Desky::NaplnitGridPM(m_uloziste.dataS(), m_txtzakazka, m_txtSestava);
+                                              : Desky::NaplnitGridPM(m_uloziste.dataS(), m_vyber.txtzakazka(), m_vyber.txtSestava());
     m_GPM->setRowCount(int(radky.size()));
     for (int i = 0; i < int(radky.size()); ++i) {
         const auto& d = radky[i].deska;
@@ -323,7 +320,7 @@ void FrmBorovak::NaplnitGridPM(const QString& akce)
 
 void FrmBorovak::NovyPM()
 {
-    const QString zakazka = m_txtzakazka, sestava = m_txtSestava;
+    const QString zakazka = m_vyber.txtzakazka(), sestava = m_vyber.txtSestava();
     const Nabidka n = nabidka(m_uloziste.dataS(), zakazka);
     FrmNovy d(this);
     d.deska(QStringLiteral("NovyPM"), n.textyFormatu, n.textyHran, n.hrany, {QString(), 0, 0, 1}, {},
@@ -342,7 +339,7 @@ void FrmBorovak::UpravitPM()
     const int r = m_GPM->currentRow();
     if (r < 0)
         return;
-    const QString zakazka = m_txtzakazka, sestava = m_txtSestava;
+    const QString zakazka = m_vyber.txtzakazka(), sestava = m_vyber.txtSestava();
     const QString stary = m_GPM->item(r, 0)->text();
     Nastaveni::SaveSetting(QStringLiteral("Editor"), QStringLiteral("PM"), stary);
     const Nabidka n = nabidka(m_uloziste.dataS(), zakazka);
@@ -373,6 +370,6 @@ void FrmBorovak::SmazatPM()
     const int r = m_GPM->currentRow();
     if (r < 0)
         return;
-    if (Desky::SmazatPM(m_uloziste.dataS(), m_prompt, m_txtzakazka, m_txtSestava, m_GPM->item(r, 0)->text()))
+    if (Desky::SmazatPM(m_uloziste.dataS(), m_prompt, m_vyber.txtzakazka(), m_vyber.txtSestava(), m_GPM->item(r, 0)->text()))
         NaplnitGridPM(QStringLiteral("Odstraneni zaznamu"));
 }

@@ -345,18 +345,15 @@ void FrmNovy::deska(const QString& tag, const QStringList& formaty, const QStrin
     };
     vyplnit(d, texty);
     auto stav = [=, this] {
-        const bool rozmery = !x->text().isEmpty() && !y->text().isEmpty();
-        r.ulozit->setEnabled(Tag != QLatin1String("Najeti") && rozmery && !pocet->text().isEmpty() &&
-                             !format->currentText().isEmpty());
-        nahled->x = rozmery ? x->mm() : 0;
-        nahled->y = rozmery ? y->mm() : 0;
+        const QString texty[4] = {h[0]->currentText(), h[1]->currentText(), h[2]->currentText(), h[3]->currentText()};
+        const Desky::Nahled n =
+            Desky::NahledDesky(x->text(), y->text(), pocet->text(), format->currentText(), texty, pasky);
+        r.ulozit->setEnabled(Tag != QLatin1String("Najeti") && n.ulozit);
+        nahled->x = n.vykreslit ? x->mm() : 0;
+        nahled->y = n.vykreslit ? y->mm() : 0;
         nahled->vzor = ov->isChecked();
-        for (int i = 0; i < 4; ++i) {
-            nahled->hrany[i].reset();
-            for (const Materialy::Material& p : pasky)
-                if (Materialy::textHrany(p) == h[i]->currentText())
-                    nahled->hrany[i] = barvaZVB(p.barva);
-        }
+        for (int i = 0; i < 4; ++i)
+            nahled->hrany[i] = n.barvy[i] ? std::optional<QColor>(barvaZVB(*n.barvy[i])) : std::nullopt;
         nahled->update();
     };
     Tag = nova ? tag : QStringLiteral("UpraveniPM");

@@ -8,6 +8,8 @@
 #include "orders/Materialy.h"
 #include "orders/Strom.h"
 #include "orders/Zakazky.h"
+#include "orders/Vyber.h"
+#include "core/Jednotky.h"
 
 namespace {
 int radku(Database& db, const QString& kde = QString())
@@ -94,4 +96,50 @@ TEST_F(Objednavky, SlouceniDvojcetFormatuAFormatVPouzitiNejdeSmazat)
     EXPECT_FALSE(Materialy::SmazatFormat(db(), p, QStringLiteral("Z"), f[0]));
     EXPECT_EQ(p.zpravy.last(), QStringLiteral("Formát je použit v sestavách a proto ho není možné smazat !!!"));
     EXPECT_EQ(Materialy::idPodleTextu(db(), QStringLiteral("Z"), QStringLiteral("DTD (2800 mm x 2070 mm)"), false), f[0].ID);
+}
+
+TEST_F(Objednavky, PrejmenovaniZakazkyPresuneMaterialyASmazaniVseOdstrani)
+{
+    Zakazky::UlozitNovouZakazku(db(), p, QStringLiteral("A"), QStringLiteral("pozn"));
+    Materialy::UlozitNovyFormat(db(), QStringLiteral("A"), {0, QStringLiteral("DTD"), 2800, 2070, false, 350});
+    Materialy::UlozitNovouHranu(db(), QStringLiteral("A"), {0, QStringLiteral("ABS"), 0, 0, false, 12.5, 255, 2});
+    ASSERT_TRUE(Zakazky::UlozitUpravuZakazky(db(), p, QStringLiteral("A"), QStringLiteral("B"), QStringLiteral("nová")));
+    EXPECT_EQ(Materialy::formaty(db(), QStringLiteral("B")).size(), 1u);
+    EXPECT_EQ(Materialy::hrany(db(), QStringLiteral("B")).size(), 1u);
+    EXPECT_EQ(Zakazky::poznamka(db(), QStringLiteral("B")), QStringLiteral("nová"));
+    EXPECT_EQ(Materialy::textHrany(Materialy::hrany(db(), QStringLiteral("B"))[0]),
+              QStringLiteral("ABS ( 12") + Jednotky::oddelovac() + QStringLiteral("5 - 2 ) "));
+    p.odpovez(Prompt::Odpoved::Ne);
+    EXPECT_FALSE(Zakazky::SmazatZakazku(db(), p, QStringLiteral("B")));
+    p.odpovez(Prompt::Odpoved::Ano);
+    ASSERT_TRUE(Zakazky::SmazatZakazku(db(), p, QStringLiteral("B")));
+    EXPECT_EQ(radku(db()), 0);
+    EXPECT_EQ(db().hodnota(QStringLiteral("SELECT count(*) FROM ZakazkyMaterialy")).toInt(), 0);
+}
+
+TEST(NahledDesky, UlozeniANahledPodlePoli)
+{
+    const std::vector<Materialy::Material> pasky = {{7, QStringLiteral("ABS"), 0, 0, false, 5, 0x0000FF, 1}};
+    const QString hrany[4] = {QStringLiteral("ABS ( 5 - 1 ) "), QString(), QStringLiteral("jiná"), QString()};
+    const Desky::Nahled n = Desky::NahledDesky(QStringLiteral("720 mm"), QStringLiteral("560"), QStringLiteral("1"),
+                                               QStringLiteral("DTD (2800 mm x 2070 mm)"), hrany, pasky);
+    EXPECT_TRUE(n.ulozit);
+    EXPECT_TRUE(n.vykreslit);
+    EXPECT_EQ(n.barvy[0], 0x0000FF);
+    EXPECT_FALSE(n.barvy[1] || n.barvy[2]);
+    EXPECT_FALSE(Desky::NahledDesky(QString(), QStringLiteral("560"), QStringLiteral("1"), QStringLiteral("x"), hrany, pasky).vykreslit);
+    EXPECT_FALSE(Desky::NahledDesky(QStringLiteral("1"), QStringLiteral("560"), QStringLiteral("1"), QString(), hrany, pasky).ulozit);
+}
+
+TEST(Vyber, ZakazkaPredSestavouAJenPriZmene)
+{
+    Vyber v;
+    QStringList udalosti;
+    QObject::connect(&v, &Vyber::zmenaZakazky, [&](const QString& z) { udalosti << QStringLiteral("Z:") + z; });
+    QObject::connect(&v, &Vyber::zmenaSestavy, [&](const QString& s) { udalosti << QStringLiteral("S:") + s; });
+    v.setTxtzakazka(QStringLiteral("A"));
+    v.setTxtzakazka(QStringLiteral("A"));
+    v.setTxtSestava(QStringLiteral("S1"));
+    v.obnov(QStringLiteral("A"), QStringLiteral("S1"));
+    EXPECT_EQ(udalosti, QStringList({"Z:A", "S:S1", "Z:A", "S:S1"}));
 }

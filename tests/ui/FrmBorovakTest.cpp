@@ -168,3 +168,26 @@ TEST_F(Okno, ZakazkaZadanaRucneOdZakazkyPoDesku)
     EXPECT_EQ(gpm->item(0, 4)->text(), QStringLiteral("DTD dub 18 (2800 mm x 2070 mm)"));
     EXPECT_EQ(strom->topLevelItemCount(), 2);
 }
+
+// Storno in the progress frame stops the run at its next look at the flag: no plan message.
+TEST_F(Okno, StornoZastaviBeh)
+{
+    klik(strom->topLevelItem(0));
+    QTimer stisk;
+    QStringList zpravy;
+    QObject::connect(&stisk, &QTimer::timeout, [&] {
+        if (auto* d = qobject_cast<FrmNovy*>(QApplication::activeModalWidget())) {
+            if (auto* ok = d->findChild<QPushButton*>(QStringLiteral("cmdOKNP")); ok && ok->isVisible())
+                ok->click();
+            else if (auto* storno = d->findChild<QPushButton*>(QStringLiteral("cmdStornoNP")); storno && storno->isVisible())
+                storno->click();
+        } else if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            zpravy << box->text();
+            box->accept();
+        }
+    });
+    stisk.start(1);
+    okno->prikaz(QStringLiteral("NP"));
+    EXPECT_TRUE(zpravy.isEmpty()) << zpravy.join(QLatin1Char('|')).toStdString();
+    EXPECT_FALSE(uloziste().maDataK());
+}
