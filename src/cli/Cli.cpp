@@ -24,7 +24,8 @@ const char* const TextPouziti =
     "  plan NÁZEV --format ID --mode kombinovane|podelne|pricne [--volba N] [--dump]\n"
     "  offcuts-load SOUBOR.json      přidá odřezky do skladu\n"
     "  backup [SOUBOR]  restore SOUBOR  pricelist-backup [SOUBOR]  pricelist-restore SOUBOR\n"
-    "  check [SOUBOR]                zkontroluje zálohu, bez souboru živé databáze\n";
+    "  check [SOUBOR]                zkontroluje zálohu, bez souboru živé databáze\n"
+    "  import SOUBOR --order ZAKÁZKA --assembly SESTAVA   seznam desek do sestavy\n";
 
 struct Prikaz {
     const char* nazev;
@@ -36,7 +37,7 @@ const Prikaz prikazy[] = {
     {"order-list", prikazOrderList}, {"settings", prikazSettings},        {"plan", prikazPlan},
     {"offcuts-load", prikazOffcutsLoad}, {"backup", prikazBackup},       {"restore", prikazRestore},
     {"pricelist-backup", prikazPricelistBackup}, {"pricelist-restore", prikazPricelistRestore},
-    {"check", prikazCheck},
+    {"check", prikazCheck},                {"import", prikazImport},
 };
 
 } // namespace

@@ -14,3 +14,4 @@ int prikazRestore(const QStringList& argumenty);
 int prikazPricelistBackup(const QStringList& argumenty);
 int prikazPricelistRestore(const QStringList& argumenty);
 int prikazCheck(const QStringList& argumenty);
+int prikazImport(const QStringList& argumenty);

@@ -85,7 +85,7 @@ QString createTable(const Tabulka& t)
 
 // Lookups that every edit and every plan step makes; they change no result, only its speed.
 const char* indexy_[] = {
-    "CREATE INDEX ixZakazky ON Zakazky (Zakazka, Sestava);",
+    "CREATE INDEX ixZakazky ON Zakazky (Zakazka, Sestava, Oznaceni);",
     "CREATE INDEX ixZakazkyMaterialy ON ZakazkyMaterialy (Zakazka);",
 };
 

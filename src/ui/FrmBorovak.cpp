@@ -47,7 +47,7 @@ const QStringList hotove = {
     QStringLiteral("UpraveniPM"), QStringLiteral("SmazaniPM"), QStringLiteral("cmdNovyFormat"),
     QStringLiteral("cmdUpravitFormat"), QStringLiteral("cmdSmazatFormat"), QStringLiteral("cmdNovaHrana"),
     QStringLiteral("cmdUpravitHrana"), QStringLiteral("cmdSmazatHrana"), QStringLiteral("cmdNovyPM"),
-    QStringLiteral("cmdUpravitPM"), QStringLiteral("cmdSmazatPM")};
+    QStringLiteral("cmdUpravitPM"), QStringLiteral("cmdSmazatPM"), QStringLiteral("cmdImport")};
 
 constexpr int TwipuNaPixel = 15; // the old window positions were kept in screen twips
 
@@ -315,6 +315,7 @@ void FrmBorovak::PovolEditaciZakazky()
 void FrmBorovak::ZakazEditaciSestavy()
 {
     povol({QStringLiteral("USestava"), QStringLiteral("UlozeniSestavyJako"), QStringLiteral("SmazaniSestavy"),
+           QStringLiteral("cmdImport"),
            QStringLiteral("PlMaterial"), QStringLiteral("Prislusenstvi"), QStringLiteral("tbUPZ"), QStringLiteral("tbOPZ"),
            QStringLiteral("tbNPM"), QStringLiteral("tbUPM"), QStringLiteral("tbOPM"), QStringLiteral("tbNPR"),
            QStringLiteral("tbUPR"), QStringLiteral("tbOPR")},
@@ -326,6 +327,7 @@ void FrmBorovak::PovolEditaciSestavy()
     povol({QStringLiteral("UlozeniJakoZ"), QStringLiteral("SmazaniZakazky"), QStringLiteral("USestava"),
            QStringLiteral("UlozeniSestavyJako"), QStringLiteral("SmazaniSestavy"), QStringLiteral("PlMaterial"),
            QStringLiteral("NovyPloM"), QStringLiteral("Prislusenstvi"), QStringLiteral("NoveP"), QStringLiteral("tbUPZ"),
+           QStringLiteral("cmdImport"),
            QStringLiteral("tbOPZ"), QStringLiteral("tbNPM"), QStringLiteral("tbNPR")},
           true);
 }

@@ -68,6 +68,7 @@ private:
     void NovyPM();
     void UpravitPM();
     void SmazatPM();
+    void ImportDesek();
     void NaplnitGridFormaty(const QString& akce);
     void NaplnitGridHrany(const QString& akce);
     void NaplnitGridPM(const QString& akce);

@@ -10,6 +10,7 @@
 #include "orders/Desky.h"
 #include "orders/Materialy.h"
 #include "orders/Zakazky.h"
+#include "ui/FrmImport.h"
 #include "ui/FrmNovy.h"
 #include "ui/QtPrompt.h"
 
@@ -32,6 +33,7 @@ bool FrmBorovak::zaznam(const QString& n)
         {{"NovyPloM", "cmdNovyPM"}, &FrmBorovak::NovyPM},
         {{"UpraveniPM", "cmdUpravitPM"}, &FrmBorovak::UpravitPM},
         {{"SmazaniPM", "cmdSmazatPM"}, &FrmBorovak::SmazatPM},
+        {{"cmdImport"}, &FrmBorovak::ImportDesek},
     };
     for (const auto& [nazvy, f] : prikazy)
         if (nazvy.contains(n)) {
@@ -372,4 +374,15 @@ void FrmBorovak::SmazatPM()
         return;
     if (Desky::SmazatPM(m_uloziste.dataS(), m_prompt, m_vyber.txtzakazka(), m_vyber.txtSestava(), m_GPM->item(r, 0)->text()))
         NaplnitGridPM(QStringLiteral("Odstraneni zaznamu"));
+}
+
+void FrmBorovak::ImportDesek()
+{
+    if (m_AktSestava.isEmpty())
+        return;
+    FrmImport d(m_uloziste.dataS(), m_prompt, m_vyber.txtzakazka(), m_vyber.txtSestava(), this);
+    if (d.exec() == QDialog::Accepted) {
+        NaplnitGridHrany(QStringLiteral("Novy zaznam"));
+        NaplnitGridPM(QStringLiteral("Novy zaznam"));
+    }
 }

@@ -1,0 +1,249 @@
+#include "exchange/Import.h"
+
+#include "core/Database.h"
+#include "core/Dotaz.h"
+#include "core/Error.h"
+#include "core/Jednotky.h"
+#include "core/Razitko.h"
+#include "core/Recordset.h"
+#include "core/Transakce.h"
+#include "core/Val.h"
+
+#include <QHash>
+#include <QMap>
+#include <QRandomGenerator>
+#include <QRegularExpression>
+#include <QStringDecoder>
+#include <cmath>
+#include <variant>
+
+namespace Import {
+namespace {
+
+constexpr double MaxHodnota = 100000;
+
+struct Radek {
+    int cislo; // line of the text, from 1
+    QString nazev;
+    double x, y;
+    double pocet;
+    QString hrany[4];
+};
+
+// A number as typed: a decimal comma or point.
+std::optional<double> cislo(const QString& pole)
+{
+    QString t = pole;
+    t.replace(QLatin1Char(','), QLatin1Char('.'));
+    bool ok = false;
+    const double d = t.toDouble(&ok);
+    if (!ok || !std::isfinite(d))
+        return std::nullopt;
+    return d;
+}
+
+std::variant<std::vector<Radek>, Odmitnuti> rozeber(const QString& text)
+{
+    std::vector<Radek> radky;
+    static const QRegularExpression konecRadku(QStringLiteral("\r\n|\n|\r"));
+    static const QRegularExpression oddelovac(QStringLiteral("[\t;]"));
+    const QStringList linky = text.split(konecRadku);
+    for (int i = 0; i < linky.size(); ++i) {
+        if (linky[i].trimmed().isEmpty())
+            continue;
+        const Odmitnuti chyba{QStringLiteral("Chyba při převodu řádku č. %1").arg(i + 1), i + 1};
+        QStringList pole = linky[i].split(oddelovac);
+        for (QString& p : pole)
+            p = p.trimmed();
+        while (pole.size() > 8 && pole.last().isEmpty())
+            pole.removeLast();
+        if (pole.size() > 8)
+            return chyba;
+        while (pole.size() < 8)
+            pole << QString();
+        Radek r{i + 1, pole[0], 0, 0, 0, {pole[4], pole[5], pole[6], pole[7]}};
+        // sizes in the user's unit, to millimetres
+        const auto x = cislo(pole[1]), y = cislo(pole[2]), pocet = cislo(pole[3]);
+        if (!x || !y || !pocet)
+            return chyba;
+        r.x = Jednotky::NaMilimetry(Dotaz::cislo(*x));
+        r.y = Jednotky::NaMilimetry(Dotaz::cislo(*y));
+        r.pocet = *pocet;
+        if (r.x <= 0 || r.y <= 0 || r.x > MaxHodnota || r.y > MaxHodnota || r.pocet <= 0 || r.pocet > MaxHodnota ||
+            r.pocet != std::trunc(r.pocet))
+            return chyba;
+        for (const QString& h : r.hrany) {
+            if (h.isEmpty())
+                continue;
+            const auto tloustka = cislo(h);
+            if (!tloustka || *tloustka < 0 || *tloustka > MaxHodnota)
+                return chyba;
+        }
+        radky.push_back(r);
+    }
+    return radky;
+}
+
+class Zapis {
+public:
+    Zapis(Database& db, const QString& zakazka, const QString& sestava) : m_db(db), m_zakazka(zakazka), m_sestava(sestava) {}
+
+    QString sestavy() const
+    {
+        return QStringLiteral("SELECT * FROM Zakazky WHERE Zakazka = '") + Dotaz::text(m_zakazka) +
+               QStringLiteral("' and Sestava = '") + Dotaz::text(m_sestava) + QStringLiteral("'");
+    }
+
+    bool existuje(const QString& nazev) const
+    {
+        return !Recordset(m_db, sestavy() + QStringLiteral(" and Oznaceni = '") + Dotaz::text(nazev) +
+                                    QStringLiteral("'ORDER BY Oznaceni"),
+                          Recordset::Rozsah::Prvni)
+                    .prazdny();
+    }
+
+    // "deska n" for an empty name, "name n" for a taken one: the first free n. Names are only
+    // added while importing, so the search for a base goes on from where it last stood.
+    QString jedinecny(const QString& nazev)
+    {
+        if (!nazev.isEmpty() && !existuje(nazev))
+            return nazev;
+        const QString zaklad = nazev.isEmpty() ? QStringLiteral("deska ") : nazev + QLatin1Char(' ');
+        int& n = m_citace[zaklad.toLower()];
+        n = std::max(n, 1);
+        while (existuje(zaklad + QString::number(n)))
+            ++n;
+        return zaklad + QString::number(n);
+    }
+
+    double hrana(const QString& tloustka)
+    {
+        const QString nazev = QStringLiteral("hrana ") + tloustka;
+        if (const auto it = m_hrany.find(nazev.toLower()); it != m_hrany.end())
+            return *it;
+        const Recordset rs(m_db, QStringLiteral("SELECT * FROM ZakazkyMaterialy WHERE Zakazka = '") + Dotaz::text(m_zakazka) +
+                                     QStringLiteral("' and Material = '") + Dotaz::text(nazev) + QStringLiteral("'"),
+                           Recordset::Rozsah::Prvni);
+        double id = rs.eof() ? 0 : rs.cislo(QStringLiteral("ID"));
+        if (rs.eof()) {
+            id = Razitko::volne([&](double s) {
+                return !Recordset(m_db, QStringLiteral("SELECT * FROM ZakazkyMaterialy WHERE Zakazka = '") +
+                                            Dotaz::text(m_zakazka) + QStringLiteral("' and ID = ") + Dotaz::cislo(s),
+                                  Recordset::Rozsah::Prvni)
+                            .prazdny();
+            });
+            Recordset n(m_db, QStringLiteral("ZakazkyMaterialy"), Recordset::Rozsah::Prvni);
+            n.addNew();
+            n.set(QStringLiteral("ID"), id);
+            n.set(QStringLiteral("Zakazka"), m_zakazka);
+            n.set(QStringLiteral("Material"), nazev);
+            n.set(QStringLiteral("pouziti"), QStringLiteral("hrana"));
+            n.set(QStringLiteral("CenaBezDPH"), 5.0);
+            n.set(QStringLiteral("BarvaVNP"), qint64(QRandomGenerator::global()->bounded(1500000)) + 1);
+            n.set(QStringLiteral("PresahHrany"), 0.0);
+            n.update();
+        }
+        m_hrany.insert(nazev.toLower(), id);
+        return id;
+    }
+
+    // The assembly's last row is its header row while it is empty: the first board takes it
+    // over, every further board is a new row with the header fields of the assembly's first row.
+    void deska(const Radek& r, const QString& nazev, double idFormat, const double hrany[4], double cas)
+    {
+        if (!m_nactena) {
+            Recordset vse(m_db, sestavy() + QStringLiteral("ORDER BY Sestava"));
+            for (const char* pole : {"Zakazka", "Sestava", "pocetelementuVsestave", "popis", "schema", "Poznamka", "datum"})
+                m_hlavicka[QLatin1String(pole)] = vse.eof() ? QVariant() : vse.value(QLatin1String(pole));
+            vse.moveLast();
+            if (!vse.eof() && vse.text(QStringLiteral("Oznaceni")).isEmpty())
+                m_prazdna = vse.rowid();
+            m_nactena = true;
+        }
+        std::optional<Recordset> rs;
+        if (m_prazdna) {
+            rs.emplace(m_db, QStringLiteral("SELECT * FROM Zakazky WHERE rowid = %1").arg(*m_prazdna));
+            rs->edit();
+            m_prazdna.reset();
+        } else {
+            rs.emplace(m_db, QStringLiteral("Zakazky"), Recordset::Rozsah::Prvni);
+            rs->addNew();
+            for (auto it = m_hlavicka.cbegin(); it != m_hlavicka.cend(); ++it)
+                rs->set(it.key(), it.value());
+        }
+        static const char* const pole[] = {"IDHX1", "IDHX2", "IDHY1", "IDHY2"};
+        rs->set(QStringLiteral("cas"), cas + r.cislo);
+        rs->set(QStringLiteral("x"), r.x);
+        rs->set(QStringLiteral("y"), r.y);
+        rs->set(QStringLiteral("Pocet"), r.pocet);
+        rs->set(QStringLiteral("Oznaceni"), nazev);
+        for (int i = 0; i < 4; ++i)
+            rs->set(QLatin1String(pole[i]), hrany[i]);
+        rs->set(QStringLiteral("IDFormat"), idFormat);
+        rs->set(QStringLiteral("OV"), true); // imported boards keep their grain
+        rs->update();
+    }
+
+private:
+    Database& m_db;
+    QString m_zakazka, m_sestava;
+    QHash<QString, int> m_citace;
+    QHash<QString, double> m_hrany;
+    bool m_nactena = false;
+    QMap<QString, QVariant> m_hlavicka;
+    std::optional<qint64> m_prazdna;
+};
+
+} // namespace
+
+QString dekoduj(const QByteArray& obsah)
+{
+    if (obsah.size() > MaxVelikost)
+        throw Error(Chyba::NeplatnyVstup, QStringLiteral("Soubor je větší než 10 MB, nelze ho načíst."));
+    if (obsah.startsWith("\xFF\xFE") || obsah.startsWith("\xFE\xFF")) {
+        QStringDecoder d(obsah.startsWith("\xFF\xFE") ? QStringConverter::Utf16LE : QStringConverter::Utf16BE);
+        return d(obsah.mid(2));
+    }
+    if (obsah.contains('\0'))
+        throw Error(Chyba::NeplatnyVstup, QStringLiteral("Soubor neobsahuje text, nelze ho načíst."));
+    if (obsah.startsWith("\xEF\xBB\xBF"))
+        return QString::fromUtf8(obsah.mid(3));
+    QStringDecoder utf8(QStringConverter::Utf8);
+    const QString text = utf8(obsah);
+    if (!utf8.hasError())
+        return text;
+    QStringDecoder cp1250("windows-1250");
+    return cp1250(obsah);
+}
+
+Vysledek importuj(Database& db, const QString& zakazka, const QString& sestava, const QString& text)
+{
+    auto rozebrano = rozeber(text);
+    if (auto* o = std::get_if<Odmitnuti>(&rozebrano))
+        return {0, *o};
+    const auto& radky = std::get<std::vector<Radek>>(rozebrano);
+    if (radky.empty())
+        return {};
+    const Recordset format(db, QStringLiteral("SELECT * FROM ZakazkyMaterialy  WHERE Zakazka = '") + Dotaz::text(zakazka) +
+                                   QStringLiteral("' and Pouziti <> 'hrana' "),
+                           Recordset::Rozsah::Prvni);
+    if (format.eof())
+        return {0, Odmitnuti{QStringLiteral("Doplňte materiál formátu!"), radky.front().cislo}};
+    const double idFormat = format.cislo(QStringLiteral("ID"));
+
+    Transakce t(db);
+    Zapis zapis(db, zakazka, sestava);
+    const double cas = Razitko::sekundy(Razitko::ted());
+    for (const Radek& r : radky) {
+        const QString nazev = zapis.jedinecny(r.nazev);
+        double hrany[4] = {0, 0, 0, 0};
+        for (int i = 0; i < 4; ++i)
+            if (!r.hrany[i].isEmpty() && *cislo(r.hrany[i]) > 0)
+                hrany[i] = zapis.hrana(r.hrany[i]);
+        zapis.deska(r, nazev, idFormat, hrany, cas);
+    }
+    t.commit();
+    return {int(radky.size()), std::nullopt};
+}
+
+}

@@ -1,0 +1,34 @@
+#pragma once
+// The import of a board list into an assembly: eight columns a line (name, length, width,
+// count, the bands of X1, X2, Y1, Y2 by thickness), tab and ";" mixed, sizes in the user's unit
+// with a decimal comma or point. The import is all or nothing: one refused line imports nothing.
+#include <QByteArray>
+#include <QString>
+#include <optional>
+
+class Database;
+
+namespace Import {
+
+constexpr qint64 MaxVelikost = 10 * 1024 * 1024;
+
+// The text of a file as the old system or a spreadsheet wrote it: UTF-16 with its BOM, else
+// UTF-8 (with a BOM or valid), else Windows-1250. Throws Error 5 for a file with NUL bytes
+// (not UTF-16) or over MaxVelikost.
+QString dekoduj(const QByteArray& obsah);
+
+// A refused import: the message and the line (from 1, empty lines counted; 0 for none).
+struct Odmitnuti {
+    QString zprava;
+    int radek = 0;
+};
+
+// Imports the text into the assembly. Returns how many boards were added, or the refusal
+// (nothing written then). Store failures come as Error, nothing written either.
+struct Vysledek {
+    int pridano = 0;
+    std::optional<Odmitnuti> odmitnuti;
+};
+Vysledek importuj(Database& db, const QString& zakazka, const QString& sestava, const QString& text);
+
+}
