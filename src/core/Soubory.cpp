@@ -15,6 +15,18 @@
 namespace Soubory {
 namespace {
 
+std::function<int(const char*, const QString&)> g_porucha;
+
+// The injected failure of an operation, as if the system call had failed with that errno.
+bool porucha(const char* operace, const QString& soubor)
+{
+    if (!g_porucha)
+        return false;
+    const int e = g_porucha(operace, soubor);
+    errno = e;
+    return e != 0;
+}
+
 [[noreturn]] void chyba(const QString& text, const QString& soubor)
 {
     const int e = errno;
@@ -24,6 +36,8 @@ namespace {
 
 void fsync(const QString& cesta, int priznaky)
 {
+    if (porucha("sync", cesta))
+        chyba(QStringLiteral("Nelze uložit na disk"), cesta);
     const int fd = ::open(QFile::encodeName(cesta).constData(), priznaky | O_CLOEXEC);
     if (fd < 0)
         chyba(QStringLiteral("Nelze otevřít"), cesta);
@@ -37,6 +51,11 @@ void fsync(const QString& cesta, int priznaky)
 
 } // namespace
 
+void nastavPoruchu(std::function<int(const char*, const QString&)> p)
+{
+    g_porucha = std::move(p);
+}
+
 void synchronizuj(const QString& soubor)
 {
     fsync(soubor, O_RDONLY);
@@ -49,19 +68,21 @@ void synchronizujSlozku(const QString& soubor)
 
 void prejmenuj(const QString& zdroj, const QString& cil)
 {
-    if (::rename(QFile::encodeName(zdroj).constData(), QFile::encodeName(cil).constData()) != 0)
+    if (porucha("rename", cil) || ::rename(QFile::encodeName(zdroj).constData(), QFile::encodeName(cil).constData()) != 0)
         chyba(QStringLiteral("Nelze přejmenovat na"), cil);
     synchronizujSlozku(cil);
 }
 
 void odstran(const QString& soubor)
 {
-    if (::unlink(QFile::encodeName(soubor).constData()) != 0 && errno != ENOENT)
+    if (porucha("unlink", soubor) || (::unlink(QFile::encodeName(soubor).constData()) != 0 && errno != ENOENT))
         chyba(QStringLiteral("Nelze odstranit"), soubor);
 }
 
 void kopiruj(const QString& zdroj, const QString& cil)
 {
+    if (porucha("copy", cil))
+        chyba(QStringLiteral("Nelze zkopírovat do"), cil);
     const int z = ::open(QFile::encodeName(zdroj).constData(), O_RDONLY | O_CLOEXEC);
     if (z < 0)
         chyba(QStringLiteral("Nelze přečíst"), zdroj);

@@ -2,6 +2,7 @@
 // File operations for files replaced as a whole: each failure becomes the store's Error number
 // by the one errno mapping (3799 disk full, 3051 read-only, 75 other).
 #include <QString>
+#include <functional>
 
 namespace Soubory {
 
@@ -12,6 +13,11 @@ void prejmenuj(const QString& zdroj, const QString& cil);
 void odstran(const QString& soubor);             // a missing file is no error
 // Copies zdroj (opened read-only) to a new file cil and syncs it; cil must not exist.
 void kopiruj(const QString& zdroj, const QString& cil);
+// For tests of a failing disk: called before each sync, rename, copy and unlink with the
+// operation's name ("sync", "rename", "copy", "unlink") and the file; a non-zero answer is the
+// errno the operation then fails with. An empty function removes the seam.
+void nastavPoruchu(std::function<int(const char* operace, const QString& soubor)> porucha);
+
 // A name for a temporary file beside soubor that the next start will clear away ("*.tmp-…").
 QString docasny(const QString& soubor, const QString& ucel);
 

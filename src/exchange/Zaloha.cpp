@@ -9,6 +9,7 @@
 #include "core/Uloziste.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 
 namespace Zaloha {
@@ -138,8 +139,14 @@ bool obnov(Uloziste& u, Schema::Soubor druh, const QString& zdroj, Prompt& promp
         try {
             Soubory::prejmenuj(kopie, zivy(druh));
         } catch (const Error&) {
-            u.otevriData(); // the live file is as it was
-            throw;
+            const bool vymeneno = !QFile::exists(kopie); // renamed; only the folder's sync failed
+            u.otevriData();
+            if (!vymeneno)
+                throw; // the live file is as it was
+            prompt.zprava(QStringLiteral("Obnova zálohy byla dokončena, ale disk nepotvrdil uložení změn.\n"
+                                         "Zkontrolujte disk a vytvořte novou zálohu."),
+                          QStringLiteral("Obnoveno..."), Prompt::Ikona::Vykricnik);
+            return true;
         }
         try {
             u.otevriData();

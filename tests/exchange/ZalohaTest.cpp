@@ -12,6 +12,8 @@
 #include "exchange/ZakazkaJson.h"
 
 #include <QDir>
+#include <cerrno>
+#include <cstring>
 #include <QFile>
 #include <fcntl.h>
 #include <sys/file.h>
@@ -37,6 +39,14 @@ void zapis(const QString& cesta, const QByteArray& obsah)
     ASSERT_TRUE(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
     f.write(obsah);
 }
+
+// Answers Yes to whatever is asked, however far a failing step lets the restore get.
+class VzdyAno : public Prompt {
+public:
+    Odpoved zprava(const QString&, const QString&, Ikona, Tlacitka) override { return Odpoved::Ano; }
+    QString vstup(const QString&, const QString&, const QString& v) override { return v; }
+    QString soubor(bool, const QString&, const QString&, const QString&, const QString&) override { return {}; }
+};
 
 } // namespace
 
@@ -155,4 +165,47 @@ TEST_F(ZalohaTest, PlnyNeboChranenyDiskNechaDataIStarouZalohu)
     vfs.oprav();
     EXPECT_EQ(zakazky(), QStringList({"Kuchyně Novák", "Druhá"}));
     EXPECT_EQ(slozkaDat(), QStringList({".lock", "Cenik.db", "DataS.db"}));
+}
+
+// Every sync, rename and copy of a backup and of a restore fails in turn, as a full disk, a
+// read-only disk and an I/O error: the store stays open with its data, the older backup stays
+// whole, and nothing of ours is left in Data/.
+TEST_F(ZalohaTest, KazdyKrokZalohyIObnovySelzeBezSkody)
+{
+    Uloziste& u = uloziste();
+    ZakazkaJson::nacti(u.dataS(), demo());
+    Zaloha::zalohuj(u, Schema::Soubor::Data, zaloha());
+    QByteArray druha = demo();
+    ZakazkaJson::nacti(u.dataS(), druha.replace("Kuchyně Novák", "Druhá"));
+    const QStringList data = {"Kuchyně Novák", "Druhá"};
+
+    for (const char* operace : {"sync", "rename", "copy"})
+        for (auto [errno_, cislo] : {std::pair{ENOSPC, Chyba::DiskPlny}, {EROFS, Chyba::JenProCteni}, {EIO, Chyba::PristupKSouboru}})
+            for (int kolikaty = 1; kolikaty <= 4; ++kolikaty)
+                for (bool obnova : {false, true}) {
+                    if (!zakazky().contains(QStringLiteral("Druhá"))) // a restore before ran through
+                        ZakazkaJson::nacti(u.dataS(), druha);
+                    int volani = 0;
+                    Soubory::nastavPoruchu([&](const char* o, const QString&) {
+                        return std::strcmp(o, operace) == 0 && ++volani == kolikaty ? errno_ : 0;
+                    });
+                    VzdyAno prompt;
+                    const int chyba = cisloChyby([&] {
+                        if (obnova) {
+                            Zaloha::obnov(u, Schema::Soubor::Data, zaloha(), prompt);
+                        } else {
+                            Zaloha::zalohuj(u, Schema::Soubor::Data, zaloha());
+                        }
+                    });
+                    Soubory::nastavPoruchu({});
+                    const std::string kde = std::string(operace) + " #" + std::to_string(kolikaty) + (obnova ? " obnova" : " záloha");
+                    // the backup file is old or new, and whole
+                    EXPECT_NO_THROW(Zaloha::zkontroluj(zaloha(), Schema::Soubor::Data)) << kde;
+                    if (chyba == 0 || volani < kolikaty)
+                        continue; // ran through, or its step had fewer such operations
+                    EXPECT_EQ(chyba, cislo) << kde;
+                    EXPECT_EQ(zakazky(), data) << kde;
+                    for (const QString& f : slozkaDat())
+                        EXPECT_FALSE(f.contains(QStringLiteral(".tmp-"))) << kde << " " << f.toStdString();
+                }
 }
