@@ -5,7 +5,10 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QDir>
 #include <QProcess>
+#include <QThread>
+#include <csignal>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 #include <sys/file.h>
@@ -151,4 +154,71 @@ TEST_F(CliTest, ApostrofACeskaJmenaAOdrezky)
     EXPECT_TRUE(spatne.err.startsWith(QStringLiteral("Odřezek č. 1: údaj „x“")));
     Database data(domov() + QStringLiteral("/Data/DataS.db"));
     EXPECT_EQ(data.hodnota(QStringLiteral("SELECT count(*) FROM SkladOdrezku")).toInt(), 2);
+}
+
+// A restore or a backup killed (SIGKILL) at growing delays: the data are the old or the new,
+// the backup file is whole, and the next start clears what the killed one left.
+TEST_F(CliTest, ZabitaObnovaAZalohaNechajiStaraNeboNovaData)
+{
+    spust({"init"});
+    spust({"order-load", demo()});
+    const QString zaloha = domov() + QStringLiteral("/zaloha 'ž'.bvk");
+    ASSERT_EQ(spust({"backup", zaloha}).kod, 0);
+    QFile f(demo());
+    f.open(QIODevice::ReadOnly);
+    const QString druha = m_dir.filePath(QStringLiteral("druha.json"));
+    {
+        QFile d(druha);
+        d.open(QIODevice::WriteOnly);
+        d.write(f.readAll().replace("Kuchyně Novák", "Druhá"));
+    }
+    spust({"order-load", druha});
+    const QString stara = QStringLiteral("Kuchyně Novák\nDruhá\n"), nova = QStringLiteral("Kuchyně Novák\n");
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.insert(QStringLiteral("XDG_CONFIG_HOME"), m_dir.filePath(QStringLiteral("config")));
+    for (int prikaz = 0; prikaz < 2; ++prikaz)
+        for (int us = 0; us < 60000; us = us * 3 / 2 + 500) {
+            QProcess p;
+            p.setProcessEnvironment(env);
+            p.start(QStringLiteral(TRUHLAR_CLI), {QStringLiteral("--home"), domov(),
+                                                  prikaz == 0 ? QStringLiteral("restore") : QStringLiteral("backup"), zaloha});
+            ASSERT_TRUE(p.waitForStarted());
+            QThread::usleep(us);
+            ::kill(p.processId(), SIGKILL);
+            p.waitForFinished();
+            const Vysledek seznam = spust({"order-list"});
+            ASSERT_EQ(seznam.kod, 0) << us << " " << seznam.err.toStdString();
+            ASSERT_TRUE(seznam.out == stara || seznam.out == nova) << us << " " << seznam.out.toStdString();
+            EXPECT_EQ(spust({"check", zaloha}).kod, 0) << us;
+            if (seznam.out == nova) {
+                ASSERT_EQ(spust({"order-load", druha}).kod, 0);
+            }
+        }
+    for (const QString& s : QDir(domov() + QStringLiteral("/Data")).entryList(QDir::Files))
+        EXPECT_FALSE(s.contains(QStringLiteral(".tmp-"))) << s.toStdString();
+}
+
+TEST_F(CliTest, ZalohaZmenaObnovaAImportZWindows1250)
+{
+    spust({"init"});
+    spust({"order-load", demo()});
+    const QString zaloha = domov() + QStringLiteral("/b.bvk");
+    ASSERT_EQ(spust({"backup", zaloha}).kod, 0);
+    const QString pred = spust({"order-dump", "Kuchyně Novák"}).out;
+    const QString seznam = m_dir.filePath(QStringLiteral("seznam.txt"));
+    {
+        QFile t(seznam);
+        t.open(QIODevice::WriteOnly);
+        // Windows-1250: "Žlutá police", "Čelo"
+        t.write(QByteArray("\x8E" "lut\xE1 police;562;300;2;2;0;0;0\r\n\xC8" "elo;596;716;1\r\n"));
+    }
+    const Vysledek import = spust({"import", seznam, "--order", "Kuchyně Novák", "--assembly", "Sokl"});
+    ASSERT_EQ(import.kod, 0) << import.err.toStdString();
+    EXPECT_TRUE(spust({"order-dump", "Kuchyně Novák"}).out.contains(QStringLiteral("Žlutá police")));
+    EXPECT_EQ(spust({"import", seznam, "--order", "Kuchyně Novák", "--assembly", "Neni"}).kod, 3);
+    EXPECT_EQ(spust({"restore", zaloha}).kod, 0);
+    EXPECT_EQ(spust({"order-dump", "Kuchyně Novák"}).out, pred);
+    EXPECT_EQ(spust({"restore", demo()}).kod, 3);
+    EXPECT_EQ(spust({"check", demo()}).kod, 3);
+    EXPECT_EQ(spust({"order-dump", "Kuchyně Novák"}).out, pred);
 }
