@@ -5,6 +5,7 @@
 #include "core/Uloziste.h"
 #include "exchange/ZakazkaJson.h"
 #include "ui/FrmBorovak.h"
+#include "ui/FrmImport.h"
 #include "ui/FrmNovy.h"
 #include "ui/QtPrompt.h"
 #include "orders/Materialy.h"
@@ -13,6 +14,7 @@
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
+#include <QStringEncoder>
 #include <QTimer>
 #include <QTreeWidget>
 
@@ -95,6 +97,31 @@ int main(int argc, char** argv)
         d.deska(QStringLiteral("UpraveniPM"), {t.format}, ht, hrany, {QStringLiteral("dvířka"), 716, 396, 2, false}, t,
                 [](const Desky::Deska&, const FrmNovy::TextyDesky&) { return Po::Zavrit; });
     });
+
+    // the import, empty and with a list the old system wrote (Windows-1250)
+    {
+        FrmImport prazdny(u.dataS(), prompt, QStringLiteral("Kuchyně Novák"), QStringLiteral("Sokl"), &okno);
+        uloz(&prazdny, vystup, QStringLiteral("frmImport"));
+        const QString soubor = dir.filePath(QStringLiteral("seznam.txt"));
+        QFile f(soubor);
+        f.open(QIODevice::WriteOnly);
+        f.write(QStringEncoder("windows-1250")(QStringLiteral(
+            "Bok levý;720;560;2;2;2;0;0\r\nBok pravý;720;560;2;2;2;0;0\r\nPolička;562,5;300;3;0,5;0;0;0\r\n"
+            "Čelo zásuvky;496;176;4;2;2;2;2\r\nZáda\t700\t600\t1\r\n")));
+        f.close();
+        FrmImport plny(u.dataS(), prompt, QStringLiteral("Kuchyně Novák"), QStringLiteral("Sokl"), &okno);
+        plny.otevriSoubor(soubor);
+        uloz(&plny, vystup, QStringLiteral("frmImport-windows1250"));
+    }
+    // the restore's question, as the window asks it
+    QTimer::singleShot(50, &okno, [&] {
+        if (QWidget* otazka = QApplication::activeModalWidget()) {
+            uloz(otazka, vystup, QStringLiteral("otazka-obnova"));
+            otazka->close();
+        }
+    });
+    prompt.zprava(QStringLiteral("Opravdu chcete nynější data nahradit za BData5_3_2026.bvk ?"), QStringLiteral("Upozornění"),
+                  Prompt::Ikona::Otaznik, Prompt::Tlacitka::AnoNe);
 
     FrmNovy volba(&okno);
     QTimer::singleShot(0, &volba, [&] {

@@ -58,7 +58,7 @@ QString sqlZakazky(const QString& zakazka)
 
 } // namespace
 
-FrmBorovak::FrmBorovak(Uloziste& uloziste, QtPrompt& prompt) : m_uloziste(uloziste), m_prompt(prompt)
+FrmBorovak::FrmBorovak(Uloziste& uloziste, Prompt& prompt) : m_uloziste(uloziste), m_prompt(prompt)
 {
     setObjectName(QStringLiteral("frmBorovak"));
     setWindowTitle(QStringLiteral("Truhlář V ") + Nastaveni::verze());

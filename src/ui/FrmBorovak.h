@@ -15,13 +15,13 @@ class QTableWidget;
 class QTabWidget;
 class QTreeWidget;
 class QTreeWidgetItem;
-class QtPrompt;
+class Prompt;
 class Uloziste;
 
 class FrmBorovak : public QMainWindow {
     Q_OBJECT
 public:
-    FrmBorovak(Uloziste& uloziste, QtPrompt& prompt);
+    FrmBorovak(Uloziste& uloziste, Prompt& prompt);
 
     // The selection (what the hidden text boxes held).
     QString txtzakazka() const { return m_vyber.txtzakazka(); }
@@ -80,7 +80,7 @@ private:
     void ulozGeometrii();
 
     Uloziste& m_uloziste;
-    QtPrompt& m_prompt;
+    Prompt& m_prompt;
     Vyber m_vyber;
     QString m_AktZakazka, m_AktSestava;
     QTreeWidget* m_tvzakazky;

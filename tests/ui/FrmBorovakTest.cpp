@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QFile>
 #include <QComboBox>
+#include <QPlainTextEdit>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QTableWidget>
@@ -190,4 +191,71 @@ TEST_F(Okno, StornoZastaviBeh)
     okno->prikaz(QStringLiteral("NP"));
     EXPECT_TRUE(zpravy.isEmpty()) << zpravy.join(QLatin1Char('|')).toStdString();
     EXPECT_FALSE(uloziste().maDataK());
+}
+
+// The import from the assembly page: a refused line keeps the window open with the caret on it;
+// a good list fills the grid.
+TEST_F(Okno, ImportZeStrankySestavyAChybnyRadek)
+{
+    klik(strom->topLevelItem(0));
+    klik(strom->topLevelItem(0)->child(3)); // Zásuv50
+    ASSERT_TRUE(okno->findChild<QPushButton*>(QStringLiteral("cmdImport"))->isEnabled());
+    int pokus = 0;
+    int radekKurzoru = -1;
+    bool odmitnuto = false;
+    QTimer ruka;
+    QObject::connect(&ruka, &QTimer::timeout, [&] {
+        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            box->accept();
+            odmitnuto = true;
+            return;
+        }
+        auto* d = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (!d || d->objectName() != QLatin1String("frmImport"))
+            return;
+        auto* text = d->findChild<QPlainTextEdit*>(QStringLiteral("Text1"));
+        if (pokus == 0) {
+            text->setPlainText(QStringLiteral("a;100;100;1\nb;0;100;1\n"));
+            // clicked from the event loop: the refusal's message must not run inside this tick
+            QMetaObject::invokeMethod(d->findChild<QPushButton*>(QStringLiteral("cmdImportovat")), "click",
+                                      Qt::QueuedConnection);
+            ++pokus;
+        } else if (pokus == 1 && odmitnuto) {
+            radekKurzoru = text->textCursor().blockNumber();
+            text->setPlainText(QStringLiteral("a;100;100;1\nb;200;100;1\n"));
+            d->findChild<QPushButton*>(QStringLiteral("cmdImportovat"))->click();
+            ++pokus;
+        }
+    });
+    ruka.start(10);
+    okno->prikaz(QStringLiteral("cmdImport"));
+    EXPECT_EQ(radekKurzoru, 1);
+    EXPECT_EQ(okno->findChild<QTableWidget*>(QStringLiteral("GPM"))->rowCount(), 7);
+}
+
+// After a restore the tree is refilled and nothing is selected; the dialogs are answered by
+// the scripted prompt.
+TEST_F(DomovTest, PoObnoveNeniNicVybrano)
+{
+    Nastaveni::ZapisVychoziNastaveni(1000, 1000, 13500, 9000);
+    QFile demo(QStringLiteral(TRUHLAR_SHARE "/demo/kuchyne.json"));
+    demo.open(QIODevice::ReadOnly);
+    ZakazkaJson::nacti(uloziste().dataS(), demo.readAll());
+    SkriptovanyPrompt prompt;
+    FrmBorovak okno(uloziste(), prompt);
+    const QString zaloha = domov() + QStringLiteral("/z.bvk");
+    prompt.odpovez(zaloha);
+    okno.prikaz(QStringLiteral("Vz"));
+    EXPECT_EQ(prompt.zpravy.last(), QStringLiteral("Zálohování bylo úspěšně dokončeno"));
+    auto* strom = okno.findChild<QTreeWidget*>(QStringLiteral("tvzakazky"));
+    emit strom->itemClicked(strom->topLevelItem(0)->child(0), 0);
+    ASSERT_EQ(okno.txtSestava(), QStringLiteral("Dřez80"));
+    prompt.odpovez(zaloha);
+    prompt.odpovez(Prompt::Odpoved::Ano);
+    okno.prikaz(QStringLiteral("OD"));
+    EXPECT_EQ(prompt.zpravy.last(), QStringLiteral("Obnova zálohy byla úspěšně dokončena"));
+    EXPECT_EQ(okno.txtzakazka(), QString());
+    EXPECT_EQ(okno.txtSestava(), QString());
+    EXPECT_FALSE(okno.akce(QStringLiteral("NP"))->isEnabled());
+    EXPECT_EQ(strom->topLevelItemCount(), 1);
 }
