@@ -1,11 +1,13 @@
 // make bench: the plan run of every order in ../shared/bench/*.json and of generated orders of
 // 50, 200 and 500 boards, in each mode, in a throw-away application folder. Prints per order and
-// mode: boards, sheets, seconds. Arguments narrow the run: a mode (podelne, pricne, kombinovane)
-// and/or order names.
+// mode: boards, sheets, seconds; before them the backup, restore and import figures. Arguments
+// narrow the run: a mode (podelne, pricne, kombinovane), order names, or jenzaloha.
 #include "core/Aplikace.h"
 #include "core/Nastaveni.h"
 #include "core/Recordset.h"
 #include "core/Uloziste.h"
+#include "exchange/Import.h"
+#include "exchange/Zaloha.h"
 #include "exchange/ZakazkaJson.h"
 #include "optimiser/PlanRun.h"
 
@@ -49,6 +51,41 @@ QByteArray vygeneruj(int desek)
     return QJsonDocument(zakazka).toJson();
 }
 
+double sekundy(const std::function<void()>& f)
+{
+    QElapsedTimer cas;
+    cas.start();
+    f();
+    return cas.nsecsElapsed() / 1e9;
+}
+
+// Backup and restore of 1,000 orders of 50 boards; import of 10,000 lines, distinct names and
+// all named "Bok" (each taking the next free number).
+void zalohaAImport(Uloziste& u)
+{
+    const QByteArray vzor = vygeneruj(50);
+    for (int i = 0; i < 1000; ++i) {
+        QByteArray json = vzor;
+        ZakazkaJson::nacti(u.dataS(), json.replace("\"gen50\"", QStringLiteral("\"zakázka %1\"").arg(i).toUtf8()));
+    }
+    const QString soubor = Aplikace::cesta(QStringLiteral("Zálohy dat/bench.bvk"));
+    BezOtazek ano;
+    std::printf("%-40s %10s\n", "záloha a obnova (1000 zakázek po 50 deskách)", "sekund");
+    std::printf("%-40s %10.3f\n", "záloha", sekundy([&] { Zaloha::zalohuj(u, Schema::Soubor::Data, soubor); }));
+    std::printf("%-40s %10.3f\n", "obnova", sekundy([&] { Zaloha::obnov(u, Schema::Soubor::Data, soubor, ano); }));
+    for (bool stejne : {false, true}) {
+        QString text;
+        for (int i = 0; i < 10000; ++i)
+            text += (stejne ? QStringLiteral("Bok") : QStringLiteral("deska %1").arg(i)) + QStringLiteral(";720;560;1;2;0;0;0\n");
+        const QString sestava = stejne ? QStringLiteral("Boky") : QStringLiteral("Desky");
+        ZakazkaJson::nacti(u.dataS(), QStringLiteral(R"({"zakazka": "import %1", "formaty": [{"material": "DTD", "x": 2800,
+                                       "y": 2070}], "sestavy": [{"nazev": "%1"}]})").arg(sestava).toUtf8());
+        std::printf("%-40s %10.3f\n", stejne ? "import 10 000 řádků \"Bok\"" : "import 10 000 řádků, různé názvy",
+                    sekundy([&] { Import::importuj(u.dataS(), QStringLiteral("import ") + sestava, sestava, text); }));
+    }
+    std::fflush(stdout);
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -80,6 +117,11 @@ int main(int argc, char** argv)
     }
     for (int desek : {50, 200, 500})
         zakazky.push_back(ZakazkaJson::nacti(u.dataS(), vygeneruj(desek)));
+
+    if (vyber.removeAll(QStringLiteral("zaloha")) || vyber.removeAll(QStringLiteral("jenzaloha")) || vyber.isEmpty())
+        zalohaAImport(u);
+    if (app.arguments().contains(QStringLiteral("jenzaloha")))
+        return 0;
 
     std::printf("%-10s %-12s %7s %7s %10s\n", "zakázka", "režim", "desek", "tabulí", "sekund");
     BezOtazek prompt;
