@@ -205,6 +205,8 @@ TEST_F(CliTest, ZalohaZmenaObnovaAImportZWindows1250)
     const QString zaloha = domov() + QStringLiteral("/b.bvk");
     ASSERT_EQ(spust({"backup", zaloha}).kod, 0);
     const QString pred = spust({"order-dump", "Kuchyně Novák"}).out;
+    const QStringList plan = {"plan", "Kuchyně Novák", "--format", "5000001", "--mode", "kombinovane", "--dump"};
+    const QString planPred = spust(plan).out;
     const QString seznam = m_dir.filePath(QStringLiteral("seznam.txt"));
     {
         QFile t(seznam);
@@ -218,6 +220,7 @@ TEST_F(CliTest, ZalohaZmenaObnovaAImportZWindows1250)
     EXPECT_EQ(spust({"import", seznam, "--order", "Kuchyně Novák", "--assembly", "Neni"}).kod, 3);
     EXPECT_EQ(spust({"restore", zaloha}).kod, 0);
     EXPECT_EQ(spust({"order-dump", "Kuchyně Novák"}).out, pred);
+    EXPECT_EQ(spust(plan).out, planPred);
     EXPECT_EQ(spust({"restore", demo()}).kod, 3);
     EXPECT_EQ(spust({"check", demo()}).kod, 3);
     EXPECT_EQ(spust({"order-dump", "Kuchyně Novák"}).out, pred);

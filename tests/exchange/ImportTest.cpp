@@ -130,7 +130,7 @@ TEST_F(ImportTest, NahodneZmenyImportujiVseNeboNic)
 {
     QRandomGenerator nahoda(2026);
     const QString znaky = QStringLiteral("0123456789;,\t\n -xBok.");
-    for (int i = 0; i < 300; ++i) {
+    for (int i = 0; i < 2000; ++i) {
         QString text = Seznam;
         for (int z = 0; z < 3; ++z)
             text[int(nahoda.bounded(text.size()))] = znaky[int(nahoda.bounded(znaky.size()))];
