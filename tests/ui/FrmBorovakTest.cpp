@@ -42,6 +42,29 @@ protected:
         DomovTest::TearDown();
     }
     void klik(QTreeWidgetItem* u) { emit strom->itemClicked(u, 0); }
+    // Starts a plan from the window, answering as a user would: Pokračuj in the plan start, then
+    // Storno in the progress frame if asked, OK under any message. Returns the messages.
+    QStringList spustPlan(bool storno)
+    {
+        QTimer ruka;
+        QStringList zpravy;
+        QObject::connect(&ruka, &QTimer::timeout, [&] {
+            if (auto* d = qobject_cast<FrmNovy*>(QApplication::activeModalWidget())) {
+                auto* ok = d->findChild<QPushButton*>(QStringLiteral("cmdOKNP"));
+                auto* zastav = d->findChild<QPushButton*>(QStringLiteral("cmdStornoNP"));
+                if (ok && ok->isVisible())
+                    ok->click();
+                else if (storno && zastav && zastav->isVisible())
+                    zastav->click();
+            } else if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+                zpravy << box->text();
+                box->accept();
+            }
+        });
+        ruka.start(1);
+        okno->prikaz(QStringLiteral("NP"));
+        return zpravy;
+    }
     bool zapnuto(const char* nazev) { return okno->akce(QLatin1String(nazev))->isEnabled(); }
 
     QtPrompt prompt;
@@ -90,20 +113,7 @@ TEST_F(Okno, StavPrikazuSleduVyber)
 TEST_F(Okno, PlanSpustenyZOknaDobehneAZpravaRekneKolikTabuli)
 {
     klik(strom->topLevelItem(0));
-    // answer the dialogs as a user would: Pokračuj in the plan start, then OK under the result
-    QTimer stisk;
-    QStringList zpravy;
-    QObject::connect(&stisk, &QTimer::timeout, [&] {
-        if (auto* d = qobject_cast<FrmNovy*>(QApplication::activeModalWidget())) {
-            if (auto* ok = d->findChild<QPushButton*>(QStringLiteral("cmdOKNP")); ok && ok->isVisible())
-                ok->click();
-        } else if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-            zpravy << box->text();
-            box->accept();
-        }
-    });
-    stisk.start(20);
-    okno->prikaz(QStringLiteral("NP"));
+    const QStringList zpravy = spustPlan(false);
     ASSERT_EQ(zpravy.size(), 1);
     EXPECT_TRUE(zpravy[0].startsWith(QStringLiteral("Nářezový plán je hotov: ")));
     EXPECT_TRUE(zpravy[0].contains(QStringLiteral("usazeno 40 desek")));
@@ -174,21 +184,7 @@ TEST_F(Okno, ZakazkaZadanaRucneOdZakazkyPoDesku)
 TEST_F(Okno, StornoZastaviBeh)
 {
     klik(strom->topLevelItem(0));
-    QTimer stisk;
-    QStringList zpravy;
-    QObject::connect(&stisk, &QTimer::timeout, [&] {
-        if (auto* d = qobject_cast<FrmNovy*>(QApplication::activeModalWidget())) {
-            if (auto* ok = d->findChild<QPushButton*>(QStringLiteral("cmdOKNP")); ok && ok->isVisible())
-                ok->click();
-            else if (auto* storno = d->findChild<QPushButton*>(QStringLiteral("cmdStornoNP")); storno && storno->isVisible())
-                storno->click();
-        } else if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-            zpravy << box->text();
-            box->accept();
-        }
-    });
-    stisk.start(1);
-    okno->prikaz(QStringLiteral("NP"));
+    const QStringList zpravy = spustPlan(true);
     EXPECT_TRUE(zpravy.isEmpty()) << zpravy.join(QLatin1Char('|')).toStdString();
     EXPECT_FALSE(uloziste().maDataK());
 }
