@@ -143,3 +143,27 @@ TEST(Vyber, ZakazkaPredSestavouAJenPriZmene)
     v.obnov(QStringLiteral("A"), QStringLiteral("S1"));
     EXPECT_EQ(udalosti, QStringList({"Z:A", "S:S1", "Z:A", "S:S1"}));
 }
+
+// Apostrophes in every kind of name, and a band deleted although in use: the board keeps an ID
+// that no band has, so its combo shows blank.
+TEST_F(Objednavky, ApostrofyVsudeASmazanaHranaVPouziti)
+{
+    const QString z = QStringLiteral("O'Neill"), s = QStringLiteral("S'1");
+    ASSERT_TRUE(Zakazky::UlozitNovouZakazku(db(), p, z, QStringLiteral("it's")));
+    ASSERT_TRUE(Materialy::UlozitNovyFormat(db(), z, {0, QStringLiteral("DTD 'bílá'"), 2800, 2070, false, 350}));
+    ASSERT_TRUE(Materialy::UlozitNovouHranu(db(), z, {0, QStringLiteral("ABS 'b'"), 0, 0, false, 12.5, 255, 2}));
+    ASSERT_TRUE(Zakazky::UlozitNovouSestavu(db(), p, z, {s, QStringLiteral("d'"), 1, 0}));
+    const auto f = Materialy::formaty(db(), z)[0];
+    const auto h = Materialy::hrany(db(), z)[0];
+    Desky::Deska d{QStringLiteral("bok 'L'"), 720, 560, 1, false, f.ID, {h.ID, 0, 0, 0}};
+    ASSERT_EQ(Desky::UlozitNovyPM(db(), p, z, s, d), QStringLiteral("bok 'L'"));
+    EXPECT_EQ(Materialy::idPodleTextu(db(), z, Materialy::textFormatu(f), false), f.ID);
+    EXPECT_EQ(Desky::NaplnitGridPM(db(), z, s)[0].deska.hrany[0], h.ID);
+    p.odpovez(Prompt::Odpoved::Ano);
+    EXPECT_TRUE(Materialy::SmazatHranu(db(), p, z, h)); // allowed although in use
+    EXPECT_EQ(p.zpravy.size(), 1);
+    EXPECT_EQ(Desky::nacti(db(), z, s, QStringLiteral("bok 'L'")).hrany[0], h.ID);
+    EXPECT_TRUE(Materialy::hrany(db(), z).empty()); // so no combo text names it: blank
+    ASSERT_TRUE(Zakazky::UlozitUpravuSestavy(db(), p, z, s, {QStringLiteral("T'2"), QString(), 2, 0}));
+    EXPECT_EQ(Desky::NaplnitGridPM(db(), z, QStringLiteral("T'2")).size(), 1u);
+}

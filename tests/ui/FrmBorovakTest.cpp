@@ -255,3 +255,93 @@ TEST_F(DomovTest, PoObnoveNeniNicVybrano)
     EXPECT_FALSE(okno.akce(QStringLiteral("NP"))->isEnabled());
     EXPECT_EQ(strom->topLevelItemCount(), 1);
 }
+
+// Editing and deleting through the window: three boards (one with a blank name), a board, the
+// format and the assembly edited, then a board, the assembly and the order deleted, with the
+// command states after each selection.
+TEST_F(Okno, UpravyASmazaniZOkna)
+{
+    QTreeWidgetItem* zakazka = strom->topLevelItem(0);
+    klik(zakazka);
+    klik(zakazka->child(2)); // Sokl: two boards
+    auto* gpm = okno->findChild<QTableWidget*>(QStringLiteral("GPM"));
+    ASSERT_EQ(gpm->rowCount(), 2);
+    std::function<void(FrmNovy*)> krok;
+    QTimer ruka;
+    QObject::connect(&ruka, &QTimer::timeout, [&] {
+        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            box->button(QMessageBox::Yes) ? box->button(QMessageBox::Yes)->click() : box->buttons().first()->click();
+            return;
+        }
+        if (auto* d = qobject_cast<FrmNovy*>(QApplication::activeModalWidget()); d && krok) {
+            auto k = std::move(krok);
+            krok = nullptr;
+            k(d);
+        }
+    });
+    ruka.start(5);
+    auto pole = [](FrmNovy* d, const char* n) { return d->findChild<QLineEdit*>(QLatin1String(n)); };
+    auto stisk = [](FrmNovy* d, const char* n) {
+        QMetaObject::invokeMethod(d->findChild<QPushButton*>(QLatin1String(n)), "click", Qt::QueuedConnection);
+    };
+    // three new boards in one series, the second with a blank name
+    int ulozeno = 0;
+    std::function<void(FrmNovy*)> dalsi = [&](FrmNovy* d) {
+        const QString jmena[] = {QStringLiteral("lišta"), QString(), QStringLiteral("čelo")};
+        d->findChild<QComboBox*>(QStringLiteral("txtPM"))->setCurrentText(jmena[ulozeno]);
+        pole(d, "txtX")->setText(QStringLiteral("400"));
+        pole(d, "txtY")->setText(QString::number(100 + ulozeno));
+        auto* format = d->findChild<QComboBox*>(QStringLiteral("cmbMaterial"));
+        format->setCurrentIndex(1);
+        stisk(d, "cmdUPM");
+        if (++ulozeno < 3)
+            QTimer::singleShot(30, [&] { krok = dalsi; });
+        else
+            QTimer::singleShot(30, d, [d] { d->close(); });
+    };
+    krok = dalsi;
+    okno->prikaz(QStringLiteral("NovyPloM"));
+    ASSERT_EQ(gpm->rowCount(), 5);
+    QStringList nazvy;
+    for (int r = 0; r < gpm->rowCount(); ++r)
+        nazvy << gpm->item(r, 0)->text();
+    EXPECT_TRUE(nazvy.contains(QStringLiteral("deska 1"))) << nazvy.join(QLatin1Char(',')).toStdString();
+    // edit the current (last) board's length
+    gpm->setCurrentCell(gpm->rowCount() - 1, 0);
+    krok = [&](FrmNovy* d) {
+        pole(d, "txtX")->setText(QStringLiteral("444"));
+        stisk(d, "cmdUPM");
+    };
+    okno->prikaz(QStringLiteral("UpraveniPM"));
+    EXPECT_EQ(gpm->item(gpm->rowCount() - 1, 1)->text(), QStringLiteral("444 mm"));
+    // delete it (the question answered Yes)
+    okno->prikaz(QStringLiteral("SmazaniPM"));
+    EXPECT_EQ(gpm->rowCount(), 4);
+    // edit the format's price, then the assembly's name
+    klik(zakazka);
+    EXPECT_FALSE(okno->akce(QStringLiteral("PlMaterial"))->isEnabled());
+    okno->findChild<QTableWidget*>(QStringLiteral("GridFormaty"))->setCurrentCell(0, 0);
+    krok = [&](FrmNovy* d) {
+        pole(d, "txtFCena")->setText(QStringLiteral("399"));
+        stisk(d, "cmdFormatUlozit");
+    };
+    okno->prikaz(QStringLiteral("UF"));
+    EXPECT_EQ(okno->findChild<QTableWidget*>(QStringLiteral("GridFormaty"))->item(0, 3)->text(), QStringLiteral("399.00 Kč/m2"));
+    klik(strom->topLevelItem(0)->child(2));
+    krok = [&](FrmNovy* d) {
+        pole(d, "txtNT")->setText(QStringLiteral("Sokly"));
+        stisk(d, "cmdUlozitP");
+    };
+    okno->prikaz(QStringLiteral("USestava"));
+    EXPECT_EQ(okno->txtSestava(), QStringLiteral("Sokly"));
+    EXPECT_TRUE(okno->akce(QStringLiteral("PlMaterial"))->isEnabled());
+    // delete the assembly, then the order
+    okno->prikaz(QStringLiteral("SmazaniSestavy"));
+    EXPECT_EQ(strom->topLevelItem(0)->childCount(), 3);
+    EXPECT_EQ(okno->txtSestava(), QString());
+    okno->prikaz(QStringLiteral("SmazaniZakazky"));
+    EXPECT_EQ(strom->topLevelItemCount(), 0);
+    EXPECT_EQ(okno->txtzakazka(), QString());
+    EXPECT_FALSE(okno->akce(QStringLiteral("NP"))->isEnabled());
+    EXPECT_TRUE(okno->akce(QStringLiteral("tbNZ"))->isEnabled());
+}
