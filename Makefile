@@ -2,7 +2,7 @@
 BUILD_DIR ?= build
 JOBS ?= $(shell nproc)
 PACKAGES := cmake g++ make qt6-base-dev libsqlite3-dev libgtest-dev libgmock-dev \
-            fonts-liberation2 fonts-dejavu-core poppler-utils
+            fonts-liberation2 fonts-dejavu-core poppler-utils xvfb xauth
 
 .PHONY: deps build run test bench clean
 

@@ -11,6 +11,8 @@
 #include <QCommandLineParser>
 #include <QSplashScreen>
 #include <QThread>
+#include <QTimer>
+#include <cstdio>
 
 int main(int argc, char** argv)
 {
@@ -47,5 +49,12 @@ int main(int argc, char** argv)
     QThread::msleep(qEnvironmentVariableIsSet("TRUHLAR_BEZ_PAUZY") ? 0 : 1000);
     okno.show();
     splash.finish(&okno);
+    // A developer's smoke check under a real X server: say the caption and end after a while.
+    if (const int ms = qEnvironmentVariableIntValue("TRUHLAR_UKONCIT_PO"); ms > 0)
+        QTimer::singleShot(ms, &okno, [&okno] {
+            std::fputs(okno.windowTitle().toUtf8().constData(), stdout);
+            std::fputs(okno.isVisible() ? " viditelne\n" : "\n", stdout);
+            okno.close();
+        });
     return app.exec();
 }

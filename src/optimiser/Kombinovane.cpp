@@ -151,5 +151,6 @@ bool Umisteni::sloucitKoncoveZbytky()
         w = sirka;
     }
     db.executeSqlite(QStringLiteral("UPDATE SoupisZbytku SET plocha = 0, celkemY = 0"));
+    ++r.m_slouceni;
     return true;
 }

@@ -67,6 +67,7 @@ bool PlanRun::SpustNP(const QString& zakazka, double idFormatu, ZpusobNP zpusob,
     m_prerusit = false;
     m_varovani = false;
     m_smycka = false;
+    m_slouceni = 0;
     m_rezy.clear();
     m_s = Stav{};
     m_hodnotaPrubehu = 0;

@@ -43,6 +43,7 @@ public:
     const std::map<int, int>& RezyNaTabuli() const { return m_rezy; }
     bool varovani() const { return m_varovani || m_smycka; } // sheets ran out, or a walk was cut
     bool smycka() const { return m_smycka; } // a stack walk of end remnants met itself (kerf 0)
+    int slouceni() const { return m_slouceni; } // stacks of end remnants merged into a strip
     bool preruseno() const { return m_prerusit; }
     const QString& AktualniZakazka() const { return m_zakazka; }
     double IDFormatuNP() const { return m_idFormatu; }
@@ -76,6 +77,7 @@ private:
     bool m_prerusit = false;
     bool m_varovani = false;
     bool m_smycka = false;
+    int m_slouceni = 0;
     double m_krokPrubehu = 0;
     double m_hodnotaPrubehu = 0;
 

@@ -1,6 +1,11 @@
 // The combined mode's own steps.
 #include "PlanTest.h"
 
+#include "core/Recordset.h"
+
+#include <QRandomGenerator>
+#include <QRectF>
+
 class Kombinovane : public PlanTest {};
 
 // With kerf 0 an end remnant of height 0 lies on itself, and the stack walk would never end:
@@ -27,4 +32,39 @@ TEST_F(Kombinovane, DeskaCeleTabuleSeUsadiPrvnimDotazem)
     EXPECT_EQ(plan["SoupisTabuli"].toArray().size(), 2);
     EXPECT_TRUE(plan["SoupisZbytku"].toArray().isEmpty());
     EXPECT_FALSE(plan["warning"].toBool());
+}
+
+// Stacked end remnants merged into a taller strip of the row let one more board in: among
+// seeded orders of mixed sizes some plans merge, and those plans place every board without
+// overlap, the merged strip's boards included.
+TEST_F(Kombinovane, SlouceniKoncovychZbytkuUsadiDalsiDesku)
+{
+    int planuSeSloucenim = 0;
+    for (quint32 seme = 1; seme <= 40 && planuSeSloucenim < 3; ++seme) {
+        QRandomGenerator nahoda(seme);
+        std::vector<DeskaTest> desky;
+        for (int i = 0; i < 10; ++i)
+            desky.push_back({QStringLiteral("d%1").arg(i), double(100 + 50 * nahoda.bounded(12)),
+                             double(60 + 20 * nahoda.bounded(10)), 1 + int(nahoda.bounded(2))});
+        const QString nazev = QStringLiteral("Z%1").arg(seme);
+        zakazka(1200, 800, false, desky, nazev);
+        TichyPrubeh prubeh;
+        PlanRun run(uloziste(), prompt, prubeh);
+        run.SpustNP(nazev, 5000001, ZpusobNP::Kombinovane);
+        if (run.slouceni() == 0)
+            continue;
+        ++planuSeSloucenim;
+        std::vector<QRectF> polozene;
+        for (Recordset rs(uloziste().dataK(), QStringLiteral("SoupisDesek")); !rs.eof(); rs.moveNext()) {
+            ASSERT_TRUE(rs.ano(QStringLiteral("ID")));
+            const bool otoc = rs.ano(QStringLiteral("OTOC"));
+            const QRectF r(rs.cislo(QStringLiteral("XD")) + 100000 * rs.cislo(QStringLiteral("tabule")), rs.cislo(QStringLiteral("YD")),
+                           otoc ? rs.cislo(QStringLiteral("y")) : rs.cislo(QStringLiteral("x")),
+                           otoc ? rs.cislo(QStringLiteral("x")) : rs.cislo(QStringLiteral("y")));
+            for (const QRectF& jiny : polozene)
+                EXPECT_FALSE(r.intersects(jiny)) << "seed " << seme;
+            polozene.push_back(r);
+        }
+    }
+    EXPECT_GT(planuSeSloucenim, 0);
 }
