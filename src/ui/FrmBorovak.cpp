@@ -6,6 +6,7 @@
 #include "core/Razitko.h"
 #include "core/Recordset.h"
 #include "core/Uloziste.h"
+#include "costing/Kalkulace.h"
 #include "exchange/Zaloha.h"
 #include "optimiser/PlanRun.h"
 #include "orders/Strom.h"
@@ -402,6 +403,25 @@ void FrmBorovak::obnovSestavu()
         PovolEditaciSestavy();
     else
         ZakazEditaciSestavy();
+    obnovCeny();
+}
+
+void FrmBorovak::obnovCeny()
+{
+    m_panel[1]->clear();
+    m_panel[2]->clear();
+    if (m_vyber.txtzakazka().isEmpty())
+        return;
+    try {
+        const Kalkulace::Ceny c = Kalkulace::ZobrazCeny(m_uloziste, m_vyber.txtzakazka(), m_AktSestava);
+        m_panel[1]->setText(c.zakazka);
+        m_panel[2]->setText(c.sestava);
+    } catch (const Error& e) {
+        m_panel[1]->setText(QStringLiteral("cena nelze spočítat"));
+        m_panel[1]->setToolTip(e.text());
+        return;
+    }
+    m_panel[1]->setToolTip(QStringLiteral("Cena zakázky s DPH"));
 }
 
 void FrmBorovak::prikaz(const QString& nazev)

@@ -53,6 +53,7 @@ private:
     void klikNaUzel(QTreeWidgetItem* uzel);
     void obnovZakazku();
     void obnovSestavu();
+    void obnovCeny(); // panels 2 and 3: the order and one piece of the assembly, with VAT
     // the entry commands (FrmBorovakZaznamy.cpp)
     bool zaznam(const QString& nazev);
     void NovaZakazka();

@@ -213,6 +213,7 @@ void FrmBorovak::NovyMaterial(bool hrana)
         if (!ok)
             return PoUlozeni::Odmitnuto;
         hrana ? NaplnitGridHrany(QStringLiteral("Novy zaznam")) : NaplnitGridFormaty(QStringLiteral("Novy zaznam"));
+        obnovCeny();
         return PoUlozeni::Dalsi;
     });
 }
@@ -332,6 +333,7 @@ void FrmBorovak::NovyPM()
                         .isNull())
                     return PoUlozeni::Odmitnuto;
                 NaplnitGridPM(QStringLiteral("Novy zaznam"));
+                obnovCeny();
                 return PoUlozeni::Dalsi;
             });
 }
@@ -363,6 +365,7 @@ void FrmBorovak::UpravitPM()
                         .isNull())
                     return PoUlozeni::Odmitnuto;
                 NaplnitGridPM(QStringLiteral("Upravení záznamu"));
+                obnovCeny();
                 return PoUlozeni::Zavrit;
             });
 }
@@ -372,8 +375,10 @@ void FrmBorovak::SmazatPM()
     const int r = m_GPM->currentRow();
     if (r < 0)
         return;
-    if (Desky::SmazatPM(m_uloziste.dataS(), m_prompt, m_vyber.txtzakazka(), m_vyber.txtSestava(), m_GPM->item(r, 0)->text()))
+    if (Desky::SmazatPM(m_uloziste.dataS(), m_prompt, m_vyber.txtzakazka(), m_vyber.txtSestava(), m_GPM->item(r, 0)->text())) {
         NaplnitGridPM(QStringLiteral("Odstraneni zaznamu"));
+        obnovCeny();
+    }
 }
 
 void FrmBorovak::ImportDesek()

@@ -1,0 +1,32 @@
+#pragma once
+// The costing tables: SoupisProKalkulaci (a row per board, accessory and band side) for one
+// piece of each assembly (NaplnKalkulaciSestav, with its totals per assembly and material in
+// SoupisProKalkulaciCelkem) or for the whole order (NaplnKalkulaciZakazky), and the two prices
+// of the main window's status bar (ZobrazCeny). They fill the tables of the plan database DataK.
+#include <QString>
+#include <QStringList>
+
+class Database;
+class Uloziste;
+
+namespace Kalkulace {
+
+// The assemblies the calculation covers; empty: all.
+using Vyber = QStringList;
+
+// Throws Error 5 naming board and assembly when a board's format row is gone.
+void NaplnKalkulaciZakazky(Database& dataK, const QString& zakazka, const Vyber& sestavy = {});
+void NaplnKalkulaciSestav(Database& dataK, const QString& zakazka, const Vyber& sestavy = {});
+
+// The texts of panels 2 and 3: the order's price with VAT and one piece of the assembly's,
+// "1234,50 Kč" (empty number when nothing is priced). Remakes DataK and closes it again.
+struct Ceny {
+    QString zakazka;
+    QString sestava;
+};
+Ceny ZobrazCeny(Uloziste& u, const QString& zakazka, const QString& sestava);
+
+// The sum of SoupisProKalkulaci with VAT, rounded as the panel rounds it.
+double sDPH(double zaklad);
+
+}

@@ -1,0 +1,63 @@
+// Costing: the rounding of the old Format, the discounts, and the demo order priced by hand.
+#include "DomovTest.h"
+#include "core/Nastaveni.h"
+#include "core/Recordset.h"
+#include "costing/Kalkulace.h"
+#include "costing/Zaokrouhleni.h"
+#include "exchange/ZakazkaJson.h"
+
+#include <QFile>
+
+TEST(Zaokrouhleni, PolovinaOdNulyZPatnactiCifer)
+{
+    EXPECT_EQ(Zaokrouhli(0.125, 2), 0.13);
+    EXPECT_EQ(Zaokrouhli(12.35 * 0.5, 2), 6.18); // prints 6.175
+    EXPECT_EQ(Zaokrouhli(-0.125, 2), -0.13);
+    EXPECT_EQ(Zaokrouhli(0.0009, 2), 0);
+    EXPECT_EQ(Zaokrouhli(0.4032, 2), 0.4);
+    EXPECT_EQ(Zaokrouhli(1194.998, 2), 1195);
+    EXPECT_EQ(Sleva(QStringLiteral("6.5")), 6);
+    EXPECT_EQ(Sleva(QStringLiteral("7.5")), 8);
+    EXPECT_EQ(Sleva(QString()), 0);
+}
+
+class KalkulaceTest : public DomovTest {
+protected:
+    void SetUp() override
+    {
+        DomovTest::SetUp();
+        Nastaveni::ZapisVychoziNastaveni(0, 0, 1, 1);
+        QFile demo(QStringLiteral(TRUHLAR_SHARE "/demo/kuchyne.json"));
+        demo.open(QIODevice::ReadOnly);
+        ZakazkaJson::nacti(uloziste().dataS(), demo.readAll());
+    }
+};
+
+// Dřez80, one piece: boards 0.40 m2 x 2 + 0.43 + 0.08 x 2 + 0.28 x 2 at 350 = 682.50;
+// accessories 100 + 90 + 48 = 238; band 12.50/m with 2 mm overhang: bok 2 x 0.724 (18.10),
+// dno 0.768 (9.60), dvířka both X sides 4 x 0.720 (36.00) and both Y sides 4 x 0.400 (20.00);
+// 1004.20 without VAT, 1195.00 with 19 %.
+TEST_F(KalkulaceTest, CenaKusuSestavyAZakazkySDPH)
+{
+    const Kalkulace::Ceny c = Kalkulace::ZobrazCeny(uloziste(), QStringLiteral("Kuchyně Novák"), QStringLiteral("Dřez80"));
+    EXPECT_EQ(c.sestava, QStringLiteral("1195.00 Kč"));
+    EXPECT_FALSE(uloziste().maDataK());
+    uloziste().ObnovPracovniDatabazi();
+    Database& k = uloziste().dataK();
+    Kalkulace::NaplnKalkulaciSestav(k, QStringLiteral("Kuchyně Novák"), {QStringLiteral("Dřez80")});
+    Recordset dvirka(k, QStringLiteral("SELECT * FROM SoupisProKalkulaci WHERE Oznaceni = 'dvířka (716 mm x 396 mm)' ORDER BY cislo"));
+    ASSERT_EQ(dvirka.recordCount(), 3); // the board, its X sides, its Y sides
+    dvirka.moveNext();
+    EXPECT_EQ(dvirka.cislo(QStringLiteral("mnozstvi")), 4);
+    EXPECT_EQ(dvirka.cislo(QStringLiteral("delka")), 0.72);
+    EXPECT_EQ(dvirka.cislo(QStringLiteral("Cena")), 36);
+    EXPECT_EQ(k.hodnota(QStringLiteral("SELECT sum(Cena) FROM SoupisProKalkulaciCelkem WHERE Sestava = 'Dřez80'")).toDouble(), 1004.2);
+    // a discount on sheet material reaches the boards and the X sides of bands only
+    Nastaveni::SaveSetting(QStringLiteral("Setting"), QStringLiteral("SlevaPM"), QStringLiteral("10"));
+    Kalkulace::NaplnKalkulaciSestav(k, QStringLiteral("Kuchyně Novák"), {QStringLiteral("Dřez80")});
+    Recordset bok(k, QStringLiteral("SELECT * FROM SoupisProKalkulaci WHERE Oznaceni = 'bok (720 mm x 560 mm)' ORDER BY cislo"));
+    EXPECT_EQ(bok.cislo(QStringLiteral("JC")), 315);
+    bok.moveNext();
+    EXPECT_EQ(bok.cislo(QStringLiteral("JC")), 11.25);
+    uloziste().zavriDataK();
+}
