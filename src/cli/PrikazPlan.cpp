@@ -8,6 +8,10 @@
 #include "core/Uloziste.h"
 #include "optimiser/PlanRun.h"
 #include "optimiser/VypisNP.h"
+#include "core/Nastaveni.h"
+#include "planoutput/Stitky.h"
+#include "planoutput/StrankyNP.h"
+#include "printing/Vykresleni.h"
 
 #include <QJsonDocument>
 
@@ -51,6 +55,26 @@ Error chybaPracovniDatabaze(const Error& e)
                                            "Ukončete toto používání!!!"));
 }
 
+// The plan pages in the layout of VykresleniTabule, and the labels, each written whole.
+void ulozPdf(Uloziste& u, const PlanRun& run, const QString& pdf, const QString& stitky)
+{
+    if (!pdf.isNull()) {
+        Dokument d;
+        int rozvrzeni = int(Nastaveni::cislo(QStringLiteral("Setting2"), QStringLiteral("VykresleniTabule")));
+        rozvrzeni = rozvrzeni == 0 ? 1 : rozvrzeni;
+        if (rozvrzeni != 1 && rozvrzeni != 2 && rozvrzeni != 4)
+            throw Error(Chyba::NeplatnyVstup, QStringLiteral("Nastavení VykresleniTabule musí být 1, 2 nebo 4."));
+        if (!StrankyNP(d, u, PlanNaStrankach::z(run), rozvrzeni))
+            throw Error(Chyba::NeplatnyVstup, QString::fromUtf8(RozmerovaChyba));
+        Vykresleni::pdf(d, pdf, NavrhNazvuNP(run.AktualniZakazka(), run.zpusob()));
+    }
+    if (!stitky.isNull()) {
+        Dokument d;
+        TiskStitku(d, u, run.AktualniZakazka());
+        Vykresleni::pdf(d, stitky, QString::fromUtf8(TitulekStitku));
+    }
+}
+
 } // namespace
 
 int prikazPlan(const QStringList& vstup)
@@ -60,9 +84,10 @@ int prikazPlan(const QStringList& vstup)
     const QString rezim = Cli::vezmiVolbu(argumenty, QStringLiteral("--mode"));
     const QString volba = Cli::vezmiVolbu(argumenty, QStringLiteral("--volba"));
     const bool dump = Cli::vezmiPrepinac(argumenty, QStringLiteral("--dump"));
-    for (const char* pozdeji : {"--pdf", "--labels-pdf", "--vpf"})
-        if (!Cli::vezmiVolbu(argumenty, QLatin1String(pozdeji)).isNull())
-            throw Cli::ChybaPouziti(QStringLiteral("Volba %1 zatím není k dispozici.").arg(QLatin1String(pozdeji)));
+    const QString pdf = Cli::vezmiVolbu(argumenty, QStringLiteral("--pdf"));
+    const QString stitky = Cli::vezmiVolbu(argumenty, QStringLiteral("--labels-pdf"));
+    if (!Cli::vezmiVolbu(argumenty, QStringLiteral("--vpf")).isNull())
+        throw Cli::ChybaPouziti(QStringLiteral("Volba --vpf zatím není k dispozici."));
     if (Cli::vezmiPrepinac(argumenty, QStringLiteral("--write-back")))
         throw Cli::ChybaPouziti(QStringLiteral("Volba --write-back zatím není k dispozici."));
     if (argumenty.size() != 1 || format.isNull() || rezim.isNull())
@@ -94,6 +119,8 @@ int prikazPlan(const QStringList& vstup)
             throw chybaPracovniDatabaze(e);
         throw;
     }
+    if (!pdf.isNull() || !stitky.isNull())
+        ulozPdf(u, run, pdf, stitky);
     if (dump)
         Cli::out() << QString::fromUtf8(QJsonDocument(VypisNP(u.dataK(), run)).toJson(QJsonDocument::Compact)) << '\n';
     else

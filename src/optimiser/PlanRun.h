@@ -48,6 +48,7 @@ public:
     const QString& AktualniZakazka() const { return m_zakazka; }
     double IDFormatuNP() const { return m_idFormatu; }
     ZpusobNP zpusob() const { return m_zpusob; }
+    double SamovaniNP() const { return m_s.SamovaniNP; } // the trim, tenths of a millimetre
 
 private:
     friend class Umisteni;

@@ -10,6 +10,7 @@
 #include "exchange/Zaloha.h"
 #include "optimiser/PlanRun.h"
 #include "orders/Strom.h"
+#include "ui/FrmNP.h"
 #include "ui/FrmNovy.h"
 #include "ui/Ikony.h"
 #include "ui/Nabidka.h"
@@ -487,15 +488,15 @@ void FrmBorovak::ZahajNP()
         return;
     }
     if (hotovo) {
-        Database& k = m_uloziste.dataK();
-        const int tabuli = k.hodnota(QStringLiteral("SELECT count(*) FROM SoupisTabuli")).toInt();
-        const int desek = k.hodnota(QStringLiteral("SELECT count(*) FROM SoupisDesek WHERE ID = True")).toInt();
-        const int zbylo = k.hodnota(QStringLiteral("SELECT count(*) FROM SoupisDesek WHERE ID = False")).toInt();
-        m_prompt.zprava(QStringLiteral("Nářezový plán je hotov: %1 tabulí, usazeno %2 desek%3.")
-                            .arg(tabuli)
-                            .arg(desek)
-                            .arg(zbylo ? QStringLiteral(", neusazeno %1").arg(zbylo) : QString()),
-                        QStringLiteral("Nářezový plán"), Prompt::Ikona::Informace);
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+        FrmNP np(m_uloziste, m_prompt, PlanNaStrankach::z(run), this);
+        const bool vykresleno = np.vykresli();
+        QApplication::restoreOverrideCursor();
+        if (!vykresleno)
+            m_prompt.zprava(QString::fromUtf8(RozmerovaChyba), QString::fromUtf8(RozmerovaChybaTitulek),
+                            Prompt::Ikona::Kriticka);
+        else
+            np.exec();
     }
     m_uloziste.zavriDataK();
 }

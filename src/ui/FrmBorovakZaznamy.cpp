@@ -3,6 +3,8 @@
 // the save changed.
 #include "ui/FrmBorovak.h"
 
+#include "printing/Operace.h"
+
 #include "core/Jednotky.h"
 #include "core/Nastaveni.h"
 #include "core/Database.h"
@@ -291,7 +293,7 @@ void FrmBorovak::NaplnitGridHrany(const QString& akce)
         for (int j = 0; j < bunky.size(); ++j)
             m_GridHrany->setItem(i, j, new QTableWidgetItem(bunky[j]));
         QTableWidgetItem* barva = m_GridHrany->item(i, 3);
-        barva->setBackground(QColor(int(m.barva & 0xff), int((m.barva >> 8) & 0xff), int((m.barva >> 16) & 0xff)));
+        barva->setBackground(Barva::zVB(m.barva));
         barva->setFlags(Qt::ItemIsEnabled); // not selectable: the colour shows on the current row too
     }
     nastavRadek(m_GridHrany, akce, predtim);

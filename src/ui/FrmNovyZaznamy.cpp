@@ -3,6 +3,8 @@
 // routine of the orders library that the main window passes in.
 #include "ui/FrmNovy.h"
 
+#include "printing/Operace.h"
+
 #include "core/Jednotky.h"
 #include "ui/CiselnePole.h"
 
@@ -115,11 +117,6 @@ protected:
     }
 };
 
-QColor barvaZVB(qint64 bgr)
-{
-    return QColor(int(bgr & 0xff), int((bgr >> 8) & 0xff), int((bgr >> 16) & 0xff));
-}
-
 } // namespace
 
 void FrmNovy::zakazka(const QString& tag, const QString& nazev, const QString& poznamka,
@@ -218,7 +215,7 @@ void FrmNovy::material(const QString& tag, bool hrana, const Materialy::Material
     barva->setObjectName(QStringLiteral("pctBarvaHrany"));
     barva->setFixedSize(60, 22);
     auto* nahled = new Nahled("pctDF");
-    QColor vybrana = barvaZVB(m.barva);
+    QColor vybrana = Barva::zVB(m.barva);
     auto ukazBarvu = [=, this, &vybrana] { barva->setStyleSheet(QStringLiteral("background-color: %1").arg(vybrana.name())); };
     auto vyplnit = [=](const Materialy::Material& z) {
         nazev->setCurrentText(z.nazev);
@@ -276,7 +273,7 @@ void FrmNovy::material(const QString& tag, bool hrana, const Materialy::Material
         z.ov = ov->isChecked();
         z.cena = cena->hodnota();
         z.presah = presah->mm();
-        z.barva = qint64(vybrana.red()) | qint64(vybrana.green()) << 8 | qint64(vybrana.blue()) << 16;
+        z.barva = Barva::doVB(vybrana);
         const PoUlozeni po = ulozit(z);
         if (po == PoUlozeni::Zavrit)
             accept();
@@ -353,7 +350,7 @@ void FrmNovy::deska(const QString& tag, const QStringList& formaty, const QStrin
         nahled->y = n.vykreslit ? y->mm() : 0;
         nahled->vzor = ov->isChecked();
         for (int i = 0; i < 4; ++i)
-            nahled->hrany[i] = n.barvy[i] ? std::optional<QColor>(barvaZVB(*n.barvy[i])) : std::nullopt;
+            nahled->hrany[i] = n.barvy[i] ? std::optional<QColor>(Barva::zVB(*n.barvy[i])) : std::nullopt;
         nahled->update();
     };
     Tag = nova ? tag : QStringLiteral("UpraveniPM");

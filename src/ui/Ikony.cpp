@@ -37,6 +37,11 @@ QIcon dlazdice(const QColor& barva, const QString& znacka, const QString& akce)
 QIcon zakazka() { return dlazdice(QColor(0x2e, 0x6d, 0xb4), QStringLiteral("Z"), QString()); }
 QIcon sestava() { return dlazdice(QColor(0x4e, 0x9a, 0x06), QStringLiteral("S"), QString()); }
 
+QIcon znacka(const QString& znak, const QColor& barva)
+{
+    return dlazdice(barva, znak, QString());
+}
+
 QIcon proKlic(const char* klic)
 {
     const QString k = QString::fromLatin1(klic);

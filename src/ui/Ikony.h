@@ -7,4 +7,5 @@ namespace Ikony {
 QIcon proKlic(const char* klic); // for a toolbar key of Nabidka::nastroje()
 QIcon zakazka();                 // tree: an order
 QIcon sestava();                 // tree: an assembly
+QIcon znacka(const QString& znak, const QColor& barva); // a tile with a sign (viewer keys)
 }
