@@ -6,7 +6,11 @@
 #include "exchange/ZakazkaJson.h"
 #include "ui/FrmBorovak.h"
 #include "ui/FrmImport.h"
+#include "ui/FrmNP.h"
 #include "ui/FrmNovy.h"
+#include "ui/FrmVSP.h"
+#include "optimiser/PlanRun.h"
+#include "planoutput/Stitky.h"
 #include "ui/QtPrompt.h"
 #include "orders/Materialy.h"
 
@@ -138,5 +142,24 @@ int main(int argc, char** argv)
         prubeh.popisek(QStringLiteral("Optimalizuji... - tabule č. 1 deska č. 7"));
         uloz(&prubeh, vystup, QStringLiteral("frmNovy-fraOptimalizace"));
     });
+
+    // The plan viewer over a combined plan, its whole-page view, and the labels in frmVSP.
+    TichyPrubeh tichy;
+    PlanRun run(u, prompt, tichy);
+    run.SpustNP(QStringLiteral("Kuchyně Novák"), 5000001, ZpusobNP::Kombinovane);
+    {
+        FrmNP np(u, prompt, PlanNaStrankach::z(run), &okno);
+        np.resize(1200, 900);
+        np.vykresli();
+        uloz(&np, vystup, QStringLiteral("frmNP"));
+        np.nahled();
+        uloz(&np, vystup, QStringLiteral("frmNP-nahled"));
+        FrmVSP vsp(prompt, &np);
+        vsp.setWindowTitle(QString::fromUtf8(TitulekStitku));
+        TiskStitku(vsp.dokument(), u, QStringLiteral("Kuchyně Novák"));
+        vsp.obnov();
+        vsp.resize(1000, 900);
+        uloz(&vsp, vystup, QStringLiteral("frmVSP-stitky"));
+    }
     return 0;
 }

@@ -18,7 +18,7 @@ FrmNP::FrmNP(Uloziste& uloziste, Prompt& prompt, const PlanNaStrankach& plan, QW
     setObjectName(QStringLiteral("frmNP"));
     setWindowTitle(TitulekNP(plan.zpusob));
     const QColor seda(0x55, 0x57, 0x53);
-    connect(pridejAkci(QStringLiteral("TiskNP"), QStringLiteral("Tisk nářezového plánu"), Ikony::znacka(QStringLiteral("⎙"), seda)),
+    connect(pridejAkci(QStringLiteral("TiskNP"), QStringLiteral("Tisk nářezového plánu"), Ikony::znacka(QStringLiteral("Tisk"), seda)),
             &QAction::triggered, this, &FrmNP::tiskni);
     connect(pridejAkci(QStringLiteral("UNP"), QStringLiteral("Uložit nářezový plán jako PDF"),
                        Ikony::znacka(QStringLiteral("PDF"), QColor(0xcc, 0x00, 0x00))),

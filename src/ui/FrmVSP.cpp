@@ -10,7 +10,7 @@
 FrmVSP::FrmVSP(Prompt& prompt, QWidget* rodic) : OknoDokumentu(prompt, rodic)
 {
     setObjectName(QStringLiteral("frmVSP"));
-    connect(pridejAkci(QStringLiteral("TISK"), QStringLiteral("Tisk"), Ikony::znacka(QStringLiteral("⎙"), QColor(0x55, 0x57, 0x53))),
+    connect(pridejAkci(QStringLiteral("TISK"), QStringLiteral("Tisk"), Ikony::znacka(QStringLiteral("Tisk"), QColor(0x55, 0x57, 0x53))),
             &QAction::triggered, this, &FrmVSP::tiskni);
     connect(pridejAkci(QStringLiteral("Ulozeni"), QStringLiteral("Uložit jako PDF"),
                        Ikony::znacka(QStringLiteral("PDF"), QColor(0xcc, 0x00, 0x00))),

@@ -7,6 +7,7 @@
 #include <QJsonObject>
 #include <QDir>
 #include <QProcess>
+#include <QStandardPaths>
 #include <QThread>
 #include <csignal>
 #include <QTemporaryDir>
@@ -224,4 +225,53 @@ TEST_F(CliTest, ZalohaZmenaObnovaAImportZWindows1250)
     EXPECT_EQ(spust({"restore", demo()}).kod, 3);
     EXPECT_EQ(spust({"check", demo()}).kod, 3);
     EXPECT_EQ(spust({"order-dump", "Kuchyně Novák"}).out, pred);
+}
+
+// The plan as PDF in every mode and layout: one page per sheet (or two and four to a page),
+// the block of information and every placed board's name as the PDF's text reads; labels 24
+// to a page. A folder that does not exist gets a Czech message, exit 4 and no file.
+TEST_F(CliTest, PlanAStitkyJakoPdf)
+{
+    if (QStandardPaths::findExecutable(QStringLiteral("pdftotext")).isEmpty())
+        GTEST_SKIP() << "pdftotext (poppler-utils) is not installed";
+    ASSERT_EQ(spust({"init"}).kod, 0);
+    ASSERT_EQ(spust({"order-load", demo()}).kod, 0);
+    const auto text = [](const QString& pdf) {
+        QProcess p;
+        p.start(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), pdf, QStringLiteral("-")});
+        p.waitForFinished();
+        return QString::fromUtf8(p.readAllStandardOutput());
+    };
+    const QString pdf = m_dir.filePath(QStringLiteral("plán.pdf"));
+    const QString stitky = m_dir.filePath(QStringLiteral("štítky.pdf"));
+    for (const char* rezim : {"kombinovane", "podelne", "pricne"}) {
+        const Vysledek v = spust({"plan", "Kuchyně Novák", "--format", "5000001", "--mode", rezim, "--pdf", pdf,
+                                  "--labels-pdf", stitky, "--dump"});
+        ASSERT_EQ(v.kod, 0) << v.err.toStdString();
+        const QJsonObject o = QJsonDocument::fromJson(v.out.toUtf8()).object();
+        const QString t = text(pdf);
+        EXPECT_EQ(t.count(QLatin1Char('\f')), o[QStringLiteral("SoupisTabuli")].toArray().size()) << rezim;
+        for (const char* popisek : {"Tabule:", "Rozměr tabule:", "Využití tabule [%]:", "Šířka řezu:", "Počet řezů:",
+                                    "Zakázka:", "Materiál:", "Kuchyně Novák"})
+            EXPECT_TRUE(t.contains(QString::fromUtf8(popisek))) << popisek;
+        int usazeno = 0;
+        for (const QJsonValue& d : o[QStringLiteral("SoupisDesek")].toArray()) {
+            if (d[QStringLiteral("ID")].toInt() == 0)
+                continue;
+            ++usazeno;
+            EXPECT_TRUE(t.contains(d[QStringLiteral("Oznaceni")].toString())) << rezim;
+        }
+        EXPECT_EQ(usazeno, 40);
+        EXPECT_EQ(text(stitky).count(QLatin1Char('\f')), 2); // 40 labels, 24 to a page
+    }
+    for (const char* naStranu : {"2", "4"}) {
+        ASSERT_EQ(spust({"settings", "set", "Setting2", "VykresleniTabule", naStranu}).kod, 0);
+        ASSERT_EQ(spust({"plan", "Kuchyně Novák", "--format", "5000001", "--mode", "kombinovane", "--pdf", pdf}).kod, 0);
+        EXPECT_EQ(text(pdf).count(QLatin1Char('\f')), 1) << naStranu;
+    }
+    const Vysledek chyba = spust({"plan", "Kuchyně Novák", "--format", "5000001", "--mode", "kombinovane", "--pdf",
+                                  m_dir.filePath(QStringLiteral("není/plán.pdf"))});
+    EXPECT_EQ(chyba.kod, 4);
+    EXPECT_FALSE(chyba.err.isEmpty());
+    EXPECT_FALSE(QFile::exists(m_dir.filePath(QStringLiteral("není/plán.pdf"))));
 }
