@@ -123,11 +123,10 @@ double popisek(Dokument& d, double x, double y, const QString& nazev, const QStr
 }
 
 // The band legend at the right of the block; returns its left edge.
-double legenda(Kontext& k, const QRectF& blok, int tabule)
+double legenda(Dokument& d, Kontext& k, const QRectF& blok, int tabule)
 {
     if (!k.zobrazeniHran)
         return blok.right();
-    Dokument& d = k.d;
     QStringList nazvy;
     QList<QColor> barvy;
     Recordset hrany(k.u.dataS(), QStringLiteral("SELECT * FROM ZakazkyMaterialy  WHERE Zakazka = '") +
@@ -169,11 +168,13 @@ double legenda(Kontext& k, const QRectF& blok, int tabule)
     return levy;
 }
 
-void blokInformaci(Kontext& k, const QRectF& blok, int n, double x, double y, int ct, double vyuziti)
+// Draws the block at the font size given; answers whether it fitted beside the legend without
+// cutting a value short.
+bool blokInformaci(Dokument& d, Kontext& k, const QRectF& blok, int n, double x, double y, int ct, double vyuziti,
+                   double velikost)
 {
-    Dokument& d = k.d;
     d.pismo = k.deska.pismo;
-    d.pismo.velikost = 10;
+    d.pismo.velikost = velikost;
     d.pismo.tucne = d.pismo.kurziva = d.pismo.podtrzene = d.pismo.preskrtnute = false;
     d.TextAngle = 0;
     d.TextColor = d.pero.barva = k.deska.barvaPisma;
@@ -190,7 +191,7 @@ void blokInformaci(Kontext& k, const QRectF& blok, int n, double x, double y, in
         d.DrawPicture(k.vzor, x0, blok.top() + radek, s.width(), s.height());
     }
     x0 += qMax(d.TextWidth(vzorTabule) + 20, sirkaVzoru) + 300;
-    const double prava = legenda(k, blok, n) - 200;
+    const double prava = legenda(d, k, blok, n) - 200;
     const auto rez = k.plan.rezy.find(ct);
     const std::pair<QString, QString> radky[] = {
         {QStringLiteral("Tabule:"), QString::number(n) + QLatin1Char('/') + QString::number(k.posledni)},
@@ -203,15 +204,21 @@ void blokInformaci(Kontext& k, const QRectF& blok, int n, double x, double y, in
     };
     const int naSloupec = qMax(1, int(blok.height() / radek));
     double sirkaSloupce = 0;
+    bool vejde = true;
     for (int i = 0; i < int(std::size(radky)); ++i) {
         if (i > 0 && i % naSloupec == 0) {
             x0 += sirkaSloupce + 300;
             sirkaSloupce = 0;
         }
+        d.pismo.tucne = true;
+        const double celaHodnota = d.TextWidth(radky[i].second);
+        d.pismo.tucne = false;
         const double pouzito = popisek(d, x0, blok.top() + (i % naSloupec) * radek, radky[i].first, radky[i].second,
                                        qMax(0.0, prava - x0));
+        vejde = vejde && pouzito >= d.TextWidth(radky[i].first) + 100 + celaHodnota - 1;
         sirkaSloupce = qMax(sirkaSloupce, pouzito);
     }
+    return vejde && x0 + sirkaSloupce <= prava;
 }
 
 void tabule(Kontext& k, const Bunka& b, int n)
@@ -248,7 +255,16 @@ void tabule(Kontext& k, const Bunka& b, int n)
     d.CurrentY = u.OkrajY + u.vyska / 2 + d.TextWidth(sirka) / 2;
     d.Text(sirka);
 
-    blokInformaci(k, QRectF(b.ramec.left(), b.ramec.top(), b.ramec.width(), b.blok - 100), n, x, y, ct, vyuziti);
+    // The block at the largest size, from 10 down to 6, that fits its cell.
+    const QRectF blok(b.ramec.left(), b.ramec.top(), b.ramec.width(), b.blok - 100);
+    double velikost = 10;
+    for (; velikost > 6; velikost -= 1) {
+        Dokument zkouska;
+        zkouska.StartDoc();
+        if (blokInformaci(zkouska, k, blok, n, x, y, ct, vyuziti, velikost))
+            break;
+    }
+    blokInformaci(d, k, blok, n, x, y, ct, vyuziti, velikost);
 
     Recordset desky(k.u.dataK(), QStringLiteral("SELECT * FROM SoupisDesek  WHERE ID = True and tabule = ") +
                                      QString::number(n) + QStringLiteral(" ORDER BY YD,XD,Y desc"));
