@@ -115,11 +115,14 @@ double popisek(Dokument& d, double x, double y, const QString& nazev, const QStr
     d.Text(nazev);
     const double volno = nejvic - w - 80;
     const QString v = QFontMetricsF(d.pismo.font()).elidedText(hodnota, Qt::ElideRight, qMax(0.0, volno));
+    if (v.isEmpty())
+        return w;
     d.pismo.tucne = true;
     d.CurrentX = x + w + 80;
     d.Text(v);
+    const double sirka = d.TextWidth(v);
     d.pismo.tucne = false;
-    return w + 80 + d.TextWidth(v);
+    return w + 80 + sirka;
 }
 
 // The band legend at the right of the block; returns its left edge.

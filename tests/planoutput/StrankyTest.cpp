@@ -13,6 +13,7 @@
 #include "printing/UlozeniPdf.h"
 #include "printing/Vykresleni.h"
 
+#include <QBuffer>
 #include <QDir>
 #include <QFile>
 #include <unistd.h>
@@ -120,6 +121,47 @@ TEST_F(Stranky, OdrezkyJenVetsiNezMez)
     ASSERT_TRUE(StrankyNP(d, uloziste(), plan, 1));
     EXPECT_EQ(obdelniku(d, 1), zaklad + desek + uzMene);
     EXPECT_LT(uzMene, velkych);
+}
+
+// A long narrow sheet, far from A4, with tiny boards and a very long name: everything stays on
+// the page, and the material's sample from the price list stands in the block.
+TEST_F(Stranky, DlouhaTabuleDrobneDeskyDlouheJmeno)
+{
+    const QByteArray json = R"({"zakazka": "Lišty", "formaty": [{"id": 7, "material": "Spárovka buk 5000", "x": 5000,
+        "y": 300, "cena": 90}], "sestavy": [{"nazev": "Obklad", "desky": [
+        {"oznaceni": "lišta s velmi dlouhým pojmenováním, které se nikam nevejde", "x": 4800, "y": 40, "pocet": 3, "format": 7},
+        {"oznaceni": "klínek", "x": 12, "y": 9, "pocet": 20, "format": 7}]}]})";
+    ZakazkaJson::nacti(uloziste().dataS(), json);
+    QImage vzor(40, 20, QImage::Format_RGB32);
+    vzor.fill(Qt::darkYellow);
+    QByteArray png;
+    QBuffer b(&png);
+    b.open(QIODevice::WriteOnly);
+    vzor.save(&b, "PNG");
+    uloziste().cenik().executeSqlite(QStringLiteral("INSERT INTO Obrazky (IDE, nazev, OBR) VALUES (3, 'buk', ?)"), {png});
+    uloziste().cenik().executeSqlite(
+        QStringLiteral("INSERT INTO Cenik (kod, nazev, Cena, skupina, obr1) VALUES (1, 'Spárovka buk 5000', 90, 'PM', 3)"));
+
+    TichyPrubeh prubeh;
+    PlanRun run(uloziste(), prompt, prubeh);
+    ASSERT_TRUE(run.SpustNP(QStringLiteral("Lišty"), 7, ZpusobNP::PodelneRezy));
+    Dokument d;
+    ASSERT_TRUE(StrankyNP(d, uloziste(), PlanNaStrankach::z(run), 1));
+    const QRectF strana(0, 0, d.PageWidth(), d.PageHeight());
+    bool obrazek = false;
+    for (int i = 1; i <= d.PageCount(); ++i)
+        for (const Operace& op : d.strana(i).operace) {
+            if (const auto* t = std::get_if<OpText>(&op)) {
+                d.pismo = t->pismo;
+                const double w = d.TextWidth(t->text), h = d.TextHeight(t->text);
+                const QRectF r = t->uhel == 900 ? QRectF(t->x, t->y - w, h, w) : QRectF(t->x, t->y, w, h);
+                EXPECT_TRUE(strana.contains(r)) << t->text.toStdString();
+            } else if (const auto* o = std::get_if<OpObdelnik>(&op)) {
+                EXPECT_TRUE(strana.contains(o->ramec));
+            }
+            obrazek = obrazek || std::holds_alternative<OpObrazek>(op);
+        }
+    EXPECT_TRUE(obrazek);
 }
 
 TEST_F(Stranky, BezUsazeneDeskyRozmerovaChyba)
