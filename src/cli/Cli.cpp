@@ -34,7 +34,7 @@ struct Prikaz {
 
 const Prikaz prikazy[] = {
     {"init", prikazInit},           {"order-load", prikazOrderLoad},     {"order-dump", prikazOrderDump},
-    {"order-list", prikazOrderList}, {"settings", prikazSettings},        {"plan", prikazPlan},
+    {"order-list", prikazOrderList}, {"settings", prikazSettings},        {"plan", prikazPlan}, {"calc", prikazCalc}, {"totals", prikazTotals},
     {"offcuts-load", prikazOffcutsLoad}, {"backup", prikazBackup},       {"restore", prikazRestore},
     {"pricelist-backup", prikazPricelistBackup}, {"pricelist-restore", prikazPricelistRestore},
     {"check", prikazCheck},                {"import", prikazImport},

@@ -15,3 +15,5 @@ int prikazPricelistBackup(const QStringList& argumenty);
 int prikazPricelistRestore(const QStringList& argumenty);
 int prikazCheck(const QStringList& argumenty);
 int prikazImport(const QStringList& argumenty);
+int prikazCalc(const QStringList& argumenty);
+int prikazTotals(const QStringList& argumenty);

@@ -22,7 +22,9 @@ QJsonValue hodnota(const QVariant& v)
     return d;
 }
 
-QJsonArray tabulka(Database& db, const QString& nazev)
+} // namespace
+
+QJsonArray VypisTabulky(Database& db, const QString& nazev)
 {
     QJsonArray radky;
     const QStringList sloupce = db.sloupce(nazev);
@@ -37,16 +39,14 @@ QJsonArray tabulka(Database& db, const QString& nazev)
     return radky;
 }
 
-} // namespace
-
 QJsonObject VypisNP(Database& dataK, const PlanRun& run)
 {
     QJsonObject rezy;
     for (const auto& [tabule, pocet] : run.RezyNaTabuli())
         rezy.insert(QString::number(tabule), pocet);
-    return {{QStringLiteral("SoupisDesek"), tabulka(dataK, QStringLiteral("SoupisDesek"))},
-            {QStringLiteral("SoupisTabuli"), tabulka(dataK, QStringLiteral("SoupisTabuli"))},
-            {QStringLiteral("SoupisZbytku"), tabulka(dataK, QStringLiteral("SoupisZbytku"))},
+    return {{QStringLiteral("SoupisDesek"), VypisTabulky(dataK, QStringLiteral("SoupisDesek"))},
+            {QStringLiteral("SoupisTabuli"), VypisTabulky(dataK, QStringLiteral("SoupisTabuli"))},
+            {QStringLiteral("SoupisZbytku"), VypisTabulky(dataK, QStringLiteral("SoupisZbytku"))},
             {QStringLiteral("RezyNaTabuli"), rezy},
             {QStringLiteral("warning"), run.varovani()}};
 }

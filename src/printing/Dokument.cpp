@@ -1,6 +1,7 @@
 #include "printing/Dokument.h"
 
 #include <QFontMetricsF>
+#include <numeric>
 
 QFont Pismo::font() const
 {
@@ -152,8 +153,10 @@ void Dokument::AddRow(const Tabulka& tabulka, const RadekTabulky& radek)
     const double vyska = radek.vyska > 0 ? radek.vyska : TextHeight(QStringLiteral("Test")) * 1.3;
     if (presahne(vyska))
         NewPage();
-    double x = MarginLeft;
     const int sloupcu = int(tabulka.sirky.size());
+    double x = MarginLeft;
+    if (tabulka.vpravo)
+        x = PageWidth() - MarginRight - std::accumulate(tabulka.sirky.begin(), tabulka.sirky.end(), 0.0);
     for (int i = 0, bunka = 0; i < sloupcu; ++bunka) {
         const int rozpeti = bunka < int(radek.rozpeti.size()) ? qMax(1, radek.rozpeti[bunka]) : 1;
         double sirka = 0;

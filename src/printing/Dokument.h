@@ -19,6 +19,7 @@ struct Tabulka {
     std::vector<double> sirky;              // twips
     std::vector<Qt::Alignment> zarovnani;   // per column; missing ones align left
     bool mrizka = true;                     // thin frames round the cells
+    bool vpravo = false;                    // the table stands at the right margin
 };
 
 struct RadekTabulky {

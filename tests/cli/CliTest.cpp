@@ -7,6 +7,7 @@
 #include <QJsonObject>
 #include <QDir>
 #include <QProcess>
+#include <cmath>
 #include <QStandardPaths>
 #include <QThread>
 #include <csignal>
@@ -274,4 +275,44 @@ TEST_F(CliTest, PlanAStitkyJakoPdf)
     EXPECT_EQ(chyba.kod, 4);
     EXPECT_FALSE(chyba.err.isEmpty());
     EXPECT_FALSE(QFile::exists(m_dir.filePath(QStringLiteral("není/plán.pdf"))));
+}
+
+// calc against a computation of its own from the rows it prints: the base is the sum of Cena,
+// the total the base with VAT rounded first, the tax the rest; totals agrees with it; the PDF
+// reads back its title, headings and totals; an unknown assembly is refused with exit 3.
+TEST_F(CliTest, KalkulaceASouctyPanelu)
+{
+    ASSERT_EQ(spust({"init"}).kod, 0);
+    ASSERT_EQ(spust({"order-load", demo()}).kod, 0);
+    const QString pdf = m_dir.filePath(QStringLiteral("kalkulace.pdf"));
+    const Vysledek v = spust({"calc", "Kuchyně Novák", "--json", "--pdf", pdf});
+    ASSERT_EQ(v.kod, 0) << v.err.toStdString();
+    const QJsonObject o = QJsonDocument::fromJson(v.out.toUtf8()).object();
+    double zaklad = 0;
+    for (const QJsonValue r : o[QStringLiteral("SoupisProKalkulaci")].toArray())
+        zaklad += r[QStringLiteral("Cena")].toDouble();
+    const double celkem = std::round(zaklad * 1.19 * 100) / 100;
+    const QJsonObject s = o[QStringLiteral("souhrn")].toObject();
+    EXPECT_EQ(s[QStringLiteral("zaklad")].toString(), QString::number(zaklad, 'f', 2) + QStringLiteral(" Kč"));
+    EXPECT_EQ(s[QStringLiteral("celkem")].toString(), QString::number(celkem, 'f', 2) + QStringLiteral(" Kč"));
+    EXPECT_EQ(s[QStringLiteral("dph")].toString(), QString::number(celkem - zaklad, 'f', 2) + QStringLiteral(" Kč"));
+    EXPECT_EQ(spust({"totals", "Kuchyně Novák"}).out.section(QLatin1Char('\n'), 0, 0), s[QStringLiteral("celkem")].toString());
+    EXPECT_EQ(spust({"totals", "Kuchyně Novák", "--sestava", "Dřez80"}).out.section(QLatin1Char('\n'), 1, 1),
+              QStringLiteral("1195.00 Kč"));
+    if (!QStandardPaths::findExecutable(QStringLiteral("pdftotext")).isEmpty()) {
+        QProcess p;
+        p.start(QStringLiteral("pdftotext"), {pdf, QStringLiteral("-")});
+        p.waitForFinished();
+        // pdftotext closes up letter-spaced words: compare without blanks
+        const QString t = QString::fromUtf8(p.readAllStandardOutput()).remove(QLatin1Char(' '));
+        for (QString hledat : {QStringLiteral("K A L K U L A C E"), QStringLiteral("Základ daně"),
+                                      QStringLiteral("Celkem včetně DPH"), QStringLiteral("Příslušenství:"),
+                                      s[QStringLiteral("celkem")].toString(), QStringLiteral("Strana  1 / 2")})
+            EXPECT_TRUE(t.contains(hledat.remove(QLatin1Char(' ')))) << hledat.toStdString();
+    }
+    const Vysledek jenDrez = spust({"calc", "Kuchyně Novák", "--sestava", "Dřez80"});
+    EXPECT_EQ(jenDrez.out.section(QLatin1Char('\n'), 2, 2), QStringLiteral("Celkem včetně DPH: 1195.00 Kč"));
+    EXPECT_EQ(spust({"calc", "Kuchyně Novák", "--sestava", "Není"}).kod, 3);
+    EXPECT_EQ(spust({"calc", "Není"}).kod, 3);
+    EXPECT_EQ(spust({"totals", "Kuchyně Novák", "--sestava", "Není"}).kod, 3);
 }
