@@ -11,6 +11,8 @@
 #include "ui/FrmVSP.h"
 #include "optimiser/PlanRun.h"
 #include "planoutput/Stitky.h"
+#include "costing/Kalkulace.h"
+#include "costing/KalkulaceZakazkyVypis.h"
 #include "ui/QtPrompt.h"
 #include "orders/Materialy.h"
 
@@ -160,6 +162,18 @@ int main(int argc, char** argv)
         vsp.obnov();
         vsp.resize(1000, 900);
         uloz(&vsp, vystup, QStringLiteral("frmVSP-stitky"));
+    }
+    u.zavriDataK();
+    {
+        FrmVSP vsp(prompt, &okno);
+        vsp.setWindowTitle(QString::fromUtf8(TitulekKalkulaceZakazky));
+        u.ObnovPracovniDatabazi();
+        Kalkulace::NaplnKalkulaciZakazky(u.dataK(), QStringLiteral("Kuchyně Novák"));
+        KalkulaceZakazkyVypis(vsp.dokument(), u.dataK(), QStringLiteral("Kuchyně Novák"), {QStringLiteral("Dřez80 ( 1 ks )")});
+        u.zavriDataK();
+        vsp.obnov();
+        vsp.resize(1000, 900);
+        uloz(&vsp, vystup, QStringLiteral("frmVSP-kalkulace"));
     }
     return 0;
 }

@@ -7,10 +7,12 @@
 #include "core/Recordset.h"
 #include "core/Uloziste.h"
 #include "costing/Kalkulace.h"
+#include "costing/KalkulaceZakazkyVypis.h"
 #include "exchange/Zaloha.h"
 #include "optimiser/PlanRun.h"
 #include "orders/Strom.h"
 #include "ui/FrmNP.h"
+#include "ui/FrmVSP.h"
 #include "ui/FrmNovy.h"
 #include "ui/Ikony.h"
 #include "ui/Nabidka.h"
@@ -49,7 +51,8 @@ const QStringList hotove = {
     QStringLiteral("UpraveniPM"), QStringLiteral("SmazaniPM"), QStringLiteral("cmdNovyFormat"),
     QStringLiteral("cmdUpravitFormat"), QStringLiteral("cmdSmazatFormat"), QStringLiteral("cmdNovaHrana"),
     QStringLiteral("cmdUpravitHrana"), QStringLiteral("cmdSmazatHrana"), QStringLiteral("cmdNovyPM"),
-    QStringLiteral("cmdUpravitPM"), QStringLiteral("cmdSmazatPM"), QStringLiteral("cmdImport")};
+    QStringLiteral("cmdUpravitPM"), QStringLiteral("cmdSmazatPM"), QStringLiteral("cmdImport"),
+    QStringLiteral("RychlaKalkulace")};
 
 constexpr int TwipuNaPixel = 15; // the old window positions were kept in screen twips
 
@@ -432,6 +435,8 @@ void FrmBorovak::prikaz(const QString& nazev)
             return;
         if (nazev == QLatin1String("NP"))
             ZahajNP();
+        else if (nazev == QLatin1String("RychlaKalkulace"))
+            KalkulaceZakazky();
         else if (nazev == QLatin1String("Vz"))
             ZalohaDat();
         else if (nazev == QLatin1String("OD"))
@@ -499,6 +504,37 @@ void FrmBorovak::ZahajNP()
             np.exec();
     }
     m_uloziste.zavriDataK();
+}
+
+// The order's calculation of all its assemblies, in the report preview.
+void FrmBorovak::KalkulaceZakazky()
+{
+    const QString zakazka = m_vyber.txtzakazka();
+    if (zakazka.isEmpty())
+        return;
+    QStringList nazvy, texty;
+    for (const UzelZakazky& z : ::NaplnitStrom(m_uloziste.dataS()))
+        if (z.nazev == zakazka)
+            for (const UzelSestavy& s : z.sestavy) {
+                nazvy << s.nazev;
+                texty << s.text();
+            }
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    FrmVSP vsp(m_prompt, this);
+    vsp.setWindowTitle(QString::fromUtf8(TitulekKalkulaceZakazky));
+    try {
+        m_uloziste.ObnovPracovniDatabazi();
+        Kalkulace::NaplnKalkulaciZakazky(m_uloziste.dataK(), zakazka, nazvy);
+        KalkulaceZakazkyVypis(vsp.dokument(), m_uloziste.dataK(), zakazka, texty);
+    } catch (...) {
+        m_uloziste.zavriDataK();
+        QApplication::restoreOverrideCursor();
+        throw;
+    }
+    m_uloziste.zavriDataK();
+    vsp.obnov();
+    QApplication::restoreOverrideCursor();
+    vsp.exec();
 }
 
 void FrmBorovak::ZalohaDat()

@@ -54,6 +54,7 @@ private:
     void obnovZakazku();
     void obnovSestavu();
     void obnovCeny(); // panels 2 and 3: the order and one piece of the assembly, with VAT
+    void KalkulaceZakazky();
     // the entry commands (FrmBorovakZaznamy.cpp)
     bool zaznam(const QString& nazev);
     void NovaZakazka();

@@ -6,6 +6,7 @@
 #include "exchange/ZakazkaJson.h"
 #include "ui/FrmBorovak.h"
 #include "ui/FrmNP.h"
+#include "ui/FrmVSP.h"
 #include "ui/FrmNovy.h"
 #include "ui/QtPrompt.h"
 
@@ -357,4 +358,27 @@ TEST_F(Okno, UpravyASmazaniZOkna)
     EXPECT_EQ(okno->txtzakazka(), QString());
     EXPECT_FALSE(okno->akce(QStringLiteral("NP"))->isEnabled());
     EXPECT_TRUE(okno->akce(QStringLiteral("tbNZ"))->isEnabled());
+}
+
+// Výpisy / Kalkulace: the order's calculation in the report preview, two pages, Page Up forward.
+TEST_F(Okno, KalkulaceZakazkyVNahledu)
+{
+    klik(strom->topLevelItem(0));
+    ASSERT_TRUE(zapnuto("RychlaKalkulace"));
+    QStringList videno;
+    QTimer ruka;
+    QObject::connect(&ruka, &QTimer::timeout, [&] {
+        if (auto* vsp = qobject_cast<FrmVSP*>(QApplication::activeModalWidget())) {
+            videno << vsp->windowTitle() << vsp->textStrany();
+            QTest::keyClick(vsp, Qt::Key_PageUp);
+            videno << vsp->textStrany() << QString::number(vsp->akce(QStringLiteral("PLUS"))->isEnabled());
+            vsp->akce(QStringLiteral("ZoomPlus"))->trigger();
+            videno << QString::number(vsp->Zoom());
+            QTest::keyClick(vsp, Qt::Key_Escape);
+        }
+    });
+    ruka.start(1);
+    okno->prikaz(QStringLiteral("RychlaKalkulace"));
+    EXPECT_EQ(videno, QStringList({"Kalkulace zakázky", "1 / 2", "2 / 2", "0", "125"}));
+    EXPECT_FALSE(uloziste().maDataK());
 }
