@@ -28,9 +28,7 @@ protected:
     {
         DomovTest::SetUp();
         Nastaveni::ZapisVychoziNastaveni(0, 0, 1, 1);
-        QFile demo(QStringLiteral(TRUHLAR_SHARE "/demo/kuchyne.json"));
-        demo.open(QIODevice::ReadOnly);
-        ZakazkaJson::nacti(uloziste().dataS(), demo.readAll());
+        ZakazkaJson::nacti(uloziste().dataS(), demoJson());
     }
 };
 

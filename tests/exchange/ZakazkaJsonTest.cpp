@@ -15,9 +15,7 @@ namespace {
 
 QByteArray demo()
 {
-    QFile f(QStringLiteral(TRUHLAR_SHARE "/demo/kuchyne.json"));
-    EXPECT_TRUE(f.open(QIODevice::ReadOnly));
-    return f.readAll();
+    return demoJson();
 }
 
 int radku(Database& db, const char* tabulka)

@@ -23,9 +23,7 @@ namespace {
 
 QByteArray demo()
 {
-    QFile f(QStringLiteral(TRUHLAR_SHARE "/demo/kuchyne.json"));
-    f.open(QIODevice::ReadOnly);
-    return f.readAll();
+    return demoJson();
 }
 
 QStringList slozkaDat()

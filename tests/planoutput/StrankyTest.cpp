@@ -45,9 +45,7 @@ protected:
     {
         DomovTest::SetUp();
         Nastaveni::ZapisVychoziNastaveni(0, 0, 800, 600);
-        QFile demo(QStringLiteral(TRUHLAR_SHARE "/demo/kuchyne.json"));
-        demo.open(QIODevice::ReadOnly);
-        ZakazkaJson::nacti(uloziste().dataS(), demo.readAll());
+        ZakazkaJson::nacti(uloziste().dataS(), demoJson());
     }
     PlanNaStrankach spust(ZpusobNP zpusob = ZpusobNP::Kombinovane)
     {

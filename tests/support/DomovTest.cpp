@@ -1,5 +1,7 @@
 #include "DomovTest.h"
 
+#include <QFile>
+
 #include "core/Aplikace.h"
 #include "core/Error.h"
 #include "core/Razitko.h"
@@ -41,4 +43,11 @@ int cisloChyby(const std::function<void()>& f)
         return e.cislo();
     }
     return 0;
+}
+
+QByteArray demoJson()
+{
+    QFile f(QStringLiteral(TRUHLAR_SHARE "/demo/kuchyne.json"));
+    EXPECT_TRUE(f.open(QIODevice::ReadOnly));
+    return f.readAll();
 }

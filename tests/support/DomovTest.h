@@ -22,5 +22,8 @@ private:
     std::unique_ptr<Uloziste> m_uloziste;
 };
 
+// The demo kitchen order (share/demo/kuchyne.json) as exchange JSON.
+QByteArray demoJson();
+
 // The store's error number that f throws, 0 when it throws none.
 int cisloChyby(const std::function<void()>& f);

@@ -32,9 +32,7 @@ protected:
     {
         DomovTest::SetUp();
         Nastaveni::ZapisVychoziNastaveni(1000, 1000, 13500, 9000);
-        QFile demo(QStringLiteral(TRUHLAR_SHARE "/demo/kuchyne.json"));
-        demo.open(QIODevice::ReadOnly);
-        ZakazkaJson::nacti(uloziste().dataS(), demo.readAll());
+        ZakazkaJson::nacti(uloziste().dataS(), demoJson());
         okno = std::make_unique<FrmBorovak>(uloziste(), prompt);
         strom = okno->findChild<QTreeWidget*>(QStringLiteral("tvzakazky"));
     }
@@ -248,9 +246,7 @@ TEST_F(Okno, ImportZeStrankySestavyAChybnyRadek)
 TEST_F(DomovTest, PoObnoveNeniNicVybrano)
 {
     Nastaveni::ZapisVychoziNastaveni(1000, 1000, 13500, 9000);
-    QFile demo(QStringLiteral(TRUHLAR_SHARE "/demo/kuchyne.json"));
-    demo.open(QIODevice::ReadOnly);
-    ZakazkaJson::nacti(uloziste().dataS(), demo.readAll());
+    ZakazkaJson::nacti(uloziste().dataS(), demoJson());
     SkriptovanyPrompt prompt;
     FrmBorovak okno(uloziste(), prompt);
     const QString zaloha = domov() + QStringLiteral("/z.bvk");
