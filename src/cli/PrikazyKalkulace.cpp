@@ -33,9 +33,8 @@ Vyber vyber(QStringList& argumenty)
     if (argumenty.size() != 1)
         throw Cli::ChybaPouziti(QStringLiteral("Chybí název zakázky."));
     Vyber v{argumenty[0], {}, {}};
-    const auto strom = NaplnitStrom(Cli::uloziste().dataS());
-    const auto z = std::find_if(strom.begin(), strom.end(), [&](const UzelZakazky& u) { return u.nazev == v.zakazka; });
-    if (z == strom.end())
+    const auto z = UzelZakazkyPodleNazvu(Cli::uloziste().dataS(), v.zakazka);
+    if (!z)
         throw Error(Chyba::NeplatnyVstup, QStringLiteral("Zakázka „%1“ neexistuje.").arg(v.zakazka));
     for (const QString& s : chtene)
         if (std::none_of(z->sestavy.begin(), z->sestavy.end(), [&](const UzelSestavy& u) { return u.nazev == s; }))

@@ -27,13 +27,6 @@ const Jednotka& aktualni()
     return tabulka[jednotka()];
 }
 
-// The platform's Round: to the given places, an exact half to the even neighbour.
-double zaokrouhli(double v, int mist)
-{
-    const double k = std::pow(10.0, mist);
-    return std::nearbyint(v * k) / k;
-}
-
 QString cena(const QString& text, double krat, const QString& slovo)
 {
     QString t = CisloZTextu(text.trimmed()); // prices carry no unit factor
@@ -78,13 +71,13 @@ double NaMilimetry(const QString& text)
     t.replace(oddelovac(), QLatin1Char('.'));
     t.replace(QLatin1Char(','), QLatin1Char('.'));
     const double v = Val(t) * aktualni().mm;
-    return jednotka() == 4 ? zaokrouhli(v, 1) : v;
+    return jednotka() == 4 ? Round(v, 1) : v;
 }
 
 double ZMilimetruCislo(double mm)
 {
     const double v = mm / aktualni().mm;
-    return jednotka() == 4 ? zaokrouhli(v, 3) : v;
+    return jednotka() == 4 ? Round(v, 3) : v;
 }
 
 QString cislo(double hodnota)

@@ -1,5 +1,7 @@
 #include "core/Val.h"
 
+#include <cmath>
+
 #include <QRegularExpression>
 
 double Val(const QString& text)
@@ -17,4 +19,10 @@ double Val(const QString& text)
     QString t = m.captured(0);
     t.replace(QLatin1Char('d'), QLatin1Char('e')).replace(QLatin1Char('D'), QLatin1Char('e'));
     return t.toDouble();
+}
+
+double Round(double hodnota, int mist)
+{
+    const double k = std::pow(10.0, mist);
+    return std::nearbyint(hodnota * k) / k;
 }

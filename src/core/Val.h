@@ -4,3 +4,6 @@
 #include <QString>
 
 double Val(const QString& text);
+
+// The old platform's Round: to the given places, an exact half to the even neighbour.
+double Round(double hodnota, int mist = 0);

@@ -42,3 +42,11 @@ std::vector<UzelZakazky> NaplnitStrom(Database& dataS)
     }
     return strom;
 }
+
+std::optional<UzelZakazky> UzelZakazkyPodleNazvu(Database& dataS, const QString& zakazka)
+{
+    for (UzelZakazky& z : NaplnitStrom(dataS))
+        if (z.nazev == zakazka)
+            return std::move(z);
+    return std::nullopt;
+}

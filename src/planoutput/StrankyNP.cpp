@@ -5,6 +5,7 @@
 #include "core/Nastaveni.h"
 #include "core/Recordset.h"
 #include "core/Uloziste.h"
+#include "core/Val.h"
 #include "optimiser/PlanRun.h"
 #include "planoutput/KresleniNP.h"
 #include "printing/Obrazky.h"
@@ -13,13 +14,6 @@
 #include <cmath>
 
 namespace {
-
-// The platform's Round: an exact half to the even neighbour.
-double zaokrouhli(double v, int mist)
-{
-    const double k = std::pow(10.0, mist);
-    return std::nearbyint(v * k) / k;
-}
 
 QString nastaveni2(const char* klic)
 {
@@ -69,7 +63,7 @@ Umisteni umisti(Dokument& d, const Bunka& b, double x, double y)
     const double prostorX = b.ramec.width() - 2 * m;
     const double prostorY = b.ramec.height() - 2 * m - b.blok;
     Umisteni u;
-    u.Meritko = x / y >= prostorX / prostorY ? zaokrouhli(prostorX / x, 4) : zaokrouhli(prostorY / y, 4);
+    u.Meritko = x / y >= prostorX / prostorY ? Round(prostorX / x, 4) : Round(prostorY / y, 4);
     u.sirka = std::floor(x * u.Meritko);
     u.vyska = std::floor(y * u.Meritko);
     u.OkrajX = (b.ramec.width() - u.sirka) / 2 + b.ramec.left();
@@ -237,9 +231,9 @@ void tabule(Kontext& k, const Bunka& b, int n)
     const double soucet = k.u.dataK()
                               .hodnota(QStringLiteral("SELECT Sum(x * y ) FROM SoupisDesek WHERE Tabule = ") + QString::number(n))
                               .toDouble();
-    const double plochaDesek = zaokrouhli(soucet / 100 / 1000000, 3);
-    const double plochaTabule = zaokrouhli(x * y / 100 / 1000000, 3);
-    const double vyuziti = plochaTabule > 0 ? zaokrouhli(plochaDesek / plochaTabule * 100, 1) : 0;
+    const double plochaDesek = Round(soucet / 100 / 1000000, 3);
+    const double plochaTabule = Round(x * y / 100 / 1000000, 3);
+    const double vyuziti = plochaTabule > 0 ? Round(plochaDesek / plochaTabule * 100, 1) : 0;
 
     d.pismo = k.deska.pismo;
     const Umisteni u = umisti(d, b, x, y);

@@ -513,12 +513,11 @@ void FrmBorovak::KalkulaceZakazky()
     if (zakazka.isEmpty())
         return;
     QStringList nazvy, texty;
-    for (const UzelZakazky& z : ::NaplnitStrom(m_uloziste.dataS()))
-        if (z.nazev == zakazka)
-            for (const UzelSestavy& s : z.sestavy) {
-                nazvy << s.nazev;
-                texty << s.text();
-            }
+    if (const auto z = UzelZakazkyPodleNazvu(m_uloziste.dataS(), zakazka))
+        for (const UzelSestavy& s : z->sestavy) {
+            nazvy << s.nazev;
+            texty << s.text();
+        }
     QApplication::setOverrideCursor(Qt::WaitCursor);
     FrmVSP vsp(m_prompt, this);
     vsp.setWindowTitle(QString::fromUtf8(TitulekKalkulaceZakazky));
