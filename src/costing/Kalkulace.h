@@ -1,7 +1,7 @@
 #pragma once
 // The costing tables: SoupisProKalkulaci (a row per board, accessory and band side) for one
 // piece of each assembly (NaplnKalkulaciSestav, with its totals per assembly and material in
-// SoupisProKalkulaciCelkem) or for the whole order (NaplnKalkulaciZakazky), and the two prices
+// SoupisProKalkulaciCelkem), per material over the order (NaplnKalkulaciMaterialu) or for the whole order (NaplnKalkulaciZakazky), and the two prices
 // of the main window's status bar (ZobrazCeny). They fill the tables of the plan database DataK.
 #include <QString>
 #include <QStringList>
@@ -17,6 +17,11 @@ using Vyber = QStringList;
 // Throws Error 5 naming board and assembly when a board's format row is gone.
 void NaplnKalkulaciZakazky(Database& dataK, const QString& zakazka, const Vyber& sestavy = {});
 void NaplnKalkulaciSestav(Database& dataK, const QString& zakazka, const Vyber& sestavy = {});
+// One piece's rows, and totals per material over the order for the purchase list: popis of a
+// total is "Hrana", "Prislusenstvi" or empty for sheet material.
+void NaplnKalkulaciMaterialu(Database& dataK, const QString& zakazka, const Vyber& sestavy = {});
+// The workshop list's table SoupisProDilnu: sizes, band colours and notes, no prices.
+void NaplnSoupisProDilnu(Database& dataK, const QString& zakazka, const Vyber& sestavy = {});
 
 // The texts of panels 2 and 3: the order's price with VAT and one piece of the assembly's,
 // "1234,50 Kč" (empty number when nothing is priced). Remakes DataK and closes it again.
