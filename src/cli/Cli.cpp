@@ -25,7 +25,10 @@ const char* const TextPouziti =
     "  offcuts-load SOUBOR.json      přidá odřezky do skladu\n"
     "  backup [SOUBOR]  restore SOUBOR  pricelist-backup [SOUBOR]  pricelist-restore SOUBOR\n"
     "  check [SOUBOR]                zkontroluje zálohu, bez souboru živé databáze\n"
-    "  import SOUBOR --order ZAKÁZKA --assembly SESTAVA   seznam desek do sestavy\n";
+    "  import SOUBOR --order ZAKÁZKA --assembly SESTAVA   seznam desek do sestavy\n"
+    "  calc|calc-sestavy|purchase|quote NÁZEV [--sestava S]... [--json] [--pdf SOUBOR]\n"
+    "  workshop NÁZEV [--sestava S]... [--schemata] [--json] [--pdf SOUBOR]\n"
+    "  totals NÁZEV [--sestava S]    ceny panelů 2 a 3, jedna na řádek\n";
 
 struct Prikaz {
     const char* nazev;
@@ -35,6 +38,7 @@ struct Prikaz {
 const Prikaz prikazy[] = {
     {"init", prikazInit},           {"order-load", prikazOrderLoad},     {"order-dump", prikazOrderDump},
     {"order-list", prikazOrderList}, {"settings", prikazSettings},        {"plan", prikazPlan}, {"calc", prikazCalc}, {"totals", prikazTotals},
+    {"calc-sestavy", prikazCalcSestavy}, {"purchase", prikazPurchase}, {"quote", prikazQuote}, {"workshop", prikazWorkshop},
     {"offcuts-load", prikazOffcutsLoad}, {"backup", prikazBackup},       {"restore", prikazRestore},
     {"pricelist-backup", prikazPricelistBackup}, {"pricelist-restore", prikazPricelistRestore},
     {"check", prikazCheck},                {"import", prikazImport},

@@ -16,4 +16,8 @@ int prikazPricelistRestore(const QStringList& argumenty);
 int prikazCheck(const QStringList& argumenty);
 int prikazImport(const QStringList& argumenty);
 int prikazCalc(const QStringList& argumenty);
+int prikazCalcSestavy(const QStringList& argumenty);
+int prikazPurchase(const QStringList& argumenty);
+int prikazQuote(const QStringList& argumenty);
+int prikazWorkshop(const QStringList& argumenty);
 int prikazTotals(const QStringList& argumenty);

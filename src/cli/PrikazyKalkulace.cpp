@@ -1,5 +1,5 @@
-// calc and totals: the order's calculation as a tax summary, its tables as JSON, its report
-// as PDF; and the two prices of the main window's status bar.
+// The costing reports (calc, calc-sestavy, purchase, quote, workshop): the tax summary, the
+// filled tables as JSON, the report as PDF; and totals, the two prices of the status bar.
 #include "Cli.h"
 #include "Prikazy.h"
 
@@ -8,13 +8,18 @@
 #include "core/Recordset.h"
 #include "core/Uloziste.h"
 #include "costing/Kalkulace.h"
+#include "core/Jednotky.h"
+#include "costing/KalkulaceSestavVypis.h"
 #include "costing/KalkulaceZakazkyVypis.h"
+#include "costing/SoupisProDilnuVypis.h"
 #include "optimiser/VypisNP.h"
 #include "orders/Strom.h"
 #include "printing/Vykresleni.h"
 
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <optional>
 
 namespace {
 
@@ -60,39 +65,111 @@ void varujBezCeny(Database& k)
     }
 }
 
-} // namespace
+// What one report command fills, prints and adds to its JSON.
+enum class Vypisy { Zakazka, Sestavy, Nakup, Nabidka, Dilna };
 
-int prikazCalc(const QStringList& vstup)
+QString castka(double v) { return Vypis::castka(v) + QLatin1Char(' ') + Vypis::mena(); }
+
+QJsonObject souhrnJson(const Vypis::Dan& dan)
+{
+    return {{QStringLiteral("zaklad"), castka(dan.zaklad)}, {QStringLiteral("dph"), castka(dan.dph)},
+            {QStringLiteral("celkem"), castka(dan.celkem)}};
+}
+
+QJsonArray sestavyJson(const VysledekSestav& v, bool nabidka)
+{
+    QJsonArray a;
+    for (const CenaSestavy& c : v.sestavy) {
+        QJsonObject o{{QStringLiteral("Sestava"), c.sestava}, {QStringLiteral("pocetsestav"), c.pocet},
+                      {QStringLiteral("cena1ks"), castka(c.cena1ks)}, {QStringLiteral("cena"), castka(c.cena)}};
+        if (nabidka) {
+            o.insert(QStringLiteral("dph"), castka(c.dph));
+            o.insert(QStringLiteral("celkem"), castka(c.celkem));
+        }
+        a.append(o);
+    }
+    return a;
+}
+
+int spustVypis(const QStringList& vstup, Vypisy druh)
 {
     QStringList argumenty = vstup;
     const bool json = Cli::vezmiPrepinac(argumenty, QStringLiteral("--json"));
+    const bool schemata = druh == Vypisy::Dilna && Cli::vezmiPrepinac(argumenty, QStringLiteral("--schemata"));
     const QString pdf = Cli::vezmiVolbu(argumenty, QStringLiteral("--pdf"));
     const Vyber v = vyber(argumenty);
     Uloziste& u = Cli::uloziste();
     u.ObnovPracovniDatabazi();
     Database& k = u.dataK();
-    Kalkulace::NaplnKalkulaciZakazky(k, v.zakazka, v.nazvy);
-    varujBezCeny(k);
     Dokument d;
-    const Vypis::Dan dan = KalkulaceZakazkyVypis(d, k, v.zakazka, v.texty);
+    QJsonObject o;
+    std::optional<Vypis::Dan> dan;
+    QString titulek;
+    QStringList tabulky{QStringLiteral("SoupisProKalkulaci"), QStringLiteral("SoupisProKalkulaciCelkem")};
+    switch (druh) {
+    case Vypisy::Zakazka:
+        Kalkulace::NaplnKalkulaciZakazky(k, v.zakazka, v.nazvy);
+        dan = KalkulaceZakazkyVypis(d, k, v.zakazka, v.texty);
+        titulek = QString::fromUtf8(TitulekKalkulaceZakazky);
+        tabulky.removeLast();
+        break;
+    case Vypisy::Sestavy:
+    case Vypisy::Nabidka: {
+        const bool nabidka = druh == Vypisy::Nabidka;
+        Kalkulace::NaplnKalkulaciSestav(k, v.zakazka, v.nazvy);
+        const VysledekSestav r = KalkulaceSestavVypis(d, k, u.cenik(), v.zakazka, v.texty,
+                                                      nabidka ? DruhSestav::Nabidka : DruhSestav::Kalkulace);
+        dan = r.dan;
+        o.insert(QStringLiteral("sestavy"), sestavyJson(r, nabidka));
+        titulek = QString::fromUtf8(nabidka ? TitulekCenoveNabidky : TitulekKalkulaceSestav);
+        break;
+    }
+    case Vypisy::Nakup: {
+        Kalkulace::NaplnKalkulaciMaterialu(k, v.zakazka, v.nazvy);
+        const VysledekNakupu r = NakupVypis(d, k, v.zakazka, v.texty);
+        dan = r.dan;
+        QJsonArray a;
+        for (const PolozkaNakupu& p : r.nakup)
+            a.append(QJsonObject{{QStringLiteral("Material"), p.material}, {QStringLiteral("nakup"), p.nakup}});
+        o.insert(QStringLiteral("nakup"), a);
+        titulek = QString::fromUtf8(TitulekNakupu);
+        break;
+    }
+    case Vypisy::Dilna:
+        Kalkulace::NaplnSoupisProDilnu(k, v.zakazka, v.nazvy);
+        SoupisProDilnuVypis(d, k, u.cenik(), v.zakazka, schemata);
+        titulek = QString::fromUtf8(TitulekSoupisuProDilnu);
+        tabulky = QStringList{QStringLiteral("SoupisProDilnu")};
+        break;
+    }
+    if (druh != Vypisy::Dilna)
+        varujBezCeny(k);
     if (!pdf.isNull())
-        Vykresleni::pdf(d, pdf, QString::fromUtf8(TitulekKalkulaceZakazky));
-    const QString m = QLatin1Char(' ') + Vypis::mena();
+        Vykresleni::pdf(d, pdf, titulek);
     if (json) {
-        const QJsonObject souhrn{{QStringLiteral("zaklad"), Vypis::castka(dan.zaklad) + m},
-                                 {QStringLiteral("dph"), Vypis::castka(dan.dph) + m},
-                                 {QStringLiteral("celkem"), Vypis::castka(dan.celkem) + m}};
-        const QJsonObject o{{QStringLiteral("SoupisProKalkulaci"), VypisTabulky(k, QStringLiteral("SoupisProKalkulaci"))},
-                            {QStringLiteral("souhrn"), souhrn}};
+        for (const QString& t : tabulky)
+            o.insert(t, VypisTabulky(k, t));
+        if (dan)
+            o.insert(QStringLiteral("souhrn"), souhrnJson(*dan));
         Cli::out() << QString::fromUtf8(QJsonDocument(o).toJson(QJsonDocument::Compact)) << '\n';
+    } else if (dan) {
+        Cli::out() << QStringLiteral("Základ daně: ") << castka(dan->zaklad) << '\n'
+                   << QStringLiteral("DPH ( ") << Jednotky::cislo(Vypis::procentoDPH()) << QStringLiteral("% ): ") << castka(dan->dph) << '\n'
+                   << QStringLiteral("Celkem včetně DPH: ") << castka(dan->celkem) << '\n';
     } else {
-        Cli::out() << QStringLiteral("Základ daně: ") << Vypis::castka(dan.zaklad) << m << '\n'
-                   << QStringLiteral("DPH ( ") << Vypis::procentoDPH() << QStringLiteral("% ): ") << Vypis::castka(dan.dph) << m << '\n'
-                   << QStringLiteral("Celkem včetně DPH: ") << Vypis::castka(dan.celkem) << m << '\n';
+        Cli::out() << QStringLiteral("Soupis materiálu pro dílnu: %1 řádků").arg(k.hodnota(QStringLiteral("SELECT count(*) FROM SoupisProDilnu")).toInt()) << '\n';
     }
     u.zavriDataK();
     return Cli::Hotovo;
 }
+
+} // namespace
+
+int prikazCalc(const QStringList& argumenty) { return spustVypis(argumenty, Vypisy::Zakazka); }
+int prikazCalcSestavy(const QStringList& argumenty) { return spustVypis(argumenty, Vypisy::Sestavy); }
+int prikazPurchase(const QStringList& argumenty) { return spustVypis(argumenty, Vypisy::Nakup); }
+int prikazQuote(const QStringList& argumenty) { return spustVypis(argumenty, Vypisy::Nabidka); }
+int prikazWorkshop(const QStringList& argumenty) { return spustVypis(argumenty, Vypisy::Dilna); }
 
 int prikazTotals(const QStringList& vstup)
 {

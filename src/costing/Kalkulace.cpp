@@ -63,9 +63,8 @@ void napln(Database& db, const QString& zakazka, const Vyber& vyber, bool celkem
                     celkem ? f.text(QStringLiteral("Material")) + QStringLiteral(" (") +
                                  Dotaz::cislo(f.cislo(QStringLiteral("RozmerX"))) + QStringLiteral("mm x ") +
                                  Dotaz::cislo(f.cislo(QStringLiteral("RozmerY"))) + QStringLiteral("mm)")
-                           : f.text(QStringLiteral("Material")) +
-                                 PruchodZakazky::rozmery(f.cislo(QStringLiteral("RozmerX")), f.cislo(QStringLiteral("RozmerY"))));
-            out.set(QStringLiteral("Oznaceni"), oznaceni + PruchodZakazky::rozmery(x, y));
+                           : Jednotky::RozmerDesky(f.text(QStringLiteral("Material")), f.cislo(QStringLiteral("RozmerX")), f.cislo(QStringLiteral("RozmerY"))));
+            out.set(QStringLiteral("Oznaceni"), Jednotky::RozmerDesky(oznaceni, x, y));
             out.set(QStringLiteral("plocha"), plocha);
             out.set(QStringLiteral("JC"), jc);
             if (celkem) {
@@ -98,8 +97,7 @@ void napln(Database& db, const QString& zakazka, const Vyber& vyber, bool celkem
                                          (1 - (strana.cislo == 2 ? s.pm : s.hrana) / 100.0), 2);
         zacniRadek(b, sestava, strana.cislo);
         out.set(QStringLiteral("Material"), h.text(QStringLiteral("Material")));
-        out.set(QStringLiteral("Oznaceni"), b.text(QStringLiteral("Oznaceni")) +
-                                                PruchodZakazky::rozmery(b.cislo(QStringLiteral("x")), b.cislo(QStringLiteral("y"))));
+        out.set(QStringLiteral("Oznaceni"), Jednotky::RozmerDesky(b.text(QStringLiteral("Oznaceni")), b.cislo(QStringLiteral("x")), b.cislo(QStringLiteral("y"))));
         out.set(QStringLiteral("mnozstvi"), kusy);
         out.set(QStringLiteral("delka"), delka);
         out.set(QStringLiteral("JC"), jc);

@@ -2,7 +2,6 @@
 
 #include "core/Dotaz.h"
 #include "core/Error.h"
-#include "core/Jednotky.h"
 #include "core/Kolace.h"
 #include "core/Recordset.h"
 
@@ -87,11 +86,6 @@ Recordset format(Database& db, const QString& zakazka, const Recordset& deska, c
         throw Error(Chyba::NeplatnyVstup, QStringLiteral("Deska „%1“ v sestavě „%2“ nemá formát: doplňte ho.")
                                               .arg(deska.text(QStringLiteral("Oznaceni")), sestava));
     return f;
-}
-
-QString rozmery(double x, double y)
-{
-    return QStringLiteral(" (") + Jednotky::ZMilimetru(x) + QStringLiteral(" x ") + Jednotky::ZMilimetru(y) + QLatin1Char(')');
 }
 
 }

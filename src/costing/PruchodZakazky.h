@@ -37,7 +37,4 @@ void hrany(Database& db, const QString& zakazka, const Vyber& vyber,
 // The format row of a board; throws Error 5 naming board and assembly when it is gone.
 Recordset format(Database& db, const QString& zakazka, const Recordset& deska, const QString& sestava);
 
-// " (x x y)" in the display unit.
-QString rozmery(double x, double y);
-
 }

@@ -4,6 +4,7 @@
 
 #include "core/Database.h"
 #include "core/Dotaz.h"
+#include "core/Jednotky.h"
 #include "core/Recordset.h"
 #include "core/Transakce.h"
 #include "costing/PruchodZakazky.h"
@@ -50,8 +51,7 @@ void NaplnSoupisProDilnu(Database& dataK, const QString& zakazka, const Vyber& s
         QString material = oznaceni;
         if (deska) {
             const Recordset f = PruchodZakazky::format(dataK, zakazka, p, sestava);
-            material = f.text(QStringLiteral("Material")) +
-                       PruchodZakazky::rozmery(f.cislo(QStringLiteral("RozmerX")), f.cislo(QStringLiteral("RozmerY")));
+            material = Jednotky::RozmerDesky(f.text(QStringLiteral("Material")), f.cislo(QStringLiteral("RozmerX")), f.cislo(QStringLiteral("RozmerY")));
         }
         zacniRadek(p, sestava, 1);
         out.set(QStringLiteral("schema"), p.value(QStringLiteral("schema")));
@@ -64,7 +64,7 @@ void NaplnSoupisProDilnu(Database& dataK, const QString& zakazka, const Vyber& s
                 out.set(QStringLiteral("BarvaVNPH") + QLatin1String(pole + 3), barva);
         }
         out.set(QStringLiteral("Material"), material);
-        out.set(QStringLiteral("Oznaceni"), deska ? oznaceni + PruchodZakazky::rozmery(x, y) : QString());
+        out.set(QStringLiteral("Oznaceni"), deska ? Jednotky::RozmerDesky(oznaceni, x, y) : QString());
         out.set(QStringLiteral("OV"), p.value(QStringLiteral("OV")));
         out.set(QStringLiteral("mnozstvi"), Zaokrouhli(kusu(p), 3));
         // an accessory is counted in its own unit (pieces, metres, sets)
@@ -76,8 +76,7 @@ void NaplnSoupisProDilnu(Database& dataK, const QString& zakazka, const Vyber& s
         zacniRadek(b, sestava, strana.cislo);
         out.set(QStringLiteral("BarvaHranyVNP"), h.value(QStringLiteral("BarvaVNP")));
         out.set(QStringLiteral("Material"), h.text(QStringLiteral("Material")));
-        out.set(QStringLiteral("Oznaceni"), b.text(QStringLiteral("Oznaceni")) +
-                                                PruchodZakazky::rozmery(b.cislo(QStringLiteral("x")), b.cislo(QStringLiteral("y"))));
+        out.set(QStringLiteral("Oznaceni"), Jednotky::RozmerDesky(b.text(QStringLiteral("Oznaceni")), b.cislo(QStringLiteral("x")), b.cislo(QStringLiteral("y"))));
         out.set(QStringLiteral("mnozstvi"), kusu(b) * (strana.obe ? 2 : 1));
         out.set(QStringLiteral("delka"), Zaokrouhli((b.cislo(QLatin1String(strana.rozmer())) +
                                                      2 * h.cislo(QStringLiteral("PresahHrany"))) / 1000, 3));

@@ -1,9 +1,13 @@
 #include "costing/Vypis.h"
 
+#include "core/Database.h"
+#include "core/Dotaz.h"
 #include "core/Jednotky.h"
+#include "core/Recordset.h"
 #include "core/Nastaveni.h"
 #include "core/Razitko.h"
 #include "costing/Zaokrouhleni.h"
+#include "printing/Obrazky.h"
 
 namespace Vypis {
 
@@ -72,24 +76,67 @@ void souhrn(Dokument& d, const QStringList& bunky)
     d.pismo.tucne = false;
 }
 
+void pasSestavy(Dokument& d, const QString& sestava, double pocet, const QString& popis)
+{
+    if (d.CurrentY > d.PageHeight() - d.MarginBottom - 2500 && d.CurrentY < d.PageHeight())
+        d.CurrentY += 2500;
+    d.pismo.velikost = 10;
+    d.pismo.tucne = false;
+    RadekTabulky r{{sestava + QStringLiteral(" - ") + Jednotky::cislo(pocet) + QStringLiteral(" ks - ") + popis},
+                   Dokument::mm(7)};
+    r.pozadi = Barva::zVB(0xC0E0FF);
+    d.AddRow(Tabulka{{d.PageWidth() - d.MarginLeft - d.MarginRight}}, r);
+}
+
+void zlomStranyPodPrahem(Dokument& d)
+{
+    if (d.PageHeight() - d.MarginBottom - d.CurrentY < 2200)
+        d.CurrentY += 2200;
+}
+
+void schema(Dokument& d, Database& cenik, double ide)
+{
+    if (ide == 0)
+        return;
+    const Recordset r(cenik, QStringLiteral("select * FROM Schemata where IDE = ") + Dotaz::cislo(ide), Recordset::Rozsah::Prvni);
+    const QImage obr = r.eof() ? QImage() : Obrazky::dekoduj(r.value(QStringLiteral("OBR")).toByteArray());
+    if (obr.isNull())
+        return;
+    zlomStranyPodPrahem(d);
+    // fitted to the printable width, but never taller than half the printable height
+    const double sirkaStrany = d.PageWidth() - d.MarginLeft - d.MarginRight;
+    const double nejvys = (d.PageHeight() - d.MarginTop - d.MarginBottom) / 2;
+    double sirka = sirkaStrany, vyska = sirka * obr.height() / obr.width();
+    if (vyska > nejvys) {
+        vyska = nejvys;
+        sirka = vyska * obr.width() / obr.height();
+    }
+    if (d.presahne(vyska))
+        d.NewPage();
+    d.DrawPicture(obr, d.MarginLeft + (sirkaStrany - sirka) / 2, d.CurrentY, sirka, vyska);
+    d.CurrentY += vyska;
+}
+
 Dan dan(double zaklad)
 {
     const double celkem = Zaokrouhli(zaklad * (procentoDPH() / 100 + 1), 2);
     return {zaklad, celkem - zaklad, celkem};
 }
 
-void souhrnDane(Dokument& d, const Dan& dan)
+void souhrnDane(Dokument& d, const Dan& dan, const VzhledDane& vzhled)
 {
-    d.CurrentY += 500;
+    d.CurrentY += vzhled.mezera;
     d.pismo.velikost = 12;
     d.pismo.tucne = true;
-    const Tabulka t{{Dokument::mm(45), Dokument::mm(30)}, {Qt::AlignLeft, Qt::AlignRight}};
+    const Tabulka t{{Dokument::mm(vzhled.levy), Dokument::mm(vzhled.pravy)}, {Qt::AlignLeft, Qt::AlignRight}};
     const QString m = QLatin1Char(' ') + mena();
     d.AddRow(t, RadekTabulky{{QStringLiteral("Základ daně"), castka(dan.zaklad) + m}, Dokument::mm(7)});
     d.AddRow(t, RadekTabulky{{QStringLiteral("DPH ( ") + Jednotky::cislo(procentoDPH()) + QStringLiteral("% )"),
                               castka(dan.dph) + m},
                              Dokument::mm(7)});
-    d.AddRow(t, RadekTabulky{{QStringLiteral("Celkem včetně DPH"), castka(dan.celkem) + m}, Dokument::mm(7)});
+    RadekTabulky celkem{{QStringLiteral("Celkem včetně DPH"), castka(dan.celkem) + m}, Dokument::mm(7)};
+    celkem.pozadiBunek = {QColor(), vzhled.pozadiCelkem};
+    d.AddRow(t, celkem);
     d.pismo.tucne = false;
 }
 
@@ -123,7 +170,8 @@ void prekryv(Dokument& d, const QString& titulek, const QString& zakazka, const 
         d.pismo.tucne = false;
         textVRamecku(d, QStringLiteral("Zakázka:"), d.MarginLeft, Dokument::mm(35));
         d.pismo.podtrzene = true;
-        textVRamecku(d, zakazka, Dokument::mm(30), Dokument::mm(35));
+        const double x = Dokument::mm(poznamka.isNull() ? 30 : 35);
+        textVRamecku(d, zakazka, x, Dokument::mm(35));
         d.pismo.podtrzene = false;
         if (poznamka.isNull()) {
             textVRamecku(d, QStringLiteral("Sestavy:"), d.MarginLeft, Dokument::mm(40));
@@ -134,7 +182,7 @@ void prekryv(Dokument& d, const QString& titulek, const QString& zakazka, const 
             d.pismo.podtrzene = false;
         } else {
             textVRamecku(d, QStringLiteral("Poznámka:"), d.MarginLeft, Dokument::mm(40));
-            d.TextBox(poznamka, QRectF(Dokument::mm(30), Dokument::mm(40), d.PageWidth() - d.MarginRight - 2000 - Dokument::mm(30),
+            d.TextBox(poznamka, QRectF(x, Dokument::mm(40), d.PageWidth() - d.MarginRight - 2000 - x,
                                        Dokument::mm(10)),
                       Qt::AlignLeft | Qt::AlignTop);
         }
