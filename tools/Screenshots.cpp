@@ -11,12 +11,15 @@
 #include "ui/FrmVSP.h"
 #include "optimiser/PlanRun.h"
 #include "planoutput/Stitky.h"
-#include "costing/Kalkulace.h"
-#include "costing/KalkulaceZakazkyVypis.h"
+#include "costing/Vypisy.h"
+#include "core/Database.h"
+#include "core/Recordset.h"
 #include "ui/QtPrompt.h"
 #include "orders/Materialy.h"
 
 #include <QApplication>
+#include <QBuffer>
+#include <QPainter>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -31,6 +34,33 @@ void uloz(QWidget* w, const QString& slozka, const QString& nazev)
     w->show();
     QApplication::processEvents();
     w->grab().save(QDir(slozka).filePath(nazev + QStringLiteral(".png")));
+}
+
+// A front view of a base unit as the library would hold it, under IDE 1, given to the assembly.
+void ukazkoveSchema(Uloziste& u, const QString& sestava)
+{
+    QImage obr(600, 400, QImage::Format_RGB32);
+    obr.fill(Qt::white);
+    QPainter p(&obr);
+    p.setPen(QPen(Qt::black, 3));
+    p.drawRect(100, 40, 400, 300);
+    p.drawLine(300, 40, 300, 340);
+    p.drawRect(110, 330, 380, 30);
+    p.setPen(QPen(Qt::darkGray, 2));
+    p.drawLine(280, 170, 280, 210);
+    p.drawLine(320, 170, 320, 210);
+    p.end();
+    QByteArray png;
+    QBuffer b(&png);
+    b.open(QIODevice::WriteOnly);
+    obr.save(&b, "PNG");
+    Recordset r(u.cenik(), QStringLiteral("Schemata"), Recordset::Rozsah::Prvni);
+    r.addNew();
+    r.set(QStringLiteral("IDE"), 1);
+    r.set(QStringLiteral("nazev"), QStringLiteral("spodní skříňka"));
+    r.set(QStringLiteral("OBR"), png);
+    r.update();
+    u.dataS().execute(QStringLiteral("UPDATE Zakazky SET schema = 1 WHERE Sestava = '") + sestava + QStringLiteral("'"));
 }
 
 } // namespace
@@ -164,16 +194,30 @@ int main(int argc, char** argv)
         uloz(&vsp, vystup, QStringLiteral("frmVSP-stitky"));
     }
     u.zavriDataK();
+    // The calculation dialog, and every costing report in frmVSP; the sink unit carries a drawing.
+    ukazkoveSchema(u, QStringLiteral("Dřez80"));
+    const QStringList sestavy = {QStringLiteral("Dřez80 ( 1 ks )"), QStringLiteral("Horní60 ( 2 ks )"),
+                                 QStringLiteral("Sokl ( 1 ks )"), QStringLiteral("Zásuv50 ( 1 ks )")};
     {
+        FrmNovy dialog(&okno);
+        QTimer::singleShot(0, &dialog, [&] {
+            uloz(&dialog, vystup, QStringLiteral("frmNovy-fraKalkulace"));
+            dialog.reject();
+        });
+        dialog.kalkulace(QStringLiteral("Kalkulace sestav"), sestavy);
+    }
+    const std::pair<DruhVypisu, const char*> vypisy[] = {
+        {DruhVypisu::Zakazka, "frmVSP-kalkulace"},   {DruhVypisu::Sestavy, "frmVSP-kalkulace-sestav"},
+        {DruhVypisu::Nakup, "frmVSP-nakup"},         {DruhVypisu::Nabidka, "frmVSP-nabidka"},
+        {DruhVypisu::Dilna, "frmVSP-dilna"},         {DruhVypisu::DilnaSeSchematy, "frmVSP-dilna-schemata"}};
+    for (const auto& [druh, nazev] : vypisy) {
         FrmVSP vsp(prompt, &okno);
-        vsp.setWindowTitle(QString::fromUtf8(TitulekKalkulaceZakazky));
         u.ObnovPracovniDatabazi();
-        Kalkulace::NaplnKalkulaciZakazky(u.dataK(), QStringLiteral("Kuchyně Novák"));
-        KalkulaceZakazkyVypis(vsp.dokument(), u.dataK(), QStringLiteral("Kuchyně Novák"), {QStringLiteral("Dřez80 ( 1 ks )")});
+        vsp.setWindowTitle(SestavVypis(druh, vsp.dokument(), u.dataK(), u.cenik(), QStringLiteral("Kuchyně Novák"), {}, sestavy).titulek);
         u.zavriDataK();
         vsp.obnov();
         vsp.resize(1000, 900);
-        uloz(&vsp, vystup, QStringLiteral("frmVSP-kalkulace"));
+        uloz(&vsp, vystup, QLatin1String(nazev));
     }
     return 0;
 }

@@ -9,9 +9,7 @@
 #include "core/Uloziste.h"
 #include "costing/Kalkulace.h"
 #include "core/Jednotky.h"
-#include "costing/KalkulaceSestavVypis.h"
-#include "costing/KalkulaceZakazkyVypis.h"
-#include "costing/SoupisProDilnuVypis.h"
+#include "costing/Vypisy.h"
 #include "optimiser/VypisNP.h"
 #include "orders/Strom.h"
 #include "printing/Vykresleni.h"
@@ -65,9 +63,6 @@ void varujBezCeny(Database& k)
     }
 }
 
-// What one report command fills, prints and adds to its JSON.
-enum class Vypisy { Zakazka, Sestavy, Nakup, Nabidka, Dilna };
-
 QString castka(double v) { return Vypis::castka(v) + QLatin1Char(' ') + Vypis::mena(); }
 
 QJsonObject souhrnJson(const Vypis::Dan& dan)
@@ -76,10 +71,10 @@ QJsonObject souhrnJson(const Vypis::Dan& dan)
             {QStringLiteral("celkem"), castka(dan.celkem)}};
 }
 
-QJsonArray sestavyJson(const VysledekSestav& v, bool nabidka)
+QJsonArray sestavyJson(const std::vector<CenaSestavy>& sestavy, bool nabidka)
 {
     QJsonArray a;
-    for (const CenaSestavy& c : v.sestavy) {
+    for (const CenaSestavy& c : sestavy) {
         QJsonObject o{{QStringLiteral("Sestava"), c.sestava}, {QStringLiteral("pocetsestav"), c.pocet},
                       {QStringLiteral("cena1ks"), castka(c.cena1ks)}, {QStringLiteral("cena"), castka(c.cena)}};
         if (nabidka) {
@@ -91,63 +86,35 @@ QJsonArray sestavyJson(const VysledekSestav& v, bool nabidka)
     return a;
 }
 
-int spustVypis(const QStringList& vstup, Vypisy druh)
+int spustVypis(const QStringList& vstup, DruhVypisu druh)
 {
     QStringList argumenty = vstup;
     const bool json = Cli::vezmiPrepinac(argumenty, QStringLiteral("--json"));
-    const bool schemata = druh == Vypisy::Dilna && Cli::vezmiPrepinac(argumenty, QStringLiteral("--schemata"));
+    if (druh == DruhVypisu::Dilna && Cli::vezmiPrepinac(argumenty, QStringLiteral("--schemata")))
+        druh = DruhVypisu::DilnaSeSchematy;
     const QString pdf = Cli::vezmiVolbu(argumenty, QStringLiteral("--pdf"));
     const Vyber v = vyber(argumenty);
     Uloziste& u = Cli::uloziste();
     u.ObnovPracovniDatabazi();
     Database& k = u.dataK();
     Dokument d;
+    const VysledekVypisu r = SestavVypis(druh, d, k, u.cenik(), v.zakazka, v.nazvy, v.texty);
     QJsonObject o;
-    std::optional<Vypis::Dan> dan;
-    QString titulek;
-    QStringList tabulky{QStringLiteral("SoupisProKalkulaci"), QStringLiteral("SoupisProKalkulaciCelkem")};
-    switch (druh) {
-    case Vypisy::Zakazka:
-        Kalkulace::NaplnKalkulaciZakazky(k, v.zakazka, v.nazvy);
-        dan = KalkulaceZakazkyVypis(d, k, v.zakazka, v.texty);
-        titulek = QString::fromUtf8(TitulekKalkulaceZakazky);
-        tabulky.removeLast();
-        break;
-    case Vypisy::Sestavy:
-    case Vypisy::Nabidka: {
-        const bool nabidka = druh == Vypisy::Nabidka;
-        Kalkulace::NaplnKalkulaciSestav(k, v.zakazka, v.nazvy);
-        const VysledekSestav r = KalkulaceSestavVypis(d, k, u.cenik(), v.zakazka, v.texty,
-                                                      nabidka ? DruhSestav::Nabidka : DruhSestav::Kalkulace);
-        dan = r.dan;
-        o.insert(QStringLiteral("sestavy"), sestavyJson(r, nabidka));
-        titulek = QString::fromUtf8(nabidka ? TitulekCenoveNabidky : TitulekKalkulaceSestav);
-        break;
-    }
-    case Vypisy::Nakup: {
-        Kalkulace::NaplnKalkulaciMaterialu(k, v.zakazka, v.nazvy);
-        const VysledekNakupu r = NakupVypis(d, k, v.zakazka, v.texty);
-        dan = r.dan;
+    if (druh == DruhVypisu::Sestavy || druh == DruhVypisu::Nabidka)
+        o.insert(QStringLiteral("sestavy"), sestavyJson(r.sestavy, druh == DruhVypisu::Nabidka));
+    if (druh == DruhVypisu::Nakup) {
         QJsonArray a;
         for (const PolozkaNakupu& p : r.nakup)
             a.append(QJsonObject{{QStringLiteral("Material"), p.material}, {QStringLiteral("nakup"), p.nakup}});
         o.insert(QStringLiteral("nakup"), a);
-        titulek = QString::fromUtf8(TitulekNakupu);
-        break;
     }
-    case Vypisy::Dilna:
-        Kalkulace::NaplnSoupisProDilnu(k, v.zakazka, v.nazvy);
-        SoupisProDilnuVypis(d, k, u.cenik(), v.zakazka, schemata);
-        titulek = QString::fromUtf8(TitulekSoupisuProDilnu);
-        tabulky = QStringList{QStringLiteral("SoupisProDilnu")};
-        break;
-    }
-    if (druh != Vypisy::Dilna)
+    const std::optional<Vypis::Dan>& dan = r.dan;
+    if (dan)
         varujBezCeny(k);
     if (!pdf.isNull())
-        Vykresleni::pdf(d, pdf, titulek);
+        Vykresleni::pdf(d, pdf, r.titulek);
     if (json) {
-        for (const QString& t : tabulky)
+        for (const QString& t : r.tabulky)
             o.insert(t, VypisTabulky(k, t));
         if (dan)
             o.insert(QStringLiteral("souhrn"), souhrnJson(*dan));
@@ -165,11 +132,11 @@ int spustVypis(const QStringList& vstup, Vypisy druh)
 
 } // namespace
 
-int prikazCalc(const QStringList& argumenty) { return spustVypis(argumenty, Vypisy::Zakazka); }
-int prikazCalcSestavy(const QStringList& argumenty) { return spustVypis(argumenty, Vypisy::Sestavy); }
-int prikazPurchase(const QStringList& argumenty) { return spustVypis(argumenty, Vypisy::Nakup); }
-int prikazQuote(const QStringList& argumenty) { return spustVypis(argumenty, Vypisy::Nabidka); }
-int prikazWorkshop(const QStringList& argumenty) { return spustVypis(argumenty, Vypisy::Dilna); }
+int prikazCalc(const QStringList& argumenty) { return spustVypis(argumenty, DruhVypisu::Zakazka); }
+int prikazCalcSestavy(const QStringList& argumenty) { return spustVypis(argumenty, DruhVypisu::Sestavy); }
+int prikazPurchase(const QStringList& argumenty) { return spustVypis(argumenty, DruhVypisu::Nakup); }
+int prikazQuote(const QStringList& argumenty) { return spustVypis(argumenty, DruhVypisu::Nabidka); }
+int prikazWorkshop(const QStringList& argumenty) { return spustVypis(argumenty, DruhVypisu::Dilna); }
 
 int prikazTotals(const QStringList& vstup)
 {

@@ -103,9 +103,10 @@ void schema(Dokument& d, Database& cenik, double ide)
     if (obr.isNull())
         return;
     zlomStranyPodPrahem(d);
-    // fitted to the printable width, but never taller than half the printable height
+    // fitted to the printable width, but never taller than 70 mm, so that a drawing keeps to
+    // its assembly's page and leaves room for the prices
     const double sirkaStrany = d.PageWidth() - d.MarginLeft - d.MarginRight;
-    const double nejvys = (d.PageHeight() - d.MarginTop - d.MarginBottom) / 2;
+    const double nejvys = Dokument::mm(70);
     double sirka = sirkaStrany, vyska = sirka * obr.height() / obr.width();
     if (vyska > nejvys) {
         vyska = nejvys;

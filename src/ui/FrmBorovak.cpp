@@ -7,7 +7,7 @@
 #include "core/Recordset.h"
 #include "core/Uloziste.h"
 #include "costing/Kalkulace.h"
-#include "costing/KalkulaceZakazkyVypis.h"
+#include "costing/Vypisy.h"
 #include "exchange/Zaloha.h"
 #include "optimiser/PlanRun.h"
 #include "orders/Strom.h"
@@ -52,7 +52,14 @@ const QStringList hotove = {
     QStringLiteral("cmdUpravitFormat"), QStringLiteral("cmdSmazatFormat"), QStringLiteral("cmdNovaHrana"),
     QStringLiteral("cmdUpravitHrana"), QStringLiteral("cmdSmazatHrana"), QStringLiteral("cmdNovyPM"),
     QStringLiteral("cmdUpravitPM"), QStringLiteral("cmdSmazatPM"), QStringLiteral("cmdImport"),
-    QStringLiteral("RychlaKalkulace")};
+    QStringLiteral("RychlaKalkulace"), QStringLiteral("KS"), QStringLiteral("NM"), QStringLiteral("CN"),
+    QStringLiteral("SMZ"), QStringLiteral("SMDS")};
+
+// The costing reports by the command that opens them.
+const QHash<QString, DruhVypisu> vypisy = {
+    {QStringLiteral("RychlaKalkulace"), DruhVypisu::Zakazka}, {QStringLiteral("KS"), DruhVypisu::Sestavy},
+    {QStringLiteral("NM"), DruhVypisu::Nakup},                {QStringLiteral("CN"), DruhVypisu::Nabidka},
+    {QStringLiteral("SMZ"), DruhVypisu::Dilna},               {QStringLiteral("SMDS"), DruhVypisu::DilnaSeSchematy}};
 
 constexpr int TwipuNaPixel = 15; // the old window positions were kept in screen twips
 
@@ -149,7 +156,8 @@ FrmBorovak::FrmBorovak(Uloziste& uloziste, Prompt& prompt) : m_uloziste(uloziste
         m_panel[i]->setMinimumWidth(i == 0 ? 260 : 170);
         statusBar()->addWidget(m_panel[i], i == 0 ? 1 : 0);
     }
-    m_panel[0]->installEventFilter(this);
+    for (QLabel* p : m_panel)
+        p->installEventFilter(this);
     m_img1->installEventFilter(this);
     m_panel[1]->setToolTip(QStringLiteral("Cena zakázky s DPH"));
     m_panel[2]->setToolTip(QStringLiteral("Cena za 1ks sestavy s DPH"));
@@ -435,8 +443,8 @@ void FrmBorovak::prikaz(const QString& nazev)
             return;
         if (nazev == QLatin1String("NP"))
             ZahajNP();
-        else if (nazev == QLatin1String("RychlaKalkulace"))
-            KalkulaceZakazky();
+        else if (vypisy.contains(nazev))
+            Vypis(vypisy.value(nazev), akce(nazev) ? akce(nazev)->text().remove(QLatin1Char('&')) : nazev);
         else if (nazev == QLatin1String("Vz"))
             ZalohaDat();
         else if (nazev == QLatin1String("OD"))
@@ -506,8 +514,8 @@ void FrmBorovak::ZahajNP()
     m_uloziste.zavriDataK();
 }
 
-// The order's calculation of all its assemblies, in the report preview.
-void FrmBorovak::KalkulaceZakazky()
+// A costing report of the assemblies chosen in fraKalkulace, in the report preview.
+void FrmBorovak::Vypis(DruhVypisu druh, const QString& nazev)
 {
     const QString zakazka = m_vyber.txtzakazka();
     if (zakazka.isEmpty())
@@ -518,13 +526,20 @@ void FrmBorovak::KalkulaceZakazky()
             nazvy << s.nazev;
             texty << s.text();
         }
+    FrmNovy dialog(this);
+    const std::optional<QList<int>> vybrane = dialog.kalkulace(nazev, texty);
+    if (!vybrane)
+        return;
+    QStringList vNazvy, vTexty;
+    for (int i : *vybrane) {
+        vNazvy << nazvy.at(i);
+        vTexty << texty.at(i);
+    }
     QApplication::setOverrideCursor(Qt::WaitCursor);
     FrmVSP vsp(m_prompt, this);
-    vsp.setWindowTitle(QString::fromUtf8(TitulekKalkulaceZakazky));
     try {
         m_uloziste.ObnovPracovniDatabazi();
-        Kalkulace::NaplnKalkulaciZakazky(m_uloziste.dataK(), zakazka, nazvy);
-        KalkulaceZakazkyVypis(vsp.dokument(), m_uloziste.dataK(), zakazka, texty);
+        vsp.setWindowTitle(SestavVypis(druh, vsp.dokument(), m_uloziste.dataK(), m_uloziste.cenik(), zakazka, vNazvy, vTexty).titulek);
     } catch (...) {
         m_uloziste.zavriDataK();
         QApplication::restoreOverrideCursor();
@@ -605,6 +620,13 @@ bool FrmBorovak::eventFilter(QObject* o, QEvent* e)
 {
     // An assembly dropped on another order: the question, then the copy (which arrives with the
     // copying of orders and assemblies; until then the drop is refused with a message).
+    // the price panels open their reports: the order's calculation, the assemblies' calculation
+    if ((o == m_panel[1] || o == m_panel[2]) && e->type() == QEvent::MouseButtonRelease) {
+        const char* klic = o == m_panel[1] ? "RychlaKalkulace" : "KS";
+        if (akce(QLatin1String(klic)) && akce(QLatin1String(klic))->isEnabled())
+            prikaz(QLatin1String(klic));
+        return true;
+    }
     if ((o == m_panel[0] || o == m_img1) && e->type() == QEvent::MouseButtonRelease) {
         // the note panel edits the order or the assembly; the schema picture the assembly
         if (!m_AktSestava.isEmpty())

@@ -9,6 +9,8 @@
 #include <QMainWindow>
 #include <optional>
 
+enum class DruhVypisu;
+
 class QAction;
 class QLabel;
 class QTableWidget;
@@ -54,7 +56,7 @@ private:
     void obnovZakazku();
     void obnovSestavu();
     void obnovCeny(); // panels 2 and 3: the order and one piece of the assembly, with VAT
-    void KalkulaceZakazky();
+    void Vypis(DruhVypisu druh, const QString& nazev);
     // the entry commands (FrmBorovakZaznamy.cpp)
     bool zaznam(const QString& nazev);
     void NovaZakazka();

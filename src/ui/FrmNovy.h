@@ -1,7 +1,8 @@
 #pragma once
 // The entry dialog frmNovy: one modal window that shows one of its frames, chosen by its Tag.
 // Here the frames of a plan run: fraVolbaNP (format, mode, further variants) and
-// fraOptimalizace (progress, the trembling icon, Storno).
+// fraOptimalizace (progress, the trembling icon, Storno); the entry frames of orders,
+// assemblies, materials and boards; fraKalkulace (the assemblies of a costing report).
 #include "core/Prompt.h"
 #include "optimiser/PlanRun.h"
 #include "orders/Desky.h"
@@ -9,6 +10,7 @@
 #include "orders/Zakazky.h"
 
 #include <functional>
+#include <optional>
 
 #include <QDialog>
 
@@ -57,6 +59,10 @@ public:
     void deska(const QString& tag, const QStringList& formaty, const QStringList& hrany,
                const std::vector<Materialy::Material>& pasky, const Desky::Deska& d, const TextyDesky& texty,
                const std::function<PoUlozeni(const Desky::Deska&, const TextyDesky&)>& ulozit);
+
+    // fraKalkulace: the order's assemblies as the tree shows them, all selected, for the report
+    // named vypis; the rows chosen, or nothing when the dialog was left by Zpět.
+    std::optional<QList<int>> kalkulace(const QString& vypis, const QStringList& sestavy);
 
     // Prubeh
     void popisek(const QString& text) override;

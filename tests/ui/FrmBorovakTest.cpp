@@ -21,6 +21,8 @@
 #include <QTest>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QLabel>
+#include <QListWidget>
 #include <QTimer>
 #include <QTreeWidget>
 
@@ -356,7 +358,8 @@ TEST_F(Okno, UpravyASmazaniZOkna)
     EXPECT_TRUE(okno->akce(QStringLiteral("tbNZ"))->isEnabled());
 }
 
-// Výpisy / Kalkulace: the order's calculation in the report preview, two pages, Page Up forward.
+// Výpisy / Kalkulace: the assemblies in fraKalkulace, all chosen; then the order's calculation
+// in the report preview, two pages, Page Up forward.
 TEST_F(Okno, KalkulaceZakazkyVNahledu)
 {
     klik(strom->topLevelItem(0));
@@ -364,7 +367,12 @@ TEST_F(Okno, KalkulaceZakazkyVNahledu)
     QStringList videno;
     QTimer ruka;
     QObject::connect(&ruka, &QTimer::timeout, [&] {
-        if (auto* vsp = qobject_cast<FrmVSP*>(QApplication::activeModalWidget())) {
+        QWidget* modal = QApplication::activeModalWidget();
+        if (auto* dialog = qobject_cast<FrmNovy*>(modal)) {
+            auto* seznam = dialog->findChild<QListWidget*>(QStringLiteral("lstSestava"));
+            videno << QString::number(seznam->selectedItems().size());
+            dialog->findChild<QPushButton*>(QStringLiteral("cmdKalkulace"))->click();
+        } else if (auto* vsp = qobject_cast<FrmVSP*>(modal)) {
             videno << vsp->windowTitle() << vsp->textStrany();
             QTest::keyClick(vsp, Qt::Key_PageUp);
             videno << vsp->textStrany() << QString::number(vsp->akce(QStringLiteral("PLUS"))->isEnabled());
@@ -375,6 +383,36 @@ TEST_F(Okno, KalkulaceZakazkyVNahledu)
     });
     ruka.start(1);
     okno->prikaz(QStringLiteral("RychlaKalkulace"));
-    EXPECT_EQ(videno, QStringList({"Kalkulace zakázky", "1 / 2", "2 / 2", "0", "125"}));
+    EXPECT_EQ(videno, QStringList({"4", "Kalkulace zakázky", "1 / 2", "2 / 2", "0", "125"}));
     EXPECT_FALSE(uloziste().maDataK());
+}
+
+// A click on the assembly's price panel: the assembly calculation of the one assembly left
+// chosen; with nothing chosen the report cannot be asked for.
+TEST_F(Okno, PanelCenySestavyOtviraKalkulaciSestav)
+{
+    klik(strom->topLevelItem(0)->child(0));
+    QStringList videno;
+    QTimer ruka;
+    QObject::connect(&ruka, &QTimer::timeout, [&] {
+        QWidget* modal = QApplication::activeModalWidget();
+        if (auto* dialog = qobject_cast<FrmNovy*>(modal)) {
+            auto* seznam = dialog->findChild<QListWidget*>(QStringLiteral("lstSestava"));
+            auto* spustit = dialog->findChild<QPushButton*>(QStringLiteral("cmdKalkulace"));
+            seznam->clearSelection();
+            videno << QString::number(spustit->isEnabled());
+            seznam->item(1)->setSelected(true);
+            videno << QString::number(spustit->isEnabled()) << dialog->windowTitle();
+            spustit->click();
+        } else if (auto* vsp = qobject_cast<FrmVSP*>(modal)) {
+            videno << vsp->windowTitle();
+            for (const Operace& op : vsp->dokument().strana(1).operace)
+                if (const auto* t = std::get_if<OpTextBox>(&op); t && t->text.contains(QStringLiteral(" ks - ")))
+                    videno << t->text.section(QLatin1Char(' '), 0, 0);
+            QTest::keyClick(vsp, Qt::Key_Escape);
+        }
+    });
+    ruka.start(1);
+    QTest::mouseClick(okno->findChild<QLabel*>(QStringLiteral("panel3")), Qt::LeftButton);
+    EXPECT_EQ(videno, QStringList({"0", "1", "Kalkulace sestav", "Kalkulace sestav", "Horní60"}));
 }
