@@ -135,9 +135,9 @@ void radek(Dokument& d, const Sloupce& s, const Recordset& r, bool seSchematy)
     const double vlevo = d.MarginLeft + s.tabulka.sirky[0] + s.tabulka.sirky[1];
     const QRectF mistnost(vlevo, d.CurrentY - t.vyska, s.tabulka.sirky[2] + s.tabulka.sirky[3], t.vyska);
     const QString jmeno = oznaceni.left(oznaceni.indexOf(QStringLiteral(" (")));
-    const double radekJmena = d.TextHeight(jmeno) + 40;
-    d.TextBox(jmeno, QRectF(vlevo + 40, mistnost.top() + 20, mistnost.width() - 80, radekJmena), Qt::AlignLeft | Qt::AlignTop);
-    KresliDeskuDilna(d, mistnost.adjusted(100, radekJmena + 20, -100, -20), r.cislo(QStringLiteral("RozmerX")),
+    const double radekJmena = d.TextHeight(jmeno) + 20;
+    d.TextBox(jmeno, QRectF(vlevo + 40, mistnost.top(), mistnost.width() - 80, radekJmena), Qt::AlignLeft | Qt::AlignTop);
+    KresliDeskuDilna(d, mistnost.adjusted(100, radekJmena, -100, -10), r.cislo(QStringLiteral("RozmerX")),
                      r.cislo(QStringLiteral("RozmerY")), barvyHran(r));
 }
 
