@@ -9,6 +9,8 @@
 #include "costing/Zaokrouhleni.h"
 #include "printing/Obrazky.h"
 
+#include <algorithm>
+
 namespace Vypis {
 
 QString castka(double v, int mist)
@@ -129,8 +131,10 @@ void souhrnDane(Dokument& d, const Dan& dan, const VzhledDane& vzhled)
     d.CurrentY += vzhled.mezera;
     d.pismo.velikost = 12;
     d.pismo.tucne = true;
-    const Tabulka t{{Dokument::mm(vzhled.levy), Dokument::mm(vzhled.pravy)}, {Qt::AlignLeft, Qt::AlignRight}};
     const QString m = QLatin1Char(' ') + mena();
+    // a large total widens its column rather than break across two lines
+    const double nejsirsi = std::max({d.TextWidth(castka(dan.zaklad) + m), d.TextWidth(castka(dan.celkem) + m)}) + 120;
+    const Tabulka t{{Dokument::mm(vzhled.levy), std::max(Dokument::mm(vzhled.pravy), nejsirsi)}, {Qt::AlignLeft, Qt::AlignRight}};
     d.AddRow(t, RadekTabulky{{QStringLiteral("Základ daně"), castka(dan.zaklad) + m}, Dokument::mm(7)});
     d.AddRow(t, RadekTabulky{{QStringLiteral("DPH ( ") + Jednotky::cislo(procentoDPH()) + QStringLiteral("% )"),
                               castka(dan.dph) + m},

@@ -316,3 +316,108 @@ TEST_F(CliTest, KalkulaceASouctyPanelu)
     EXPECT_EQ(spust({"calc", "Není"}).kod, 3);
     EXPECT_EQ(spust({"totals", "Kuchyně Novák", "--sestava", "Není"}).kod, 3);
 }
+
+namespace {
+
+// The platform's rounding written again for the check: the value's 15-digit text, then half
+// away from zero.
+double zaokrouhli(double v, int mist)
+{
+    const double m = std::pow(10.0, mist);
+    return std::round(QString::number(v * m, 'g', 15).toDouble()) / m;
+}
+
+QString pdfText(const QString& pdf)
+{
+    QProcess p;
+    p.start(QStringLiteral("pdftotext"), {pdf, QStringLiteral("-")});
+    p.waitForFinished();
+    return QString::fromUtf8(p.readAllStandardOutput()).remove(QLatin1Char(' '));
+}
+
+} // namespace
+
+// A generated order of three assemblies (1, 2 and 3 pieces) and 60 boards, each with one band
+// on its first X side: calc-sestavy, quote and purchase against figures computed here from the
+// order itself, workshop by its row count; each PDF reads back its title and headings.
+TEST_F(CliTest, VypisySestavNakupuADilnyProtiVlastnimuVypoctu)
+{
+    ASSERT_EQ(spust({"init"}).kod, 0);
+    QJsonArray sestavy;
+    double zakladSestav = 0, plochaDesek = 0, metruHrany = 0;
+    int deskyCelkem = 0;
+    for (int s = 1; s <= 3; ++s) {
+        QJsonArray desky;
+        double kus = 0;
+        for (int i = 0; i < 20; ++i) {
+            const int x = 100 + (i * 37 + s * 11) % 900, y = 50 + (i * 53 + s * 7) % 500, pocet = 1 + i % 3;
+            desky.append(QJsonObject{{"oznaceni", QStringLiteral("díl %1").arg(i)}, {"x", x}, {"y", y}, {"pocet", pocet},
+                                     {"format", 7000001}, {"ov", false}, {"hrany", QJsonArray{7000101, 0, 0, 0}}});
+            const double plocha = zaokrouhli(x * double(y) / 1000000, 2);
+            kus += zaokrouhli(plocha * pocet * 312.5, 2) + zaokrouhli(pocet * zaokrouhli(x / 1000.0, 3) * 9.9, 2);
+            plochaDesek += s * pocet * plocha;
+            metruHrany += s * pocet * zaokrouhli(x / 1000.0, 3);
+            ++deskyCelkem;
+        }
+        zakladSestav += zaokrouhli(zaokrouhli(kus, 2) * s, 2);
+        sestavy.append(QJsonObject{{"nazev", QStringLiteral("S%1").arg(s)}, {"pocet", s}, {"desky", desky}});
+    }
+    const QJsonObject zakazka{
+        {"zakazka", "Generovaná"},
+        {"formaty", QJsonArray{QJsonObject{{"id", 7000001}, {"material", "MDF 19"}, {"x", 2800}, {"y", 2070}, {"cena", 312.5}}}},
+        {"hrany", QJsonArray{QJsonObject{{"id", 7000101}, {"material", "ABS 1"}, {"cena", 9.9}, {"barva", 0}, {"presah", 0}}}},
+        {"sestavy", sestavy}};
+    const QString soubor = m_dir.filePath(QStringLiteral("generovana.json"));
+    QFile f(soubor);
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+    f.write(QJsonDocument(zakazka).toJson());
+    f.close();
+    ASSERT_EQ(spust({"order-load", soubor}).kod, 0);
+    const QString castka = QString::number(zakladSestav, 'f', 2) + QStringLiteral(" Kč");
+    const QString celkem = QString::number(zaokrouhli(zakladSestav * 1.19, 2), 'f', 2) + QStringLiteral(" Kč");
+
+    for (const char* prikaz : {"calc-sestavy", "quote", "purchase"}) {
+        const Vysledek v = spust({prikaz, "Generovaná", "--json"});
+        ASSERT_EQ(v.kod, 0) << prikaz << v.err.toStdString();
+        const QJsonObject o = QJsonDocument::fromJson(v.out.toUtf8()).object();
+        EXPECT_EQ(o[QStringLiteral("souhrn")][QStringLiteral("zaklad")].toString(), castka) << prikaz;
+        EXPECT_EQ(o[QStringLiteral("souhrn")][QStringLiteral("celkem")].toString(), celkem) << prikaz;
+        if (QLatin1String(prikaz) == QLatin1String("purchase")) {
+            const QJsonArray n = o[QStringLiteral("nakup")].toArray();
+            ASSERT_EQ(n.size(), 2);
+            EXPECT_EQ(n[0][QStringLiteral("nakup")].toString(),
+                      QString::number(std::floor(plochaDesek / (2.8 * 2.07)) + 1) + QStringLiteral(" tab. "));
+            EXPECT_EQ(n[1][QStringLiteral("nakup")].toString(), QString::number(std::floor(metruHrany) + 1) + QStringLiteral(" m"));
+        } else {
+            const QJsonArray s = o[QStringLiteral("sestavy")].toArray();
+            ASSERT_EQ(s.size(), 3);
+            EXPECT_EQ(s[2][QStringLiteral("pocetsestav")].toDouble(), 3);
+            EXPECT_EQ(s[2].toObject().contains(QStringLiteral("dph")), QLatin1String(prikaz) == QLatin1String("quote"));
+        }
+    }
+    const Vysledek dilna = spust({"workshop", "Generovaná", "--json", "--sestava", "S2"});
+    ASSERT_EQ(dilna.kod, 0);
+    EXPECT_EQ(QJsonDocument::fromJson(dilna.out.toUtf8())[QStringLiteral("SoupisProDilnu")].toArray().size(), 40);
+
+    if (QStandardPaths::findExecutable(QStringLiteral("pdftotext")).isEmpty())
+        return;
+    const QList<std::pair<const char*, QStringList>> pdf = {
+        {"calc-sestavy", {"KALKULACE SESTAV", "cena za 1 ks sestavy (bez DPH):", "Celkem včetně DPH", celkem}},
+        {"quote", {"CENOVÁ NABÍDKA", "celkem s DPH:", "Základ daně", celkem}},
+        {"purchase", {"NÁKUP MATERIÁLU", "Materiál", "Množství", "Nákup", "tab.", celkem}},
+        {"workshop", {"SOUPIS MATERIÁLU PRO DÍLNU", "Poznámka:", "S3 - 3 ks", "ABS 1"}}};
+    for (const auto& [prikaz, texty] : pdf) {
+        const QString cil = m_dir.filePath(QLatin1String(prikaz) + QStringLiteral(".pdf"));
+        QStringList argumenty{QLatin1String(prikaz), QStringLiteral("Generovaná"), QStringLiteral("--pdf"), cil};
+        if (QLatin1String(prikaz) == QLatin1String("workshop"))
+            argumenty << QStringLiteral("--schemata");
+        ASSERT_EQ(spust(argumenty).kod, 0) << prikaz;
+        const QString t = pdfText(cil);
+        for (QString hledat : texty)
+            EXPECT_TRUE(t.contains(hledat.remove(QLatin1Char(' ')))) << prikaz << " " << hledat.toStdString();
+    }
+    // a PDF that cannot be written: exit 4, nothing left under the name
+    const QString spatne = m_dir.filePath(QStringLiteral("neni/slozka/nabidka.pdf"));
+    EXPECT_EQ(spust({"quote", "Generovaná", "--pdf", spatne}).kod, 4);
+    EXPECT_FALSE(QFile::exists(spatne));
+}
