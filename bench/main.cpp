@@ -1,17 +1,22 @@
 // make bench: the plan run of every order in ../shared/bench/*.json and of generated orders of
 // 50, 200 and 500 boards, in each mode, in a throw-away application folder. Prints per order and
 // mode: boards, sheets, seconds; before them the backup, restore and import figures. Arguments
-// narrow the run: a mode (podelne, pricne, kombinovane), order names, or jenzaloha.
+// narrow the run: a mode (podelne, pricne, kombinovane), order names, or jenzaloha. First of all,
+// in a store of its own, the costing reports as PDF and the status bar's prices (vypisy, or
+// jenvypisy for nothing else).
 #include "core/Aplikace.h"
 #include "core/Nastaveni.h"
 #include "core/Recordset.h"
 #include "core/Uloziste.h"
+#include "costing/Kalkulace.h"
+#include "costing/Vypisy.h"
+#include "printing/Vykresleni.h"
 #include "exchange/Import.h"
 #include "exchange/Zaloha.h"
 #include "exchange/ZakazkaJson.h"
 #include "optimiser/PlanRun.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QJsonArray>
@@ -30,8 +35,9 @@ public:
     QString soubor(bool, const QString&, const QString&, const QString&, const QString&) override { return {}; }
 };
 
-// A kitchen-like order: a few dozen sizes from carcass widths, repeated.
-QByteArray vygeneruj(int desek)
+// A kitchen-like order: a few dozen sizes from carcass widths, repeated; for the costing spread
+// over assemblies of 1 to 3 pieces, with a band on the first X side and an accessory each.
+QByteArray vygeneruj(int desek, int sestav = 1)
 {
     QRandomGenerator nahoda{quint32(desek)};
     QJsonArray desky;
@@ -39,15 +45,25 @@ QByteArray vygeneruj(int desek)
         const int x = 200 + 50 * int(nahoda.bounded(30));
         const int y = 100 + 20 * int(nahoda.bounded(30));
         desky.append(QJsonObject{{"oznaceni", QStringLiteral("deska %1").arg(i + 1)}, {"x", x}, {"y", y},
-                                 {"pocet", 1}, {"format", 5000001}, {"ov", false}, {"hrany", QJsonArray{0, 0, 0, 0}}});
+                                 {"pocet", 1}, {"format", 5000001}, {"ov", false},
+                                 {"hrany", QJsonArray{sestav > 1 ? 5000101 : 0, 0, 0, 0}}});
     }
+    QJsonArray sestavy;
+    const int naSestavu = (desek + sestav - 1) / sestav;
+    for (int s = 0; s < sestav; ++s)
+        sestavy.append(QJsonObject{{"nazev", QStringLiteral("S%1").arg(s + 1)}, {"popis", ""}, {"pocet", 1 + s % 3}, {"schema", 0},
+                                   {"desky", QJsonArray::fromVariantList(desky.toVariantList().mid(s * naSestavu, naSestavu))},
+                                   {"prislusenstvi", sestav > 1 ? QJsonArray{QJsonObject{{"oznaceni", "pant"}, {"mnozstvi", 4},
+                                                                                        {"jednotka", "ks"}, {"cena", 25}}}
+                                                                : QJsonArray{}}});
     const QJsonObject zakazka{
-        {"zakazka", QStringLiteral("gen%1").arg(desek)},
+        {"zakazka", QString::fromLatin1(sestav > 1 ? "kalk%1" : "gen%1").arg(desek)},
         {"poznamka", ""},
         {"formaty", QJsonArray{QJsonObject{{"id", 5000001}, {"material", "DTD 18"}, {"x", 2800}, {"y", 2070},
                                            {"ov", false}, {"cena", 350}}}},
-        {"hrany", QJsonArray{}},
-        {"sestavy", QJsonArray{QJsonObject{{"nazev", "S1"}, {"popis", ""}, {"pocet", 1}, {"schema", 0}, {"desky", desky}}}}};
+        {"hrany", sestav > 1 ? QJsonArray{QJsonObject{{"id", 5000101}, {"material", "ABS 2"}, {"cena", 12.5}, {"presah", 2}}}
+                             : QJsonArray{}},
+        {"sestavy", sestavy}};
     return QJsonDocument(zakazka).toJson();
 }
 
@@ -86,19 +102,57 @@ void zalohaAImport(Uloziste& u)
     std::fflush(stdout);
 }
 
+// calc --pdf and workshop --schemata --pdf on orders of 50, 200 and 500 boards in ten
+// assemblies; the status bar's prices of one order in a store of 200 orders.
+void vypisy(const QString& domov)
+{
+    Aplikace::nastavDomov(domov);
+    Uloziste u(true);
+    std::printf("%-40s %10s\n", "výpisy (PDF, vyplnění tabulek včetně)", "sekund");
+    for (int desek : {50, 200, 500}) {
+        const QString z = ZakazkaJson::nacti(u.dataS(), vygeneruj(desek, 10));
+        for (const auto& [druh, nazev] : {std::pair{DruhVypisu::Zakazka, "calc"}, std::pair{DruhVypisu::DilnaSeSchematy, "workshop"}}) {
+            const double t = sekundy([&] {
+                u.ObnovPracovniDatabazi();
+                Dokument d;
+                SestavVypis(druh, d, u.dataK(), u.cenik(), z, {}, {});
+                Vykresleni::pdf(d, QDir(domov).filePath(QStringLiteral("vypis.pdf")), QStringLiteral("bench"));
+                u.zavriDataK();
+            });
+            std::printf("%-40s %10.3f\n", qPrintable(QStringLiteral("%1 --pdf, %2 desek").arg(QLatin1String(nazev)).arg(desek)), t);
+        }
+    }
+    const QByteArray vzor = vygeneruj(50, 10);
+    for (int i = 0; i < 200; ++i) {
+        QByteArray json = vzor;
+        ZakazkaJson::nacti(u.dataS(), json.replace("\"kalk50\"", QStringLiteral("\"zakázka %1\"").arg(i).toUtf8()));
+    }
+    std::printf("%-40s %10.3f\n", "totals, 200 zakázek po 50 deskách", sekundy([&] {
+                    Kalkulace::ZobrazCeny(u, QStringLiteral("zakázka 100"), QStringLiteral("S3"));
+                }));
+    std::fflush(stdout);
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
-    QCoreApplication app(argc, argv);
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QGuiApplication app(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("truhlar"));
     QTemporaryDir dir;
     qputenv("XDG_CONFIG_HOME", QFile::encodeName(dir.filePath(QStringLiteral("config"))));
-    Aplikace::nastavDomov(dir.filePath(QStringLiteral("home")));
     Nastaveni::ZapisVychoziNastaveni(0, 0, 100, 100);
+    QStringList vyber = app.arguments().mid(1);
+    const bool jenVypisy = vyber.contains(QStringLiteral("jenvypisy"));
+    if (vyber.removeAll(QStringLiteral("vypisy")) || vyber.removeAll(QStringLiteral("jenvypisy")) || vyber.isEmpty())
+        vypisy(dir.filePath(QStringLiteral("vypisy")));
+    if (jenVypisy)
+        return 0;
+    Aplikace::nastavDomov(dir.filePath(QStringLiteral("home")));
     Uloziste u(true);
 
-    QStringList vyber = app.arguments().mid(1);
     const std::pair<const char*, ZpusobNP> rezimy[] = {
         {"podelne", ZpusobNP::PodelneRezy}, {"pricne", ZpusobNP::PricneRezy}, {"kombinovane", ZpusobNP::Kombinovane}};
     std::vector<std::pair<const char*, ZpusobNP>> zvolene;
