@@ -392,6 +392,9 @@ void FrmBorovak::obnovZakazku()
         PovolEditaciZakazky();
     else
         ZakazEditaciZakazky();
+    // another order with no assembly chosen before or after: the assembly's handler stays
+    // silent, so the order's price is renewed here
+    obnovCeny();
 }
 
 void FrmBorovak::obnovSestavu()

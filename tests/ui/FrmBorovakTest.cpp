@@ -416,3 +416,30 @@ TEST_F(Okno, PanelCenySestavyOtviraKalkulaciSestav)
     QTest::mouseClick(okno->findChild<QLabel*>(QStringLiteral("panel3")), Qt::LeftButton);
     EXPECT_EQ(videno, QStringList({"0", "1", "Kalkulace sestav", "Kalkulace sestav", "Horní60"}));
 }
+
+// The price panels follow the selection and every edit: the demo order 5062.31 Kč with VAT,
+// one Dřez80 1195.00 Kč; a deleted board takes its price out of both at once.
+TEST_F(Okno, PanelyCenPoVyberuAUprave)
+{
+    auto* panel2 = okno->findChild<QLabel*>(QStringLiteral("panel2"));
+    auto* panel3 = okno->findChild<QLabel*>(QStringLiteral("panel3"));
+    klik(strom->topLevelItem(0));
+    EXPECT_EQ(panel2->text(), QStringLiteral("5062.31 Kč"));
+    EXPECT_EQ(panel2->toolTip(), QStringLiteral("Cena zakázky s DPH"));
+    klik(strom->topLevelItem(0)->child(0));
+    EXPECT_EQ(panel3->text(), QStringLiteral("1195.00 Kč"));
+    EXPECT_EQ(panel3->toolTip(), QStringLiteral("Cena za 1ks sestavy s DPH"));
+    auto* gpm = okno->findChild<QTableWidget*>(QStringLiteral("GPM"));
+    ASSERT_GT(gpm->rowCount(), 0);
+    gpm->setCurrentCell(0, 0);
+    QTimer ruka;
+    QObject::connect(&ruka, &QTimer::timeout, [&] {
+        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
+            box->button(QMessageBox::Yes) ? box->button(QMessageBox::Yes)->click() : box->buttons().first()->click();
+    });
+    ruka.start(5);
+    okno->prikaz(QStringLiteral("SmazaniPM"));
+    EXPECT_NE(panel2->text(), QStringLiteral("5062.31 Kč"));
+    EXPECT_NE(panel3->text(), QStringLiteral("1195.00 Kč"));
+    EXPECT_TRUE(panel3->text().endsWith(QStringLiteral(" Kč")));
+}
