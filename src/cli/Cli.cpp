@@ -22,7 +22,9 @@ const char* const TextPouziti =
     "  order-list                    zakázky v pořadí stromu, jedna na řádek\n"
     "  settings get SEKCE KLÍČ       settings set SEKCE KLÍČ HODNOTA\n"
     "  plan NÁZEV --format ID --mode kombinovane|podelne|pricne [--volba N] [--dump]\n"
+    "       [--pdf SOUBOR] [--labels-pdf SOUBOR] [--vpf SOUBOR] [--write-back]\n"
     "  offcuts-load SOUBOR.json      přidá odřezky do skladu\n"
+    "  offcuts-list                  sklad odřezků jako JSON\n"
     "  backup [SOUBOR]  restore SOUBOR  pricelist-backup [SOUBOR]  pricelist-restore SOUBOR\n"
     "  check [SOUBOR]                zkontroluje zálohu, bez souboru živé databáze\n"
     "  import SOUBOR --order ZAKÁZKA --assembly SESTAVA   seznam desek do sestavy\n"
@@ -39,7 +41,7 @@ const Prikaz prikazy[] = {
     {"init", prikazInit},           {"order-load", prikazOrderLoad},     {"order-dump", prikazOrderDump},
     {"order-list", prikazOrderList}, {"settings", prikazSettings},        {"plan", prikazPlan}, {"calc", prikazCalc}, {"totals", prikazTotals},
     {"calc-sestavy", prikazCalcSestavy}, {"purchase", prikazPurchase}, {"quote", prikazQuote}, {"workshop", prikazWorkshop},
-    {"offcuts-load", prikazOffcutsLoad}, {"backup", prikazBackup},       {"restore", prikazRestore},
+    {"offcuts-load", prikazOffcutsLoad}, {"offcuts-list", prikazOffcutsList}, {"backup", prikazBackup},       {"restore", prikazRestore},
     {"pricelist-backup", prikazPricelistBackup}, {"pricelist-restore", prikazPricelistRestore},
     {"check", prikazCheck},                {"import", prikazImport},
 };

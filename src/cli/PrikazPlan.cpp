@@ -6,9 +6,11 @@
 #include "core/Error.h"
 #include "core/Recordset.h"
 #include "core/Uloziste.h"
+#include "optimiser/OdepisOdrezky.h"
 #include "optimiser/PlanRun.h"
 #include "optimiser/VypisNP.h"
 #include "core/Nastaveni.h"
+#include "planoutput/ExportCNC.h"
 #include "planoutput/Stitky.h"
 #include "planoutput/StrankyNP.h"
 #include "printing/Vykresleni.h"
@@ -86,10 +88,8 @@ int prikazPlan(const QStringList& vstup)
     const bool dump = Cli::vezmiPrepinac(argumenty, QStringLiteral("--dump"));
     const QString pdf = Cli::vezmiVolbu(argumenty, QStringLiteral("--pdf"));
     const QString stitky = Cli::vezmiVolbu(argumenty, QStringLiteral("--labels-pdf"));
-    if (!Cli::vezmiVolbu(argumenty, QStringLiteral("--vpf")).isNull())
-        throw Cli::ChybaPouziti(QStringLiteral("Volba --vpf zatím není k dispozici."));
-    if (Cli::vezmiPrepinac(argumenty, QStringLiteral("--write-back")))
-        throw Cli::ChybaPouziti(QStringLiteral("Volba --write-back zatím není k dispozici."));
+    const QString vpf = Cli::vezmiVolbu(argumenty, QStringLiteral("--vpf"));
+    const bool odepsat = Cli::vezmiPrepinac(argumenty, QStringLiteral("--write-back"));
     if (argumenty.size() != 1 || format.isNull() || rezim.isNull())
         throw Cli::ChybaPouziti(QStringLiteral("plan NÁZEV --format ID --mode kombinovane|podelne|pricne"));
     const QString zakazka = argumenty[0];
@@ -121,10 +121,20 @@ int prikazPlan(const QStringList& vstup)
     }
     if (!pdf.isNull() || !stitky.isNull())
         ulozPdf(u, run, pdf, stitky);
+    // the export numbers the part kinds and remnants, so it goes before the dump shows them
+    const bool vpfZapsan = !vpf.isNull() && ExportCNC::zapis(u.dataS(), u.dataK(), PlanNaStrankach::z(run), vpf);
+    if (odepsat)
+        OdepisOdrezky(u.dataS(), u.dataK(), Cli::prompt(), zakazka, idFormatu);
     if (dump)
         Cli::out() << QString::fromUtf8(QJsonDocument(VypisNP(u.dataK(), run)).toJson(QJsonDocument::Compact)) << '\n';
     else
         Cli::out() << SouhrnNP(u.dataK(), run);
     u.zavriDataK();
+    if (!vpf.isNull() && !vpfZapsan)
+        throw Error(Chyba::NeplatnyVstup, QStringLiteral("Soubor %1 nevznikl: plán nemá žádný zbytek větší než nastavené "
+                                                         "rozměry odřezku (XZ, YZ), a pila bez něj soubor nepřijme.")
+                                              .arg(vpf));
+    if (!vpf.isNull())
+        Cli::err() << QString::fromUtf8(ExportCNC::Ulozeno) << Qt::endl;
     return Cli::Hotovo;
 }

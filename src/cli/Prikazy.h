@@ -8,6 +8,7 @@ int prikazOrderDump(const QStringList& argumenty);
 int prikazOrderList(const QStringList& argumenty);
 int prikazSettings(const QStringList& argumenty);
 int prikazOffcutsLoad(const QStringList& argumenty);
+int prikazOffcutsList(const QStringList& argumenty);
 int prikazPlan(const QStringList& argumenty);
 int prikazBackup(const QStringList& argumenty);
 int prikazRestore(const QStringList& argumenty);

@@ -1,6 +1,7 @@
 // init, the orders, the settings and the offcut store of the command line.
 #include "Cli.h"
 #include "Prikazy.h"
+#include "optimiser/VypisNP.h"
 
 #include "core/Aplikace.h"
 #include "core/Nastaveni.h"
@@ -71,5 +72,14 @@ int prikazOffcutsLoad(const QStringList& argumenty)
     pocet(argumenty, 1);
     const int n = SkladJson::nacti(Cli::uloziste().dataS(), Cli::nactiSoubor(argumenty[0]));
     Cli::out() << QStringLiteral("Do skladu přidáno odřezků: %1").arg(n) << Qt::endl;
+    return Cli::Hotovo;
+}
+
+int prikazOffcutsList(const QStringList& argumenty)
+{
+    pocet(argumenty, 0);
+    Cli::out() << QString::fromUtf8(QJsonDocument(VypisTabulky(Cli::uloziste().dataS(), QStringLiteral("SkladOdrezku")))
+                                        .toJson(QJsonDocument::Compact))
+               << '\n';
     return Cli::Hotovo;
 }

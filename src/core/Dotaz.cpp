@@ -49,6 +49,10 @@ static QString prelozSlova(QString kus)
                                            QRegularExpression::CaseInsensitiveOption);
     static const QRegularExpression delka(QStringLiteral("\\blen\\s*\\("),
                                           QRegularExpression::CaseInsensitiveOption);
+    // the old engine read "28000and" as a number and a keyword; SQLite wants the blank
+    static const QRegularExpression cisloASlovo(QStringLiteral("(?<![\\w.])(\\d+(?:\\.\\d+)?)(and|or|order)\\b"),
+                                                QRegularExpression::CaseInsensitiveOption);
+    kus.replace(cisloASlovo, QStringLiteral("\\1 \\2"));
     kus.replace(pravda, QStringLiteral("-1"));
     kus.replace(nepravda, QStringLiteral("0"));
     kus.replace(mazani, QStringLiteral("DELETE FROM"));

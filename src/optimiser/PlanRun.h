@@ -49,6 +49,7 @@ public:
     double IDFormatuNP() const { return m_idFormatu; }
     ZpusobNP zpusob() const { return m_zpusob; }
     double SamovaniNP() const { return m_s.SamovaniNP; } // the trim, tenths of a millimetre
+    double SrezNP() const { return m_s.SrezNP; }         // the kerf, tenths of a millimetre
 
 private:
     friend class Umisteni;

@@ -293,7 +293,7 @@ double okraj(const char* klic, double vychozi)
 
 PlanNaStrankach PlanNaStrankach::z(const PlanRun& run)
 {
-    return {run.AktualniZakazka(), run.IDFormatuNP(), run.zpusob(), run.RezyNaTabuli(), run.SamovaniNP()};
+    return {run.AktualniZakazka(), run.IDFormatuNP(), run.zpusob(), run.RezyNaTabuli(), run.SamovaniNP(), run.SrezNP()};
 }
 
 bool StrankyNP(Dokument& d, Uloziste& u, const PlanNaStrankach& plan, int kolik)

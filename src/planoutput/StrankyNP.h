@@ -18,6 +18,7 @@ struct PlanNaStrankach {
     ZpusobNP zpusob;
     std::map<int, int> rezy;    // RezyNaTabuli, by the running sheet number CT
     double samovani = 0;        // SamovaniNP
+    double srez = 0;            // SrezNP
     static PlanNaStrankach z(const PlanRun& run);
 };
 

@@ -1,0 +1,26 @@
+#pragma once
+// The finished plan of one format as a .VPF file for the panel saw's optimiser: part kinds
+// (pairs of assembly and board name) and usable remnants numbered in the working tables, then
+// the head, the material, the parts, the rests and every sheet, line by line, CR LF, in the
+// Windows code page of Czech. Sizes are the raw tenths of a millimetre.
+#include "planoutput/StrankyNP.h"
+
+#include <QString>
+
+class Database;
+
+namespace ExportCNC {
+
+inline const char* Ulozeno = "CNC kód byl uložen";
+inline const char* ChybaPrevodu = "Chyba při převodu!";
+inline const char* NavrhNazvu = "OUT00000.VPF";
+
+// The file's text. Empty when the plan has no placed board or no remnant above XZ by YZ
+// (then no file is to be made); numbers Part in SoupisDesek and SoupisZbytku on the way.
+QString text(Database& dataS, Database& dataK, const PlanNaStrankach& plan);
+
+// text() written through a save file: all or nothing under the name. Returns false, writing
+// nothing, when there is nothing to export; throws Error 75 when the file cannot be written.
+bool zapis(Database& dataS, Database& dataK, const PlanNaStrankach& plan, const QString& soubor);
+
+}
