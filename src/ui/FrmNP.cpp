@@ -1,7 +1,11 @@
 #include "ui/FrmNP.h"
 
+#include "core/Aplikace.h"
+#include "core/Error.h"
 #include "core/Nastaveni.h"
 #include "core/Uloziste.h"
+#include "optimiser/OdepisOdrezky.h"
+#include "planoutput/ExportCNC.h"
 #include "planoutput/Stitky.h"
 #include "printing/UlozeniPdf.h"
 #include "ui/FrmVSP.h"
@@ -9,6 +13,8 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QDir>
+#include <QFileInfo>
 #include <QScrollArea>
 #include <QToolBar>
 
@@ -28,11 +34,11 @@ FrmNP::FrmNP(Uloziste& uloziste, Prompt& prompt, const PlanNaStrankach& plan, QW
     connect(pridejAkci(QStringLiteral("Náhled"), QStringLiteral("Celá strana"), Ikony::znacka(QStringLiteral("▣"), seda)),
             &QAction::triggered, this, &FrmNP::nahled);
     nastroje()->addSeparator();
-    pridejAkci(QStringLiteral("Sklad"), QStringLiteral("Odepsat odřezky do skladu"),
-               Ikony::znacka(QStringLiteral("▤"), QColor(0x8f, 0x59, 0x02)))
-        ->setEnabled(false);
-    pridejAkci(QStringLiteral("CNC"), QStringLiteral("Export pro pilu (VPF)"), Ikony::znacka(QStringLiteral("CNC"), seda))
-        ->setEnabled(false);
+    connect(pridejAkci(QStringLiteral("Sklad"), QStringLiteral("Odepsat odřezky do skladu"),
+                       Ikony::znacka(QStringLiteral("▤"), QColor(0x8f, 0x59, 0x02))),
+            &QAction::triggered, this, &FrmNP::OdepisOdrezky);
+    connect(pridejAkci(QStringLiteral("CNC"), QStringLiteral("Export pro pilu (VPF)"), Ikony::znacka(QStringLiteral("CNC"), seda)),
+            &QAction::triggered, this, &FrmNP::ExportCNC);
     connect(pridejAkci(QStringLiteral("TiskStitku"), QStringLiteral("Tisk štítků"),
                        Ikony::znacka(QStringLiteral("▭"), QColor(0x4e, 0x9a, 0x06))),
             &QAction::triggered, this, &FrmNP::TiskStitku);
@@ -77,4 +83,48 @@ void FrmNP::TiskStitku()
     ::TiskStitku(vsp.dokument(), m_uloziste, m_plan.zakazka);
     vsp.obnov();
     vsp.exec();
+}
+
+void FrmNP::OdepisOdrezky()
+{
+    try {
+        ::OdepisOdrezky(m_uloziste.dataS(), m_uloziste.dataK(), m_prompt, m_plan.zakazka, m_plan.idFormatu);
+    } catch (const Error& e) {
+        m_prompt.zprava(e.text(), QString(), Prompt::Ikona::Kriticka);
+    }
+}
+
+void FrmNP::ExportCNC()
+{
+    const QString slozka = Aplikace::cesta(QStringLiteral("CNC"));
+    QDir().mkpath(slozka);
+    const QString posledni = Nastaveni::GetSetting(QStringLiteral("Editor"), QStringLiteral("CestaCNCKodu"));
+    QString cesta;
+    try {
+        cesta = m_prompt.soubor(true, QStringLiteral("Uložení CNC kódu..."), posledni.isEmpty() ? slozka : posledni,
+                                QString::fromUtf8(ExportCNC::NavrhNazvu), QStringLiteral("CNC kód (*.VPF)"));
+    } catch (const Error&) {
+        return; // cancelled
+    }
+    if (cesta.isEmpty())
+        return;
+    if (QFileInfo::exists(cesta) &&
+        m_prompt.zprava(QStringLiteral("Soubor pod tímto názvem již existuje, chcete ho přepsat ?"), QStringLiteral("Upozornění !!!"),
+                        Prompt::Ikona::Vykricnik, Prompt::Tlacitka::AnoNe) != Prompt::Odpoved::Ano)
+        return;
+    Nastaveni::SaveSetting(QStringLiteral("Editor"), QStringLiteral("CestaCNCKodu"), QFileInfo(cesta).absolutePath());
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    try {
+        const bool zapsano = ExportCNC::zapis(m_uloziste.dataS(), m_uloziste.dataK(), m_plan, cesta);
+        QApplication::restoreOverrideCursor();
+        // a plan without a usable remnant makes no file; say so rather than leave the user guessing
+        if (zapsano)
+            m_prompt.zprava(QString::fromUtf8(ExportCNC::Ulozeno), QStringLiteral("Uloženo.."), Prompt::Ikona::Informace);
+        else
+            m_prompt.zprava(QStringLiteral("Plán nemá žádný zbytek větší než nastavené rozměry odřezku, soubor pro pilu nevznikl."),
+                            QStringLiteral("Upozornění !!!"), Prompt::Ikona::Vykricnik);
+    } catch (const Error&) {
+        QApplication::restoreOverrideCursor();
+        m_prompt.zprava(QString::fromUtf8(ExportCNC::ChybaPrevodu), QString(), Prompt::Ikona::Kriticka);
+    }
 }

@@ -1,7 +1,7 @@
 #pragma once
 // frmNP: the plan viewer shown at the end of a plan run, over the plan in DataK. Prints,
-// saves as PDF, prints labels; the offcut store and the panel saw file come with their own
-// work and stand disabled until then. Closing it closes DataK.
+// saves as PDF, prints labels, books the plan against the offcut store (Sklad) and writes the
+// panel saw's file (CNC). Closing it closes DataK.
 #include "planoutput/StrankyNP.h"
 #include "ui/OknoDokumentu.h"
 
@@ -17,6 +17,8 @@ public:
     bool vykresli();
     void UlozNP();
     void TiskStitku();
+    void OdepisOdrezky();
+    void ExportCNC();
     void nahled(); // page 1, the whole page in view
 
 private:
