@@ -8,6 +8,8 @@
 #include "ui/FrmImport.h"
 #include "ui/FrmNP.h"
 #include "ui/FrmNovy.h"
+#include "ui/FrmSklad.h"
+#include "catalogues/Sklad.h"
 #include "ui/FrmVSP.h"
 #include "optimiser/PlanRun.h"
 #include "planoutput/Stitky.h"
@@ -218,6 +220,28 @@ int main(int argc, char** argv)
         vsp.obnov();
         vsp.resize(1000, 900);
         uloz(&vsp, vystup, QLatin1String(nazev));
+    }
+    // The offcut store with a few pieces, its entry frame and its printed list.
+    for (const Sklad::Odrezek& o : {Sklad::Odrezek{QStringLiteral("DTD bílá 18"), 1200, 640, 2},
+                                    Sklad::Odrezek{QStringLiteral("DTD bílá 18"), 800, 350, 1},
+                                    Sklad::Odrezek{QStringLiteral("MDF 19"), 2070, 410, 3}})
+        Sklad::UlozitNovyOdrezek(u.dataS(), prompt, o);
+    {
+        FrmSklad sklad(u.dataS(), prompt, &okno);
+        uloz(&sklad, vystup, QStringLiteral("frmSklad"));
+        FrmNovy dialog(&sklad);
+        QTimer::singleShot(0, &dialog, [&] {
+            uloz(&dialog, vystup, QStringLiteral("frmNovy-fraNSklad"));
+            dialog.reject();
+        });
+        dialog.odrezek(QStringLiteral("UpraveniOdrezku"), {QStringLiteral("DTD bílá 18"), 1200, 640, 2},
+                       [](const Sklad::Odrezek&) { return FrmNovy::PoUlozeni::Zavrit; });
+        FrmVSP vsp(prompt, &sklad);
+        vsp.setWindowTitle(QString::fromUtf8(Sklad::TitulekVypisu));
+        Sklad::VypisSkladu(vsp.dokument(), u.dataS(), {});
+        vsp.obnov();
+        vsp.resize(1000, 900);
+        uloz(&vsp, vystup, QStringLiteral("frmVSP-sklad"));
     }
     return 0;
 }

@@ -14,6 +14,7 @@
 #include "ui/FrmNP.h"
 #include "ui/FrmVSP.h"
 #include "ui/FrmNovy.h"
+#include "ui/FrmSklad.h"
 #include "ui/Ikony.h"
 #include "ui/Nabidka.h"
 #include "ui/QtPrompt.h"
@@ -53,7 +54,7 @@ const QStringList hotove = {
     QStringLiteral("cmdUpravitHrana"), QStringLiteral("cmdSmazatHrana"), QStringLiteral("cmdNovyPM"),
     QStringLiteral("cmdUpravitPM"), QStringLiteral("cmdSmazatPM"), QStringLiteral("cmdImport"),
     QStringLiteral("RychlaKalkulace"), QStringLiteral("KS"), QStringLiteral("NM"), QStringLiteral("CN"),
-    QStringLiteral("SMZ"), QStringLiteral("SMDS")};
+    QStringLiteral("SMZ"), QStringLiteral("SMDS"), QStringLiteral("Sklad"), QStringLiteral("SO")};
 
 // The costing reports by the command that opens them.
 const QHash<QString, DruhVypisu> vypisy = {
@@ -448,7 +449,10 @@ void FrmBorovak::prikaz(const QString& nazev)
             ZahajNP();
         else if (vypisy.contains(nazev))
             Vypis(vypisy.value(nazev), akce(nazev) ? akce(nazev)->text().remove(QLatin1Char('&')) : nazev);
-        else if (nazev == QLatin1String("Vz"))
+        else if (nazev == QLatin1String("Sklad") || nazev == QLatin1String("SO")) {
+            FrmSklad sklad(m_uloziste.dataS(), m_prompt, this);
+            sklad.exec();
+        } else if (nazev == QLatin1String("Vz"))
             ZalohaDat();
         else if (nazev == QLatin1String("OD"))
             ObnovaDat();

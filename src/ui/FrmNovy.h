@@ -3,6 +3,7 @@
 // Here the frames of a plan run: fraVolbaNP (format, mode, further variants) and
 // fraOptimalizace (progress, the trembling icon, Storno); the entry frames of orders,
 // assemblies, materials and boards; fraKalkulace (the assemblies of a costing report).
+#include "catalogues/Sklad.h"
 #include "core/Prompt.h"
 #include "optimiser/PlanRun.h"
 #include "orders/Desky.h"
@@ -59,6 +60,10 @@ public:
     void deska(const QString& tag, const QStringList& formaty, const QStringList& hrany,
                const std::vector<Materialy::Material>& pasky, const Desky::Deska& d, const TextyDesky& texty,
                const std::function<PoUlozeni(const Desky::Deska&, const TextyDesky&)>& ulozit);
+
+    // fraNSklad: a new offcut (tag "NovyOdrezek", the fields emptied after each good save) or
+    // the edit of one.
+    void odrezek(const QString& tag, const Sklad::Odrezek& o, const std::function<PoUlozeni(const Sklad::Odrezek&)>& ulozit);
 
     // fraKalkulace: the order's assemblies as the tree shows them, all selected, for the report
     // named vypis; the rows chosen, or nothing when the dialog was left by Zpět.
