@@ -421,3 +421,50 @@ TEST_F(CliTest, VypisySestavNakupuADilnyProtiVlastnimuVypoctu)
     EXPECT_EQ(spust({"quote", "Generovaná", "--pdf", spatne}).kod, 4);
     EXPECT_FALSE(QFile::exists(spatne));
 }
+
+// Offcuts offered to the plan (POdrezky 1): --write-back takes the used pieces out and books the
+// remnants, offcuts-list shows the store; --vpf writes the saw's file in CR LF and replaces an
+// existing one; a plan without a usable remnant makes none and says so (exit 3).
+TEST_F(CliTest, OdrezkyZapisZpetAVpf)
+{
+    ASSERT_EQ(spust({"init"}).kod, 0);
+    ASSERT_EQ(spust({"order-load", demo()}).kod, 0);
+    const QString odrezky = m_dir.filePath(QStringLiteral("odrezky.json"));
+    QFile f(odrezky);
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+    f.write(R"([{"material": "DTD bílá 18", "x": 1000, "y": 800, "pocet": 2}])");
+    f.close();
+    ASSERT_EQ(spust({"offcuts-load", odrezky}).kod, 0);
+    ASSERT_EQ(spust({"settings", "set", "Setting2", "POdrezky", "1"}).kod, 0);
+    const QString vpf = m_dir.filePath(QStringLiteral("OUT00000.VPF"));
+    QFile stary(vpf);
+    ASSERT_TRUE(stary.open(QIODevice::WriteOnly));
+    stary.write("stary soubor");
+    stary.close();
+    const Vysledek v = spust({"plan", "Kuchyně Novák", "--format", "5000001", "--mode", "kombinovane", "--vpf", vpf, "--write-back"});
+    ASSERT_EQ(v.kod, 0) << v.err.toStdString();
+    EXPECT_TRUE(v.err.contains(QStringLiteral("CNC kód byl uložen")));
+    QFile soubor(vpf);
+    ASSERT_TRUE(soubor.open(QIODevice::ReadOnly));
+    const QByteArray obsah = soubor.readAll();
+    EXPECT_TRUE(obsah.startsWith("[COMMON]\r\nOrderNote="));
+    EXPECT_TRUE(obsah.contains("\r\n[SHEET1]\r\nSheet=1;10000;8000;1;1;0\r\n")); // an offcut sheet comes first
+    const QJsonArray sklad = QJsonDocument::fromJson(spust({"offcuts-list"}).out.toUtf8()).array();
+    ASSERT_FALSE(sklad.isEmpty());
+    for (const QJsonValue r : sklad)
+        EXPECT_FALSE(r[QStringLiteral("x")].toDouble() == 1000 && r[QStringLiteral("y")].toDouble() == 800); // both pieces used
+
+    // a sheet cut whole leaves no remnant worth keeping: no file, a Czech reason
+    const QString plna = m_dir.filePath(QStringLiteral("plna.json"));
+    QFile p(plna);
+    ASSERT_TRUE(p.open(QIODevice::WriteOnly));
+    p.write(R"({"zakazka": "Plná", "formaty": [{"id": 7000007, "material": "MDF", "x": 1000, "y": 600}],
+               "sestavy": [{"nazev": "S", "desky": [{"oznaceni": "celá", "x": 1000, "y": 600, "pocet": 1, "format": 7000007}]}]})");
+    p.close();
+    ASSERT_EQ(spust({"order-load", plna}).kod, 0);
+    const QString zadny = m_dir.filePath(QStringLiteral("zadny.VPF"));
+    const Vysledek bez = spust({"plan", "Plná", "--format", "7000007", "--mode", "podelne", "--vpf", zadny});
+    EXPECT_EQ(bez.kod, 3);
+    EXPECT_TRUE(bez.err.contains(QStringLiteral("nevznikl"))) << bez.err.toStdString();
+    EXPECT_FALSE(QFile::exists(zadny));
+}
