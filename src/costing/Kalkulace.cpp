@@ -120,6 +120,20 @@ double mnozstviVJednotce(const Recordset& g)
     return g.cislo(QStringLiteral("mnozstvi")) * (plocha != 0 ? plocha : delka != 0 ? delka : 1);
 }
 
+// The group's price and quantity, per piece or times each row's assembly count; leaves the
+// group on its last row, whose fields the total row takes.
+std::pair<double, double> soucet(Recordset& g, bool kratPocet)
+{
+    double cena = 0, mnozstvi = 0;
+    for (; !g.eof(); g.moveNext()) {
+        const double pocet = kratPocet ? g.cislo(QStringLiteral("pocetsestav")) : 1;
+        cena += g.cislo(QStringLiteral("Cena")) * pocet;
+        mnozstvi += pocet * mnozstviVJednotce(g);
+    }
+    g.moveLast();
+    return {cena, mnozstvi};
+}
+
 // Each distinct Material of a walk (case-blind, as the store groups), with the group's rows.
 void kazdyMaterial(Database& db, const QString& vyber, const QString& podminka,
                    const std::function<void(const QString& material, Recordset& skupina)>& naMaterial)
@@ -164,12 +178,7 @@ void NaplnKalkulaciSestav(Database& dataK, const QString& zakazka, const Vyber& 
         kazdyMaterial(dataK, QStringLiteral("SELECT * FROM SoupisProKalkulaci  WHERE Sestava = '") + z(sestava) +
                                  QStringLiteral("' ORDER BY Material"),
                       vSestave, [&](const QString& material, Recordset& g) {
-            double cena = 0, mnozstvi = 0;
-            for (; !g.eof(); g.moveNext()) {
-                cena += g.cislo(QStringLiteral("Cena"));
-                mnozstvi += mnozstviVJednotce(g);
-            }
-            g.moveLast();
+            const auto [cena, mnozstvi] = soucet(g, false);
             celkem.addNew();
             celkem.set(QStringLiteral("Material"), material);
             for (const char* pole : {"Sestava", "schema", "pocetsestav", "popis", "JC", "jednotka", "cislo"})
@@ -191,13 +200,7 @@ void NaplnKalkulaciMaterialu(Database& dataK, const QString& zakazka, const Vybe
     Recordset celkem(dataK, QStringLiteral("SoupisProKalkulaciCelkem"), Recordset::Rozsah::Prvni);
     kazdyMaterial(dataK, QStringLiteral("SELECT * FROM SoupisProKalkulaci  ORDER BY Material"), QStringLiteral(" "),
                   [&](const QString& material, Recordset& g) {
-        double cena = 0, mnozstvi = 0;
-        for (; !g.eof(); g.moveNext()) {
-            const double pocet = g.cislo(QStringLiteral("pocetsestav"));
-            cena += g.cislo(QStringLiteral("Cena")) * pocet;
-            mnozstvi += pocet * mnozstviVJednotce(g);
-        }
-        g.moveLast();
+        const auto [cena, mnozstvi] = soucet(g, true);
         const bool hrana = g.cislo(QStringLiteral("delka")) != 0;
         const bool prislusenstvi = !hrana && g.cislo(QStringLiteral("plocha")) == 0;
         celkem.addNew();

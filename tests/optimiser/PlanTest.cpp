@@ -15,6 +15,17 @@ void PlanTest::nastav(const char* klic, const char* hodnota)
     Nastaveni::SaveSetting(QStringLiteral("Setting2"), QString::fromLatin1(klic), QString::fromLatin1(hodnota));
 }
 
+void PlanTest::odrezek(double x, double y, int pocet, const QString& material)
+{
+    Recordset rs(uloziste().dataS(), QStringLiteral("SkladOdrezku"), Recordset::Rozsah::Prvni);
+    rs.addNew();
+    rs.set(QStringLiteral("Material"), material);
+    rs.set(QStringLiteral("x"), x);
+    rs.set(QStringLiteral("y"), y);
+    rs.set(QStringLiteral("Pocet"), pocet);
+    rs.update();
+}
+
 void PlanTest::zakazka(double x, double y, bool ov, const std::vector<DeskaTest>& desky, const QString& nazev)
 {
     Database& db = uloziste().dataS();

@@ -25,6 +25,7 @@ protected:
     void zakazka(double x, double y, bool ov, const std::vector<DeskaTest>& desky,
                  const QString& nazev = QStringLiteral("Z"));
     void nastav(const char* klic, const char* hodnota); // a key of Setting2
+    void odrezek(double x, double y, int pocet, const QString& material = QStringLiteral("DTD")); // into the store
     QJsonObject spust(ZpusobNP zpusob, int volba = 0, const QString& nazev = QStringLiteral("Z"));
 
     SkriptovanyPrompt prompt;

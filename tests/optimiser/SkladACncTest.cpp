@@ -13,17 +13,6 @@
 
 namespace {
 
-void odrezek(Database& db, double x, double y, int pocet)
-{
-    Recordset rs(db, QStringLiteral("SkladOdrezku"), Recordset::Rozsah::Prvni);
-    rs.addNew();
-    rs.set(QStringLiteral("Material"), QStringLiteral("DTD"));
-    rs.set(QStringLiteral("x"), x);
-    rs.set(QStringLiteral("y"), y);
-    rs.set(QStringLiteral("Pocet"), pocet);
-    rs.update();
-}
-
 // "x x y" -> pieces, as the store holds them.
 QMap<QString, int> sklad(Database& db)
 {
@@ -58,8 +47,8 @@ TEST_F(SkladACnc, OdrezkyPouziteOdepsaneAZbytkyPripsane)
     nastav("POdrezky", "1");
     nastav("XZ", "50");
     nastav("YZ", "50");
-    odrezek(uloziste().dataS(), 600, 400, 2);
-    odrezek(uloziste().dataS(), 250, 250, 1);
+    odrezek(600, 400, 2);
+    odrezek(250, 250, 1);
     zakazka(2800, 2070, false, {{"dvířka", 500, 300, 2}});
     spustPlan();
     Recordset tabule(uloziste().dataK(), QStringLiteral("SoupisTabuli"));
@@ -86,7 +75,7 @@ TEST_F(SkladACnc, OdrezkyPouziteOdepsaneAZbytkyPripsane)
 // YZ 200 is not kept although it would reach them turned.
 TEST_F(SkladACnc, BezOdrezkuJenPripis)
 {
-    odrezek(uloziste().dataS(), 1000, 500, 1);
+    odrezek(1000, 500, 1);
     zakazka(1000, 500, false, {{"a", 700, 500}});
     spustPlan();
     const QMap<QString, int> pred = sklad(uloziste().dataS());

@@ -29,16 +29,8 @@ TEST_F(Soupisy, KopieDeskyNesouStejneCDeskyAFormatBezVzoruRusiOV)
 TEST_F(Soupisy, OdrezkyPrvniOdNejmensihoYAPreskoceneZmiziVPrecislovani)
 {
     nastav("POdrezky", "1");
-    Database& db = uloziste().dataS();
-    for (auto [x, y, pocet] : {std::tuple{500.0, 300.0, 1}, {400.0, 300.0, 1}, {900.0, 900.0, 0}}) {
-        Recordset rs(db, QStringLiteral("SkladOdrezku"));
-        rs.addNew();
-        rs.set(QStringLiteral("Material"), QStringLiteral("dtd")); // matched blind to case
-        rs.set(QStringLiteral("x"), x);
-        rs.set(QStringLiteral("y"), y);
-        rs.set(QStringLiteral("Pocet"), pocet);
-        rs.update();
-    }
+    for (auto [x, y, pocet] : {std::tuple{500.0, 300.0, 1}, {400.0, 300.0, 1}, {900.0, 900.0, 0}})
+        odrezek(x, y, pocet, QStringLiteral("dtd")); // matched blind to case
     zakazka(2800, 2070, false, {{"velka", 1000, 800}});
     TichyPrubeh prubeh;
     PlanRun run(uloziste(), prompt, prubeh);

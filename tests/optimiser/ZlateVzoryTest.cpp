@@ -57,15 +57,8 @@ TEST_P(ZlateVzory, PlanSeShodujeSeVzorem)
     QRandomGenerator nahoda(quint32(qHash(QString::fromStdString(jmeno(v, 0)), 0)));
     if (v.odrezky) {
         nastav("POdrezky", "1");
-        Recordset rs(uloziste().dataS(), QStringLiteral("SkladOdrezku"));
-        for (auto [x, y, pocet] : {std::tuple{600.0, 400.0, 2}, {500.0, 700.0, 1}}) {
-            rs.addNew();
-            rs.set(QStringLiteral("Material"), QStringLiteral("DTD"));
-            rs.set(QStringLiteral("x"), x);
-            rs.set(QStringLiteral("y"), y);
-            rs.set(QStringLiteral("Pocet"), pocet);
-            rs.update();
-        }
+        odrezek(600, 400, 2);
+        odrezek(500, 700, 1);
     }
     const double rozmery[] = {150, 200, 250, 300, 400, 450, 500, 700};
     std::vector<DeskaTest> desky;
