@@ -20,6 +20,8 @@ const char* const TextPouziti =
     "  order-load SOUBOR.json        založí zakázku ze souboru JSON\n"
     "  order-dump NÁZEV              vypíše zakázku jako JSON\n"
     "  order-list                    zakázky v pořadí stromu, jedna na řádek\n"
+    "  order-copy NÁZEV NOVÝ         zakázka pod novým názvem\n"
+    "  assembly-copy ZAKÁZKA SESTAVA CÍL [NOVÝ]   sestava pod novým názvem, nebo do jiné zakázky\n"
     "  settings get SEKCE KLÍČ       settings set SEKCE KLÍČ HODNOTA\n"
     "  plan NÁZEV --format ID --mode kombinovane|podelne|pricne [--volba N] [--dump]\n"
     "       [--pdf SOUBOR] [--labels-pdf SOUBOR] [--vpf SOUBOR] [--write-back]\n"
@@ -39,7 +41,7 @@ struct Prikaz {
 
 const Prikaz prikazy[] = {
     {"init", prikazInit},           {"order-load", prikazOrderLoad},     {"order-dump", prikazOrderDump},
-    {"order-list", prikazOrderList}, {"settings", prikazSettings},        {"plan", prikazPlan}, {"calc", prikazCalc}, {"totals", prikazTotals},
+    {"order-list", prikazOrderList}, {"order-copy", prikazOrderCopy}, {"assembly-copy", prikazAssemblyCopy}, {"settings", prikazSettings},        {"plan", prikazPlan}, {"calc", prikazCalc}, {"totals", prikazTotals},
     {"calc-sestavy", prikazCalcSestavy}, {"purchase", prikazPurchase}, {"quote", prikazQuote}, {"workshop", prikazWorkshop},
     {"offcuts-load", prikazOffcutsLoad}, {"offcuts-list", prikazOffcutsList}, {"backup", prikazBackup},       {"restore", prikazRestore},
     {"pricelist-backup", prikazPricelistBackup}, {"pricelist-restore", prikazPricelistRestore},

@@ -6,6 +6,8 @@ int prikazInit(const QStringList& argumenty);
 int prikazOrderLoad(const QStringList& argumenty);
 int prikazOrderDump(const QStringList& argumenty);
 int prikazOrderList(const QStringList& argumenty);
+int prikazOrderCopy(const QStringList& argumenty);
+int prikazAssemblyCopy(const QStringList& argumenty);
 int prikazSettings(const QStringList& argumenty);
 int prikazOffcutsLoad(const QStringList& argumenty);
 int prikazOffcutsList(const QStringList& argumenty);

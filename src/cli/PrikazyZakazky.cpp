@@ -4,9 +4,12 @@
 #include "optimiser/VypisNP.h"
 
 #include "core/Aplikace.h"
+#include "core/Dotaz.h"
 #include "core/Nastaveni.h"
+#include "core/Recordset.h"
 #include "core/Uloziste.h"
 #include "exchange/SkladJson.h"
+#include "orders/Kopirovani.h"
 #include "exchange/ZakazkaJson.h"
 
 #include <QJsonDocument>
@@ -81,5 +84,39 @@ int prikazOffcutsList(const QStringList& argumenty)
     Cli::out() << QString::fromUtf8(QJsonDocument(VypisTabulky(Cli::uloziste().dataS(), QStringLiteral("SkladOdrezku")))
                                         .toJson(QJsonDocument::Compact))
                << '\n';
+    return Cli::Hotovo;
+}
+
+int prikazOrderCopy(const QStringList& argumenty)
+{
+    pocet(argumenty, 2);
+    Kopirovani::kopirujZakazku(Cli::uloziste().dataS(), argumenty[0], argumenty[1]);
+    Cli::out() << argumenty[1] << Qt::endl;
+    return Cli::Hotovo;
+}
+
+int prikazAssemblyCopy(const QStringList& argumenty)
+{
+    if (argumenty.size() != 3 && argumenty.size() != 4)
+        throw Cli::ChybaPouziti(QStringLiteral("assembly-copy ZAKÁZKA SESTAVA CÍLOVÁ_ZAKÁZKA [NOVÝ_NÁZEV]"));
+    Database& db = Cli::uloziste().dataS();
+    const QString& zakazka = argumenty[0];
+    const QString& sestava = argumenty[1];
+    const QString& cil = argumenty[2];
+    // within the order it is "save as" and needs the name; onto another order the name follows
+    const bool vZakazce = Recordset(db, QStringLiteral("SELECT * FROM Zakazky  WHERE Zakazka = '") + Dotaz::text(cil) +
+                                            QStringLiteral("' and Zakazka = '") + Dotaz::text(zakazka) + QStringLiteral("'"),
+                                    Recordset::Rozsah::Prvni)
+                              .prazdny() == false;
+    if (vZakazce) {
+        if (argumenty.size() != 4)
+            throw Cli::ChybaPouziti(QStringLiteral("Kopie sestavy ve stejné zakázce potřebuje nový název."));
+        Kopirovani::kopirujSestavu(db, zakazka, sestava, argumenty[3]);
+        Cli::out() << argumenty[3] << Qt::endl;
+    } else {
+        if (argumenty.size() == 4)
+            throw Cli::ChybaPouziti(QStringLiteral("Kopie do jiné zakázky si název určí sama (A, A_, A__)."));
+        Cli::out() << Kopirovani::KopirovaniSestavy(db, zakazka, sestava, cil) << Qt::endl;
+    }
     return Cli::Hotovo;
 }
