@@ -8,6 +8,7 @@
 #include "core/Uloziste.h"
 #include "costing/Kalkulace.h"
 #include "costing/Vypisy.h"
+#include "orders/Kopirovani.h"
 #include "exchange/Zaloha.h"
 #include "optimiser/PlanRun.h"
 #include "orders/Strom.h"
@@ -38,6 +39,7 @@
 #include <QTableWidget>
 #include <QToolBar>
 #include <QTreeWidget>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace {
@@ -54,7 +56,8 @@ const QStringList hotove = {
     QStringLiteral("cmdUpravitHrana"), QStringLiteral("cmdSmazatHrana"), QStringLiteral("cmdNovyPM"),
     QStringLiteral("cmdUpravitPM"), QStringLiteral("cmdSmazatPM"), QStringLiteral("cmdImport"),
     QStringLiteral("RychlaKalkulace"), QStringLiteral("KS"), QStringLiteral("NM"), QStringLiteral("CN"),
-    QStringLiteral("SMZ"), QStringLiteral("SMDS"), QStringLiteral("Sklad"), QStringLiteral("SO")};
+    QStringLiteral("SMZ"), QStringLiteral("SMDS"), QStringLiteral("Sklad"), QStringLiteral("SO"),
+    QStringLiteral("UlozeniJakoZ"), QStringLiteral("UlozeniSestavyJako")};
 
 // The costing reports by the command that opens them.
 const QHash<QString, DruhVypisu> vypisy = {
@@ -449,7 +452,16 @@ void FrmBorovak::prikaz(const QString& nazev)
             ZahajNP();
         else if (vypisy.contains(nazev))
             Vypis(vypisy.value(nazev), akce(nazev) ? akce(nazev)->text().remove(QLatin1Char('&')) : nazev);
-        else if (nazev == QLatin1String("Sklad") || nazev == QLatin1String("SO")) {
+        else if (nazev == QLatin1String("UlozeniJakoZ")) {
+            const QString nova = Kopirovani::UlozitZakazkuJako(m_uloziste.dataS(), m_prompt, m_vyber.txtzakazka());
+            if (!nova.isNull())
+                vyberUzel(nova, QString());
+        } else if (nazev == QLatin1String("UlozeniSestavyJako")) {
+            const QString zakazka = m_vyber.txtzakazka();
+            const QString nova = Kopirovani::UlozitSestavuJako(m_uloziste.dataS(), m_prompt, zakazka, m_AktSestava);
+            if (!nova.isNull())
+                vyberUzel(zakazka, nova);
+        } else if (nazev == QLatin1String("Sklad") || nazev == QLatin1String("SO")) {
             FrmSklad sklad(m_uloziste.dataS(), m_prompt, this);
             sklad.exec();
         } else if (nazev == QLatin1String("Vz"))
@@ -625,8 +637,6 @@ void FrmBorovak::ulozGeometrii()
 
 bool FrmBorovak::eventFilter(QObject* o, QEvent* e)
 {
-    // An assembly dropped on another order: the question, then the copy (which arrives with the
-    // copying of orders and assemblies; until then the drop is refused with a message).
     // the price panels open their reports: the order's calculation, the assemblies' calculation
     if ((o == m_panel[1] || o == m_panel[2]) && e->type() == QEvent::MouseButtonRelease) {
         const char* klic = o == m_panel[1] ? "RychlaKalkulace" : "KS";
@@ -652,12 +662,21 @@ bool FrmBorovak::eventFilter(QObject* o, QEvent* e)
         QTreeWidgetItem* cilovaZakazka = cil->parent() ? cil->parent() : cil;
         if (cilovaZakazka == zdroj->parent())
             return true; // on its own order nothing happens
+        // an assembly dropped on another order (or one of its assemblies) is copied there
         const QString sestava = zdroj->data(0, Qt::UserRole + 1).toString();
-        if (m_prompt.zprava(QStringLiteral("Chcete zkopírovat sestavu - ") + sestava + QStringLiteral(" - do zakázky - ") +
-                                cilovaZakazka->text(0) + QStringLiteral(" - ?"),
-                            QString(), Prompt::Ikona::Otaznik, Prompt::Tlacitka::AnoNe) == Prompt::Odpoved::Ano)
-            m_prompt.zprava(QStringLiteral("Kopírování sestav mezi zakázkami zatím není k dispozici; nic nebylo změněno."),
-                            QStringLiteral("Kopírování sestavy"), Prompt::Ikona::Informace);
+        const QString cilova = cilovaZakazka->text(0);
+        if (m_prompt.zprava(QStringLiteral("Chcete zkopírovat sestavu - ") + sestava + QStringLiteral(" - do zakázky - ") + cilova +
+                                QStringLiteral(" - ?"),
+                            QString(), Prompt::Ikona::Otaznik, Prompt::Tlacitka::AnoNe) != Prompt::Odpoved::Ano)
+            return true;
+        try {
+            const QString nova = Kopirovani::KopirovaniSestavy(m_uloziste.dataS(), zdroj->parent()->text(0), sestava, cilova);
+            m_vyber.setTxtSestava(QString());
+            // the tree is filled again once the drag has ended, not under its feet
+            QTimer::singleShot(0, this, [this, cilova, nova] { vyberUzel(cilova, nova); });
+        } catch (const Error& e) {
+            m_prompt.zprava(e.text(), QStringLiteral("Chyba"), Prompt::Ikona::Kriticka);
+        }
         return true;
     }
     return QMainWindow::eventFilter(o, e);

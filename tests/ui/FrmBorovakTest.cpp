@@ -21,6 +21,7 @@
 #include <QTest>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QInputDialog>
 #include <QLabel>
 #include <QListWidget>
 #include <QTimer>
@@ -442,4 +443,24 @@ TEST_F(Okno, PanelyCenPoVyberuAUprave)
     EXPECT_NE(panel2->text(), QStringLiteral("5062.31 Kč"));
     EXPECT_NE(panel3->text(), QStringLiteral("1195.00 Kč"));
     EXPECT_TRUE(panel3->text().endsWith(QStringLiteral(" Kč")));
+}
+
+// Objednávka / Uložit jako: the new name typed in the input box; the copy is selected in the tree.
+TEST_F(Okno, ZakazkaUlozenaJako)
+{
+    klik(strom->topLevelItem(0));
+    ASSERT_TRUE(zapnuto("UlozeniJakoZ"));
+    QTimer ruka;
+    QObject::connect(&ruka, &QTimer::timeout, [&] {
+        if (auto* d = qobject_cast<QInputDialog*>(QApplication::activeModalWidget())) {
+            d->setTextValue(QStringLiteral("Kuchyně kopie"));
+            d->accept();
+        }
+    });
+    ruka.start(5);
+    okno->prikaz(QStringLiteral("UlozeniJakoZ"));
+    EXPECT_EQ(strom->topLevelItemCount(), 2);
+    EXPECT_EQ(okno->txtzakazka(), QStringLiteral("Kuchyně kopie"));
+    EXPECT_EQ(strom->currentItem()->text(0), QStringLiteral("Kuchyně kopie"));
+    EXPECT_EQ(strom->currentItem()->childCount(), 4);
 }
