@@ -4,7 +4,6 @@
 #include "core/Dotaz.h"
 #include "core/Error.h"
 #include "core/Jednotky.h"
-#include "core/Kolace.h"
 #include "core/Nastaveni.h"
 #include "core/Recordset.h"
 #include "core/Transakce.h"
@@ -138,17 +137,12 @@ std::pair<double, double> soucet(Recordset& g, bool kratPocet)
 void kazdyMaterial(Database& db, const QString& vyber, const QString& podminka,
                    const std::function<void(const QString& material, Recordset& skupina)>& naMaterial)
 {
-    QString material;
-    bool prvni = true;
-    for (Recordset m(db, vyber); !m.eof(); m.moveNext()) {
-        if (!prvni && Kolace::porovnej(m.text(QStringLiteral("Material")), material) == 0)
-            continue;
-        prvni = false;
-        material = m.text(QStringLiteral("Material"));
+    PruchodZakazky::kazdaSkupina(Recordset(db, vyber), QStringLiteral("Material"), [&](const Recordset& m, int) {
+        const QString material = m.text(QStringLiteral("Material"));
         Recordset g(db, QStringLiteral("SELECT * FROM SoupisProKalkulaci  WHERE ") + podminka + QStringLiteral("Material = '") +
                             z(material) + QStringLiteral("' ORDER BY Material"));
         naMaterial(material, g);
-    }
+    });
 }
 
 } // namespace
@@ -167,13 +161,9 @@ void NaplnKalkulaciSestav(Database& dataK, const QString& zakazka, const Vyber& 
     napln(dataK, zakazka, sestavy, false);
     // totals per assembly and material
     Recordset celkem(dataK, QStringLiteral("SoupisProKalkulaciCelkem"), Recordset::Rozsah::Prvni);
-    QString sestava;
-    bool prvni = true;
-    for (Recordset a(dataK, QStringLiteral("SELECT * FROM SoupisProKalkulaci  ORDER BY Sestava")); !a.eof(); a.moveNext()) {
-        if (!prvni && Kolace::porovnej(a.text(QStringLiteral("Sestava")), sestava) == 0)
-            continue;
-        prvni = false;
-        sestava = a.text(QStringLiteral("Sestava"));
+    PruchodZakazky::kazdaSkupina(Recordset(dataK, QStringLiteral("SELECT * FROM SoupisProKalkulaci  ORDER BY Sestava")),
+                                 QStringLiteral("Sestava"), [&](const Recordset& a, int) {
+        const QString sestava = a.text(QStringLiteral("Sestava"));
         const QString vSestave = QStringLiteral("Sestava = '") + z(sestava) + QStringLiteral("' and ");
         kazdyMaterial(dataK, QStringLiteral("SELECT * FROM SoupisProKalkulaci  WHERE Sestava = '") + z(sestava) +
                                  QStringLiteral("' ORDER BY Material"),
@@ -187,7 +177,7 @@ void NaplnKalkulaciSestav(Database& dataK, const QString& zakazka, const Vyber& 
             celkem.set(QStringLiteral("Cena"), cena);
             celkem.update();
         });
-    }
+    });
     t.commit();
 }
 

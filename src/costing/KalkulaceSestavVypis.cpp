@@ -3,8 +3,8 @@
 #include "core/Database.h"
 #include "core/Dotaz.h"
 #include "core/Jednotky.h"
-#include "core/Kolace.h"
 #include "core/Recordset.h"
+#include "costing/PruchodZakazky.h"
 #include "costing/Zaokrouhleni.h"
 #include "printing/Operace.h"
 
@@ -58,13 +58,9 @@ VysledekSestav KalkulaceSestavVypis(Dokument& d, Database& k, Database& cenik, c
     VysledekSestav v;
     double zaklad = 0;
     const double dph = Vypis::procentoDPH();
-    QString sestava;
-    bool prvni = true;
-    for (Recordset a(k, QStringLiteral("SELECT * FROM SoupisProKalkulaciCelkem  order by Sestava")); !a.eof(); a.moveNext()) {
-        if (!prvni && Kolace::porovnej(a.text(QStringLiteral("Sestava")), sestava) == 0)
-            continue;
-        prvni = false;
-        sestava = a.text(QStringLiteral("Sestava"));
+    PruchodZakazky::kazdaSkupina(Recordset(k, QStringLiteral("SELECT * FROM SoupisProKalkulaciCelkem  order by Sestava")),
+                                 QStringLiteral("Sestava"), [&](const Recordset& a, int) {
+        const QString sestava = a.text(QStringLiteral("Sestava"));
         const double pocet = a.cislo(QStringLiteral("pocetsestav"));
         Vypis::pasSestavy(d, sestava, pocet, a.text(QStringLiteral("popis")));
         const QString podminka = QStringLiteral(" WHERE  sestava = '") + Dotaz::text(sestava) + QStringLiteral("'");
@@ -96,7 +92,7 @@ VysledekSestav KalkulaceSestavVypis(Dokument& d, Database& k, Database& cenik, c
         v.sestavy.push_back(c);
         Vypis::zlomStranyPodPrahem(d);
         d.CurrentY += 200;
-    }
+    });
     if (nabidka)
         for (Recordset r(k, QStringLiteral("SoupisProKalkulaciCelkem")); !r.eof(); r.moveNext())
             zaklad += r.cislo(QStringLiteral("Cena")) * r.cislo(QStringLiteral("pocetsestav"));

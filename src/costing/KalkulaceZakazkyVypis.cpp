@@ -4,6 +4,7 @@
 #include "core/Dotaz.h"
 #include "core/Jednotky.h"
 #include "core/Recordset.h"
+#include "costing/PruchodZakazky.h"
 #include "printing/Operace.h"
 
 namespace {
@@ -24,18 +25,12 @@ void oddil(Dokument& d, Database& k, const Oddil& o)
     const Tabulka detail{{mm(15), mm(80), mm(20), mm(15), mm(25), mm(25)},
                          {Vypis::zarovnani(7), Vypis::zarovnani(6), Vypis::zarovnani(8), Vypis::zarovnani(8),
                           Vypis::zarovnani(8), Vypis::zarovnani(8)}};
-    Recordset materialy(k, QStringLiteral("SELECT * FROM SoupisProKalkulaci  WHERE ") + QLatin1String(o.podminka) +
-                               QStringLiteral(" order by material"));
-    QString posledni;
-    bool prvni = true;
-    for (; !materialy.eof(); materialy.moveNext()) {
+    PruchodZakazky::kazdaSkupina(Recordset(k, QStringLiteral("SELECT * FROM SoupisProKalkulaci  WHERE ") +
+                                                  QLatin1String(o.podminka) + QStringLiteral(" order by material")),
+                                 QStringLiteral("Material"), [&](const Recordset& materialy, int poradi) {
         const QString material = materialy.text(QStringLiteral("Material"));
-        if (!prvni && material.compare(posledni, Qt::CaseInsensitive) == 0)
-            continue;
-        if (!prvni)
+        if (poradi > 0)
             d.CurrentY += 400;
-        prvni = false;
-        posledni = material;
         Vypis::pas(d, material, Vypis::castka(materialy.cislo(QStringLiteral("JC"))) + m + QLatin1String(o.jednotkaCeny),
                    o.barvaLeva, o.barvaPrava);
         const QString podminka = QLatin1String(o.podminka) + QStringLiteral(" and Material = '") + Dotaz::text(material) +
@@ -60,7 +55,7 @@ void oddil(Dokument& d, Database& k, const Oddil& o)
         const double cena = k.hodnota(QStringLiteral("SELECT sum(cena) FROM SoupisProKalkulaci  WHERE ") + podminka).toDouble();
         Vypis::souhrn(d, {Vypis::castka(mnozstvi, o.hrany ? 3 : 2) + (o.hrany ? QStringLiteral(" m") : QStringLiteral(" m2")),
                           Vypis::castka(cena) + m});
-    }
+    });
 }
 
 void prislusenstvi(Dokument& d, Database& k)

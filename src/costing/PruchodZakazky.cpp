@@ -13,20 +13,26 @@ QString z(const QString& t) { return Dotaz::text(t); }
 // Calls naSestave once per distinct, chosen Sestava of the walk, in its order.
 void kazdaSestava(Recordset&& r, const Vyber& vyber, const std::function<void(const QString&)>& naSestave)
 {
-    QString posledni;
-    bool prvni = true;
-    for (; !r.eof(); r.moveNext()) {
-        const QString sestava = r.text(QStringLiteral("Sestava"));
-        if (!prvni && Kolace::porovnej(sestava, posledni) == 0)
-            continue;
-        prvni = false;
-        posledni = sestava;
-        if (vybrana(vyber, sestava))
-            naSestave(sestava);
-    }
+    kazdaSkupina(std::move(r), QStringLiteral("Sestava"), [&](const Recordset& s, int) {
+        if (vybrana(vyber, s.text(QStringLiteral("Sestava"))))
+            naSestave(s.text(QStringLiteral("Sestava")));
+    });
 }
 
 } // namespace
+
+void kazdaSkupina(Recordset&& r, const QString& pole, const std::function<void(const Recordset&, int)>& naSkupinu)
+{
+    QString posledni;
+    int poradi = 0;
+    for (; !r.eof(); r.moveNext()) {
+        const QString hodnota = r.text(pole);
+        if (poradi > 0 && Kolace::porovnej(hodnota, posledni) == 0)
+            continue;
+        posledni = hodnota;
+        naSkupinu(r, poradi++);
+    }
+}
 
 bool vybrana(const Vyber& v, const QString& sestava)
 {

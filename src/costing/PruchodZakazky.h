@@ -15,6 +15,10 @@ namespace PruchodZakazky {
 using Vyber = QStringList;
 bool vybrana(const Vyber& v, const QString& sestava);
 
+// The first row of each new value of pole in a walk sorted by it, values compared as the store
+// compares text (Czech, blind to case); poradi counts the groups from 0.
+void kazdaSkupina(Recordset&& r, const QString& pole, const std::function<void(const Recordset& r, int poradi)>& naSkupinu);
+
 // Each row of each chosen assembly with a stamp (cas > 0) and a name, in the given order
 // (the text after "cas > 0 "). A header row that kept its stamp after its last item went
 // has no name and is left out.

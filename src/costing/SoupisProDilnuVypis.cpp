@@ -3,8 +3,8 @@
 #include "core/Database.h"
 #include "core/Dotaz.h"
 #include "core/Jednotky.h"
-#include "core/Kolace.h"
 #include "core/Recordset.h"
+#include "costing/PruchodZakazky.h"
 #include "costing/Zaokrouhleni.h"
 #include "printing/Operace.h"
 
@@ -148,15 +148,12 @@ void SoupisProDilnuVypis(Dokument& d, Database& k, Database& cenik, const QStrin
     Vypis::zacni(d);
     d.CurrentY = mm(55);
     const Sloupce s = sloupce(seSchematy);
-    QString poznamka, sestava;
-    bool prvni = true;
-    for (Recordset a(k, QStringLiteral("SELECT * FROM SoupisProDilnu  order by Sestava")); !a.eof(); a.moveNext()) {
-        if (prvni)
+    QString poznamka;
+    PruchodZakazky::kazdaSkupina(Recordset(k, QStringLiteral("SELECT * FROM SoupisProDilnu  order by Sestava")),
+                                 QStringLiteral("Sestava"), [&](const Recordset& a, int poradi) {
+        if (poradi == 0)
             poznamka = a.text(QStringLiteral("Poznamka"));
-        if (!prvni && Kolace::porovnej(a.text(QStringLiteral("Sestava")), sestava) == 0)
-            continue;
-        prvni = false;
-        sestava = a.text(QStringLiteral("Sestava"));
+        const QString sestava = a.text(QStringLiteral("Sestava"));
         Vypis::pasSestavy(d, sestava, a.cislo(QStringLiteral("pocetsestav")), a.text(QStringLiteral("popis")));
         const QString podminka = QStringLiteral(" WHERE  sestava = '") + Dotaz::text(sestava) + QStringLiteral("'");
         for (Recordset r(k, QStringLiteral("SELECT * FROM SoupisProDilnu ") + podminka + QStringLiteral(" order by cislo")); !r.eof();
@@ -165,7 +162,7 @@ void SoupisProDilnuVypis(Dokument& d, Database& k, Database& cenik, const QStrin
         Vypis::schema(d, cenik, k.hodnota(QStringLiteral("SELECT max(schema) FROM SoupisProDilnu ") + podminka).toDouble());
         Vypis::zlomStranyPodPrahem(d);
         d.CurrentY += 200;
-    }
+    });
     d.EndDoc();
     Vypis::prekryv(d, QStringLiteral("SOUPIS MATERIÁLU PRO DÍLNU"), zakazka, {}, poznamka.isNull() ? QStringLiteral("") : poznamka);
 }

@@ -396,9 +396,10 @@ void FrmBorovak::obnovZakazku()
         PovolEditaciZakazky();
     else
         ZakazEditaciZakazky();
-    // another order with no assembly chosen before or after: the assembly's handler stays
-    // silent, so the order's price is renewed here
-    obnovCeny();
+    // when the assembly does not change with the order its handler stays silent, so the
+    // prices are renewed here (otherwise they are, once, when the assembly's signal follows)
+    if (m_vyber.txtSestava() == m_AktSestava)
+        obnovCeny();
 }
 
 void FrmBorovak::obnovSestavu()

@@ -1,6 +1,7 @@
 #include "ui/FrmSklad.h"
 
 #include "catalogues/Sklad.h"
+#include "core/Dotaz.h"
 #include "core/Error.h"
 #include "core/Jednotky.h"
 #include "core/Nastaveni.h"
@@ -110,12 +111,14 @@ void FrmSklad::prikaz(const QString& klic)
             });
         } else if (klic == QLatin1String("UO") && r >= 0) {
             // the values before the edit, as the store's row is found by them
-            for (const auto& [k, v] : {std::pair{"Material", vybrany.material}, {"x", Jednotky::cislo(vybrany.x)},
-                                       {"y", Jednotky::cislo(vybrany.y)}, {"Pocet", QString::number(vybrany.pocet)}})
+            for (const auto& [k, v] : {std::pair{"Material", vybrany.material}, {"x", Dotaz::cislo(vybrany.x)},
+                                       {"y", Dotaz::cislo(vybrany.y)}, {"Pocet", QString::number(vybrany.pocet)}})
                 Nastaveni::SaveSetting(QStringLiteral("Sklad"), QLatin1String(k), v);
             FrmNovy d(this);
             d.odrezek(QStringLiteral("UpraveniOdrezku"), vybrany, [&](const Sklad::Odrezek& o) {
-                const bool ok = Sklad::UlozitUpravuOdrezku(m_dataS, m_prompt, vybrany, o);
+                auto stare = [](const char* k) { return Nastaveni::GetSetting(QStringLiteral("Sklad"), QLatin1String(k)); };
+                const Sklad::Odrezek stary{stare("Material"), stare("x").toDouble(), stare("y").toDouble(), stare("Pocet").toInt()};
+                const bool ok = Sklad::UlozitUpravuOdrezku(m_dataS, m_prompt, stary, o);
                 NaplnitGrid();
                 return ok ? FrmNovy::PoUlozeni::Zavrit : FrmNovy::PoUlozeni::Odmitnuto;
             });
