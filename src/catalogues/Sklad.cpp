@@ -130,7 +130,9 @@ void VypisSkladu(Dokument& d, Database& db, const QString& material)
     d.Paragraph(QStringLiteral("VÝPIS ZE SKLADU ODŘEZKŮ"));
     d.CurrentY += 300;
     const Tabulka t{{Dokument::mm(110), Dokument::mm(50), Dokument::mm(20)}, {Qt::AlignLeft, Qt::AlignHCenter, Qt::AlignRight}};
-    RadekTabulky hlava{{QStringLiteral("Materiál odřezku"), QStringLiteral("Rozměry"), QStringLiteral("Počet")}, Dokument::mm(7)};
+    RadekTabulky hlava;
+    hlava.bunky = QStringList{QStringLiteral("Materiál odřezku"), QStringLiteral("Rozměry"), QStringLiteral("Počet")};
+    hlava.vyska = Dokument::mm(7);
     hlava.pozadi = QColor(0xe8, 0xe8, 0xe8);
     d.pismo.velikost = 10;
     d.AddRow(t, hlava);
@@ -145,11 +147,13 @@ void VypisSkladu(Dokument& d, Database& db, const QString& material)
             d.AddRow(t, hlava);
             d.pismo.tucne = false;
         }
-        d.AddRow(t, RadekTabulky{{r.text(QStringLiteral("Material")),
+        RadekTabulky radek;
+        radek.bunky = QStringList{r.text(QStringLiteral("Material")),
                                   Jednotky::ZMilimetru(r.cislo(QStringLiteral("x"))) + QStringLiteral(" x ") +
                                       Jednotky::ZMilimetru(r.cislo(QStringLiteral("y"))),
-                                  Jednotky::cislo(r.cislo(QStringLiteral("Pocet")))},
-                                 Dokument::mm(6)});
+                                  Jednotky::cislo(r.cislo(QStringLiteral("Pocet")))};
+        radek.vyska = Dokument::mm(6);
+        d.AddRow(t, radek);
     }
     d.EndDoc();
     for (int p = 1; p <= d.PageCount(); ++p) {

@@ -1,6 +1,7 @@
 #include "core/Aplikace.h"
 
 #include "core/Error.h"
+#include "core/Jazyk.h"
 #include "core/Schema.h"
 
 #include <QDir>
@@ -52,6 +53,7 @@ void zaloz()
         Schema::vytvor(dataS(), Schema::Soubor::Data);
     if (!QFile::exists(cenik()))
         Schema::vytvor(cenik(), Schema::Soubor::Cenik);
+    Jazyk::zapisChybejici();
 }
 
 void uklid()

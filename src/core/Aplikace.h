@@ -17,8 +17,8 @@ QString dataK();   // Data/DataK.db
 QString zamek();   // Data/.lock
 
 bool existuje();   // the folder holds Data/DataS.db and Data/Cenik.db
-// Creates the folder, its subfolders and the empty databases where they are missing; never
-// touches a database that exists. Throws Error (75, 3051, 3799).
+// Creates the folder, its subfolders, the empty databases and the language files where they
+// are missing; never touches a database or a language file that exists. Throws Error (75, 3051, 3799).
 void zaloz();
 // At start: removes our own temporary files in Data/ and a DataK.db left by a crash (with its
 // journal files). Nothing else is touched.

@@ -51,7 +51,7 @@ int PocetDesetinnych() { return aktualni().desetinnych; }
 
 QChar oddelovac()
 {
-    return QLocale::system().decimalPoint().at(0);
+    return QLocale().decimalPoint().at(0); // the system's, unless the program set another
 }
 
 QString JednotkaPocet(const QString& pocet)

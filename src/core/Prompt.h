@@ -4,6 +4,14 @@
 // A cancelled chooser throws Error 32755, as the old common dialog did.
 #include <QString>
 
+// A font as the font chooser gives it and the settings keep it.
+struct VolbaPisma {
+    QString nazev = QStringLiteral("Arial");
+    int velikost = 10;
+    bool tucne = false, kurziva = false, podtrzene = false, preskrtnute = false;
+    quint32 barva = 0; // 0x00BBGGRR
+};
+
 class Prompt {
 public:
     enum class Ikona { Zadna, Informace, Otaznik, Vykricnik, Kriticka };
@@ -19,6 +27,10 @@ public:
     // A file to open or save: filtr in Qt's form ("Popis (*.x)"). Throws Error 32755 on cancel.
     virtual QString soubor(bool ulozit, const QString& titulek, const QString& slozka,
                            const QString& navrh, const QString& filtr) = 0;
+    // The colour and font choosers. Throw Error 32755 on cancel; a prompt that cannot show
+    // them (the command line) always cancels.
+    virtual quint32 barva(quint32 bgr, const QString& titulek);
+    virtual VolbaPisma pismo(const VolbaPisma& puvodni, const QString& titulek);
 };
 
 // Long work reports here and asks whether to stop; no widgets involved.

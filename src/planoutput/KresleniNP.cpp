@@ -2,6 +2,7 @@
 
 #include "core/Dotaz.h"
 #include "core/Jednotky.h"
+#include "core/Moznosti.h"
 #include "core/Nastaveni.h"
 #include "core/Recordset.h"
 
@@ -14,23 +15,17 @@ QString nastaveni(const char* klic)
     return Nastaveni::GetSetting(QStringLiteral("Setting"), QLatin1String(klic));
 }
 
-bool ano(const char* klic)
+StylNP styl(Moznosti::Popis popis, const char* vypln)
 {
-    return nastaveni(klic).compare(QLatin1String("True"), Qt::CaseInsensitive) == 0 || nastaveni(klic) == QLatin1String("-1");
-}
-
-StylNP styl(const char* pismo, const char* barvaPisma, const char* tucne, const char* kurziva, const char* podtrzeni,
-            const char* preskrtnuti, const char* velikost, const char* vypln)
-{
+    const VolbaPisma v = Moznosti::pismo(popis);
     StylNP s;
-    s.pismo.nazev = nastaveni(pismo).isEmpty() ? QStringLiteral("Arial") : nastaveni(pismo);
-    s.pismo.tucne = ano(tucne);
-    s.pismo.kurziva = ano(kurziva);
-    s.pismo.podtrzene = ano(podtrzeni);
-    s.pismo.preskrtnute = ano(preskrtnuti);
-    const double v = Nastaveni::cislo(QStringLiteral("Setting"), QLatin1String(velikost));
-    s.pismo.velikost = v > 0 ? v : 10;
-    s.barvaPisma = Barva::zTextu(nastaveni(barvaPisma));
+    s.pismo.nazev = v.nazev;
+    s.pismo.tucne = v.tucne;
+    s.pismo.kurziva = v.kurziva;
+    s.pismo.podtrzene = v.podtrzene;
+    s.pismo.preskrtnute = v.preskrtnute;
+    s.pismo.velikost = v.velikost;
+    s.barvaPisma = Barva::zVB(v.barva);
     s.vypln = Barva::zTextu(nastaveni(vypln), Qt::white);
     return s;
 }
@@ -177,14 +172,12 @@ Texty textyDesky(double SirkaX, double SirkaY, const QString& Oznaceni, const QS
 
 StylNP StylNP::desky()
 {
-    return styl("PismoDesky", "BarvaPismaDesky", "TucnePismoDesky", "KurzivaDesky", "PodtrzeniPismaDesky",
-                "PreskrtnutniPismaDesky", "VelikostFontuPismaDesky", "BarvaDesky");
+    return styl(Moznosti::Popis::Deska, "BarvaDesky");
 }
 
 StylNP StylNP::odrezku()
 {
-    return styl("PismoOdrezku", "BarvaPismaOdrezku", "TucnePismoOdrezku", "KurzivaOdrezku", "PodtrzeniPismaOdrezku",
-                "PreskrtnutniPismaOdrezku", "VelikostFontuPismaOdrezku", "BarvaOdrezku");
+    return styl(Moznosti::Popis::Odrezek, "BarvaOdrezku");
 }
 
 BarvyHran::BarvyHran(Database& dataS, const QString& zakazka)

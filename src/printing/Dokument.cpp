@@ -1,5 +1,7 @@
 #include "printing/Dokument.h"
 
+#include "core/BarvaVB.h"
+
 #include <QFontMetricsF>
 #include <numeric>
 
@@ -25,18 +27,8 @@ QColor zVB(qint64 bgr)
 
 QColor zTextu(const QString& text, const QColor& jinak)
 {
-    QString t = text.trimmed();
-    bool ok = false;
-    qint64 hodnota = 0;
-    if (t.startsWith(QLatin1String("&H"), Qt::CaseInsensitive)) {
-        t = t.mid(2);
-        if (t.endsWith(QLatin1Char('&')))
-            t.chop(1);
-        hodnota = t.toLongLong(&ok, 16);
-    } else {
-        hodnota = t.toLongLong(&ok);
-    }
-    return ok ? zVB(hodnota) : jinak;
+    const std::optional<quint32> bgr = BarvaVB::zTextu(text);
+    return bgr ? zVB(*bgr) : jinak;
 }
 
 qint64 doVB(const QColor& barva)

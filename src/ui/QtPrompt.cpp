@@ -3,6 +3,8 @@
 #include "core/Error.h"
 
 #include <QApplication>
+#include <QColorDialog>
+#include <QFontDialog>
 #include <QDir>
 #include <QFileDialog>
 #include <QInputDialog>
@@ -62,4 +64,38 @@ QString QtPrompt::soubor(bool ulozit, const QString& titulek, const QString& slo
     if (vybrany.isEmpty())
         throw Error(Chyba::Zruseno, QStringLiteral("Zrušeno"));
     return vybrany;
+}
+
+namespace {
+QColor zBgr(quint32 bgr) { return QColor(int(bgr & 0xff), int(bgr >> 8 & 0xff), int(bgr >> 16 & 0xff)); }
+quint32 doBgr(const QColor& c) { return quint32(c.red()) | quint32(c.green()) << 8 | quint32(c.blue()) << 16; }
+}
+
+quint32 QtPrompt::barva(quint32 bgr, const QString& titulek)
+{
+    const QColor c = QColorDialog::getColor(zBgr(bgr), m_rodic, titulek);
+    if (!c.isValid())
+        throw Error(Chyba::Zruseno, QStringLiteral("Zrušeno"));
+    return doBgr(c);
+}
+
+// Qt's font dialog has no colour; the colour is asked right after, and a cancel there keeps
+// the font's old colour.
+VolbaPisma QtPrompt::pismo(const VolbaPisma& puvodni, const QString& titulek)
+{
+    QFont f(puvodni.nazev, puvodni.velikost);
+    f.setBold(puvodni.tucne);
+    f.setItalic(puvodni.kurziva);
+    f.setUnderline(puvodni.podtrzene);
+    f.setStrikeOut(puvodni.preskrtnute);
+    bool ok = false;
+    const QFont vybrany = QFontDialog::getFont(&ok, f, m_rodic, titulek);
+    if (!ok)
+        throw Error(Chyba::Zruseno, QStringLiteral("Zrušeno"));
+    VolbaPisma p{vybrany.family(), qMax(1, vybrany.pointSize()), vybrany.bold(), vybrany.italic(),
+                 vybrany.underline(), vybrany.strikeOut(), puvodni.barva};
+    const QColor c = QColorDialog::getColor(zBgr(puvodni.barva), m_rodic, titulek + QStringLiteral(" – barva"));
+    if (c.isValid())
+        p.barva = doBgr(c);
+    return p;
 }

@@ -15,6 +15,8 @@ public:
     QString vstup(const QString& text, const QString& titulek, const QString& vychozi) override;
     QString soubor(bool ulozit, const QString& titulek, const QString& slozka, const QString& navrh,
                    const QString& filtr) override;
+    quint32 barva(quint32 bgr, const QString& titulek) override;
+    VolbaPisma pismo(const VolbaPisma& puvodni, const QString& titulek) override;
 
 private:
     QWidget* m_rodic;

@@ -46,3 +46,23 @@ QString SkriptovanyPrompt::soubor(bool, const QString& titulek, const QString&, 
         throw Error(Chyba::Zruseno, QStringLiteral("Zrušeno"));
     return s;
 }
+
+quint32 SkriptovanyPrompt::barva(quint32 bgr, const QString& titulek)
+{
+    titulky << titulek;
+    if (m_barvy.empty())
+        return Prompt::barva(bgr, titulek);
+    const quint32 b = m_barvy.front();
+    m_barvy.pop_front();
+    return b;
+}
+
+VolbaPisma SkriptovanyPrompt::pismo(const VolbaPisma& puvodni, const QString& titulek)
+{
+    titulky << titulek;
+    if (m_pisma.empty())
+        return Prompt::pismo(puvodni, titulek);
+    const VolbaPisma p = m_pisma.front();
+    m_pisma.pop_front();
+    return p;
+}
