@@ -32,7 +32,10 @@ const char* const TextPouziti =
     "  import SOUBOR --order ZAKÁZKA --assembly SESTAVA   seznam desek do sestavy\n"
     "  calc|calc-sestavy|purchase|quote NÁZEV [--sestava S]... [--json] [--pdf SOUBOR]\n"
     "  workshop NÁZEV [--sestava S]... [--schemata] [--json] [--pdf SOUBOR]\n"
-    "  totals NÁZEV [--sestava S]    ceny panelů 2 a 3, jedna na řádek\n";
+    "  totals NÁZEV [--sestava S]    ceny panelů 2 a 3, jedna na řádek\n"
+    "  options show                  nastavení z okna Možnosti jako JSON\n"
+    "  options apply KLÍČ=HODNOTA ...   jako „Použít“: délky v nastavené jednotce, barvy #RRGGBB\n"
+    "  language-check czech|english|SOUBOR   řádky jazykového souboru a kam patří\n";
 
 struct Prikaz {
     const char* nazev;
@@ -46,6 +49,7 @@ const Prikaz prikazy[] = {
     {"offcuts-load", prikazOffcutsLoad}, {"offcuts-list", prikazOffcutsList}, {"backup", prikazBackup},       {"restore", prikazRestore},
     {"pricelist-backup", prikazPricelistBackup}, {"pricelist-restore", prikazPricelistRestore},
     {"check", prikazCheck},                {"import", prikazImport},
+    {"options", prikazOptions},            {"language-check", prikazLanguageCheck},
 };
 
 } // namespace

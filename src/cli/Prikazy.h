@@ -24,3 +24,5 @@ int prikazPurchase(const QStringList& argumenty);
 int prikazQuote(const QStringList& argumenty);
 int prikazWorkshop(const QStringList& argumenty);
 int prikazTotals(const QStringList& argumenty);
+int prikazOptions(const QStringList& argumenty);
+int prikazLanguageCheck(const QStringList& argumenty);

@@ -48,6 +48,13 @@ QString sZbytky()
 
 } // namespace
 
+QStringList konstantyMaterialu()
+{
+    return {QStringLiteral("CutParams=4736"), QStringLiteral("CuttingSpeed=200"), QStringLiteral("SawSpeed=4500"),
+            QStringLiteral("CuttingWide=44"),  QStringLiteral("MaxBudget=1"),       QStringLiteral("Thickness=180"),
+            QStringLiteral("ShortName=MO")};
+}
+
 QString text(Database& dataS, Database& k, const PlanNaStrankach& plan)
 {
     if (Recordset(k, sDeskami(), Recordset::Rozsah::Prvni).eof())
@@ -88,10 +95,7 @@ QString text(Database& dataS, Database& k, const PlanNaStrankach& plan)
       << QStringLiteral("OptiProgram=") + program << QStringLiteral("ExportProgram=") + program
       << QStringLiteral("ImportFormatVersion=") << QString();
     r << QStringLiteral("[MATERIAL]") << QStringLiteral("SheetCount=") + QString::number(tabuli)
-      << QStringLiteral("CutParams=4736") << QStringLiteral("CuttingSpeed=200") << QStringLiteral("SawSpeed=4500")
-      << QStringLiteral("CuttingWide=44") << QStringLiteral("MaxBudget=1") << QStringLiteral("Thickness=180")
-      << QStringLiteral("ShortName=MO")
-      << QStringLiteral("Name=") + (format.eof() ? QString() : format.text(QStringLiteral("Material"))) << QString();
+      << konstantyMaterialu() << QStringLiteral("Name=") + (format.eof() ? QString() : format.text(QStringLiteral("Material"))) << QString();
     r << QStringLiteral("[PARTS]") << QStringLiteral("PrintMode=0")
       << QStringLiteral("Count=") + n(Recordset(k, QStringLiteral("SELECT * FROM SoupisDesek WHERE ID = True  ORDER BY Part Desc "),
                                                 Recordset::Rozsah::Prvni)

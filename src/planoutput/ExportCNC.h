@@ -6,6 +6,7 @@
 #include "planoutput/StrankyNP.h"
 
 #include <QString>
+#include <QStringList>
 
 class Database;
 
@@ -14,6 +15,10 @@ namespace ExportCNC {
 inline const char* Ulozeno = "CNC kód byl uložen";
 inline const char* ChybaPrevodu = "Chyba při převodu!";
 inline const char* NavrhNazvu = "OUT00000.VPF";
+
+// The lines of the material section that are literals of the format, not settings (the options
+// dialog shows them, read-only).
+QStringList konstantyMaterialu();
 
 // The file's text. Empty when the plan has no placed board or no remnant above XZ by YZ
 // (then no file is to be made); numbers Part in SoupisDesek and SoupisZbytku on the way.

@@ -35,8 +35,11 @@ void CiselnePole::focusInEvent(QFocusEvent* e)
 void CiselnePole::focusOutEvent(QFocusEvent* e)
 {
     QLineEdit::focusOutEvent(e);
-    if (m_druh == Druh::Delka)
-        setText(Jednotky::RozmerSJednotkou(text()));
+    if (m_druh != Druh::Delka)
+        return;
+    const QString cislo = Jednotky::CisloZTextu(text().trimmed());
+    const QString t = Jednotky::RozmerSJednotkou(text());
+    setText(t.isEmpty() && m_nula && !cislo.isEmpty() ? cislo + Jednotky::pripona() : t);
 }
 
 double CiselnePole::mm() const

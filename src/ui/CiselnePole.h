@@ -12,6 +12,9 @@ public:
     double mm() const;       // a length in millimetres
     double hodnota() const;  // the number typed
     void nastavMm(double mm); // a length from the store, shown in the unit
+    // A length of 0 keeps "0 mm" when the focus leaves, for fields where 0 is a setting of its
+    // own (a gap, a margin), not an empty entry.
+    void nulaJeHodnota(bool ano) { m_nula = ano; }
 
 protected:
     void keyPressEvent(QKeyEvent* e) override;
@@ -21,4 +24,5 @@ protected:
 private:
     Druh m_druh;
     int m_mist;
+    bool m_nula = false;
 };

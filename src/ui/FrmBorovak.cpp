@@ -15,6 +15,7 @@
 #include "ui/FrmNP.h"
 #include "ui/FrmVSP.h"
 #include "ui/FrmNovy.h"
+#include "ui/FrmOptions.h"
 #include "ui/FrmSklad.h"
 #include "ui/Ikony.h"
 #include "ui/Nabidka.h"
@@ -57,7 +58,8 @@ const QStringList hotove = {
     QStringLiteral("cmdUpravitPM"), QStringLiteral("cmdSmazatPM"), QStringLiteral("cmdImport"),
     QStringLiteral("RychlaKalkulace"), QStringLiteral("KS"), QStringLiteral("NM"), QStringLiteral("CN"),
     QStringLiteral("SMZ"), QStringLiteral("SMDS"), QStringLiteral("Sklad"), QStringLiteral("SO"),
-    QStringLiteral("UlozeniJakoZ"), QStringLiteral("UlozeniSestavyJako")};
+    QStringLiteral("UlozeniJakoZ"), QStringLiteral("UlozeniSestavyJako"), QStringLiteral("Moznosti"),
+    QStringLiteral("cestina"), QStringLiteral("Anglictina")};
 
 // The costing reports by the command that opens them.
 const QHash<QString, DruhVypisu> vypisy = {
@@ -193,6 +195,10 @@ void FrmBorovak::vytvorMenu()
                 auto* a = new QAction(QString::fromUtf8(p.popisek), this);
                 a->setObjectName(QLatin1String(p.nazev));
                 a->setEnabled(hotove.contains(a->objectName()));
+                if (a->objectName() == QLatin1String("cestina") || a->objectName() == QLatin1String("Anglictina")) {
+                    a->setCheckable(true);
+                    a->setChecked(a->objectName() == QLatin1String("cestina"));
+                }
                 connect(a, &QAction::triggered, this, [this, n = a->objectName()] { prikaz(n); });
                 kam->addAction(a);
             }
@@ -471,6 +477,10 @@ void FrmBorovak::prikaz(const QString& nazev)
             ObnovaDat();
         else if (nazev == QLatin1String("Konec"))
             close();
+        else if (nazev == QLatin1String("Moznosti"))
+            otevriMoznosti();
+        else if (nazev == QLatin1String("cestina") || nazev == QLatin1String("Anglictina"))
+            zvolJazyk(nazev == QLatin1String("Anglictina"));
         else if (nazev == QLatin1String("NapovedaObsah"))
             m_prompt.zprava(QStringLiteral("Na aktualizaci nápovědy se pracuje..."), QString(), Prompt::Ikona::Informace);
         else if (nazev == QLatin1String("OProgramu"))
@@ -481,6 +491,12 @@ void FrmBorovak::prikaz(const QString& nazev)
         if (e.cislo() != Chyba::Zruseno)
             m_prompt.zprava(e.text(), QStringLiteral("Chyba"), Prompt::Ikona::Kriticka);
     }
+}
+
+void FrmBorovak::otevriMoznosti()
+{
+    FrmOptions okno(m_prompt, [this] { obnovZakazku(); obnovSestavu(); }, this);
+    okno.exec();
 }
 
 void FrmBorovak::ZahajNP()

@@ -3,6 +3,7 @@
 // grids, the menu bar, the toolbar and the status bar. It routes every command to the routine
 // that carries it out. The selection lives in txtzakazka and txtSestava: writing them refreshes
 // the page, exactly as the hidden text boxes of the old window did.
+#include "core/Jazyk.h"
 #include "orders/Materialy.h"
 #include "orders/Vyber.h"
 
@@ -35,6 +36,12 @@ public:
     void PovolEditaciZakazky();
     void ZakazEditaciSestavy();
     void PovolEditaciSestavy();
+
+    // The captions of the language file that is checked (cestina or Anglictina); on a missing
+    // or damaged file a message, and every caption stays. (FrmBorovakJazyk.cpp)
+    bool NactiJazyk();
+    void nastavPopisek(const Jazyk::Cil& cil, const QString& text);
+    QString popisek(const Jazyk::Cil& cil) const;
 
     // The commands of the menu bar and the toolbar, by entry name.
     void prikaz(const QString& nazev);
@@ -78,6 +85,8 @@ private:
     void NaplnitGridPM(const QString& akce);
     void vyberUzel(QString zakazka, QString sestava); // by value: callers pass the selection itself
     void ZahajNP();
+    void zvolJazyk(bool anglicky);
+    void otevriMoznosti();
     void ZalohaDat();
     void ObnovaDat();
     void obnovGeometrii();

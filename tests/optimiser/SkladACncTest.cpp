@@ -60,8 +60,9 @@ TEST_F(SkladACnc, OdrezkyPouziteOdepsaneAZbytkyPripsane)
         ocekavane[QStringLiteral("%1 x %2").arg(z.cislo(QStringLiteral("XZP")) / 10).arg(z.cislo(QStringLiteral("YZP")) / 10)] += 1;
     ASSERT_GT(ocekavane.size(), 1);
     for (auto it = ocekavane.begin(); it != ocekavane.end(); ++it)
-        if (it.key() != QStringLiteral("250 x 250"))
+        if (it.key() != QStringLiteral("250 x 250")) {
             EXPECT_EQ(it.value() % 2, 0) << it.key().toStdString(); // each remnant twice, one per sheet
+        }
 
     prompt.odpovez(Prompt::Odpoved::Ano);
     ASSERT_TRUE(odepis());

@@ -90,8 +90,9 @@ TEST_F(KopirovaniTest, SestavaDoJineZakazky)
     EXPECT_EQ(radku(db(), m + QStringLiteral("pouziti = 'hrana'")), 2); // the bands, used or not
     for (Recordset r(db(), QStringLiteral("SELECT * FROM Zakazky WHERE Zakazka = 'Chata ''Na Výsluní''' and Sestava = 'Dřez80_'"));
          !r.eof(); r.moveNext())
-        if (r.cislo(QStringLiteral("IDFormat")) > 1)
+        if (r.cislo(QStringLiteral("IDFormat")) > 1) {
             EXPECT_EQ(r.cislo(QStringLiteral("IDFormat")), dtd.cislo(QStringLiteral("ID")));
+        }
 
     ASSERT_EQ(radku(db(), QStringLiteral("SELECT * FROM Zakazky WHERE Zakazka = 'Prázdná' and Sestava = ''")), 1);
     EXPECT_EQ(Kopirovani::KopirovaniSestavy(db(), zdroj, QStringLiteral("Sokl"), QStringLiteral("Prázdná")), QStringLiteral("Sokl"));
