@@ -671,32 +671,35 @@ bool FrmBorovak::eventFilter(QObject* o, QEvent* e)
     }
     if (o == m_tvzakazky->viewport() && e->type() == QEvent::Drop) {
         auto* drop = static_cast<QDropEvent*>(e);
-        QTreeWidgetItem* cil = m_tvzakazky->itemAt(drop->position().toPoint());
-        QTreeWidgetItem* zdroj = m_tvzakazky->currentItem();
         drop->ignore();
-        if (!cil || !zdroj || zdroj->data(0, Qt::UserRole + 1).toString().isEmpty())
-            return true;
-        QTreeWidgetItem* cilovaZakazka = cil->parent() ? cil->parent() : cil;
-        if (cilovaZakazka == zdroj->parent())
-            return true; // on its own order nothing happens
-        // an assembly dropped on another order (or one of its assemblies) is copied there
-        const QString sestava = zdroj->data(0, Qt::UserRole + 1).toString();
-        const QString cilova = cilovaZakazka->text(0);
-        if (m_prompt.zprava(QStringLiteral("Chcete zkopírovat sestavu - ") + sestava + QStringLiteral(" - do zakázky - ") + cilova +
-                                QStringLiteral(" - ?"),
-                            QString(), Prompt::Ikona::Otaznik, Prompt::Tlacitka::AnoNe) != Prompt::Odpoved::Ano)
-            return true;
-        try {
-            const QString nova = Kopirovani::KopirovaniSestavy(m_uloziste.dataS(), zdroj->parent()->text(0), sestava, cilova);
-            m_vyber.setTxtSestava(QString());
-            // the tree is filled again once the drag has ended, not under its feet
-            QTimer::singleShot(0, this, [this, cilova, nova] { vyberUzel(cilova, nova); });
-        } catch (const Error& e) {
-            m_prompt.zprava(e.text(), QStringLiteral("Chyba"), Prompt::Ikona::Kriticka);
-        }
+        pretazeni(m_tvzakazky->currentItem(), m_tvzakazky->itemAt(drop->position().toPoint()));
         return true;
     }
     return QMainWindow::eventFilter(o, e);
+}
+
+void FrmBorovak::pretazeni(QTreeWidgetItem* zdroj, QTreeWidgetItem* cil)
+{
+    if (!cil || !zdroj || zdroj->data(0, Qt::UserRole + 1).toString().isEmpty())
+        return;
+    QTreeWidgetItem* cilovaZakazka = cil->parent() ? cil->parent() : cil;
+    if (cilovaZakazka == zdroj->parent())
+        return; // on its own order nothing happens
+    // an assembly dropped on another order (or one of its assemblies) is copied there
+    const QString sestava = zdroj->data(0, Qt::UserRole + 1).toString();
+    const QString cilova = cilovaZakazka->text(0);
+    if (m_prompt.zprava(QStringLiteral("Chcete zkopírovat sestavu - ") + sestava + QStringLiteral(" - do zakázky - ") + cilova +
+                            QStringLiteral(" - ?"),
+                        QString(), Prompt::Ikona::Otaznik, Prompt::Tlacitka::AnoNe) != Prompt::Odpoved::Ano)
+        return;
+    try {
+        const QString nova = Kopirovani::KopirovaniSestavy(m_uloziste.dataS(), zdroj->parent()->text(0), sestava, cilova);
+        m_vyber.setTxtSestava(QString());
+        // the tree is filled again once the drag has ended, not under its feet
+        QTimer::singleShot(0, this, [this, cilova, nova] { vyberUzel(cilova, nova); });
+    } catch (const Error& e) {
+        m_prompt.zprava(e.text(), QStringLiteral("Chyba"), Prompt::Ikona::Kriticka);
+    }
 }
 
 void FrmBorovak::closeEvent(QCloseEvent* e)

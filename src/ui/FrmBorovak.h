@@ -43,6 +43,9 @@ public:
     void nastavPopisek(const Jazyk::Cil& cil, const QString& text);
     QString popisek(const Jazyk::Cil& cil) const;
 
+    // An assembly node dropped on a node of another order: copied there on Yes.
+    void pretazeni(QTreeWidgetItem* zdroj, QTreeWidgetItem* cil);
+
     // The commands of the menu bar and the toolbar, by entry name.
     void prikaz(const QString& nazev);
     QAction* akce(const QString& nazev) const;
