@@ -32,7 +32,12 @@ const char* const TextPouziti =
     "  import SOUBOR --order ZAKÁZKA --assembly SESTAVA   seznam desek do sestavy\n"
     "  calc|calc-sestavy|purchase|quote NÁZEV [--sestava S]... [--json] [--pdf SOUBOR]\n"
     "  workshop NÁZEV [--sestava S]... [--schemata] [--json] [--pdf SOUBOR]\n"
-    "  totals NÁZEV [--sestava S]    ceny panelů 2 a 3, jedna na řádek\n";
+    "  totals NÁZEV [--sestava S]    ceny panelů 2 a 3, jedna na řádek\n"
+    "  pricelist-load SOUBOR.json    pricelist-dump [--vyber V] [--razeni R]    pricelist-pdf SOUBOR\n"
+    "  picture-add SOUBOR | picture-get IDE VÝSTUP | picture-list | picture-delete IDE\n"
+    "  picture-render IDE VÝSTUP [--fit ŠxV]   (každý s --schema pro knihovnu schemat)\n"
+    "  accessory-add ZAKÁZKA SESTAVA NÁZEV MNOŽSTVÍ [--unit J] [--price C]\n"
+    "  accessory-delete ZAKÁZKA SESTAVA NÁZEV\n";
 
 struct Prikaz {
     const char* nazev;
@@ -46,6 +51,10 @@ const Prikaz prikazy[] = {
     {"offcuts-load", prikazOffcutsLoad}, {"offcuts-list", prikazOffcutsList}, {"backup", prikazBackup},       {"restore", prikazRestore},
     {"pricelist-backup", prikazPricelistBackup}, {"pricelist-restore", prikazPricelistRestore},
     {"check", prikazCheck},                {"import", prikazImport},
+    {"pricelist-load", prikazPricelistLoad}, {"pricelist-dump", prikazPricelistDump}, {"pricelist-pdf", prikazPricelistPdf},
+    {"picture-add", prikazPictureAdd}, {"picture-get", prikazPictureGet}, {"picture-list", prikazPictureList},
+    {"picture-delete", prikazPictureDelete}, {"picture-render", prikazPictureRender},
+    {"accessory-add", prikazAccessoryAdd}, {"accessory-delete", prikazAccessoryDelete},
 };
 
 } // namespace

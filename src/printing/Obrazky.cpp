@@ -121,6 +121,17 @@ void povolVelkeObrazky()
         QImageReader::setAllocationLimit(megabajtu);
 }
 
+// A cut file that the decoders would still show in part: a JPEG whose last scan has no end
+// marker behind it (an EXIF thumbnail's own end comes before), a PNG without its IEND.
+bool useknuty(const QByteArray& data, Format f)
+{
+    if (f == Format::Jpeg)
+        return data.lastIndexOf(QByteArrayView("\xFF\xD9", 2)) < data.lastIndexOf(QByteArrayView("\xFF\xDA", 2));
+    if (f == Format::Png)
+        return !data.contains("IEND");
+    return false;
+}
+
 bool prilisVelky(const QSize& s)
 {
     return qint64(s.width()) * s.height() > NejvicPixelu;
@@ -203,7 +214,7 @@ QString proc(const QByteArray& data, const QString& nazev)
     if (data.size() > NejvicBajtu)
         return prilis;
     const QString neni = QStringLiteral("Soubor „%1“ není obrázek JPG, PNG, BMP, GIF ani WMF, nebo je poškozený.").arg(nazev);
-    if (format(data) == Format::Zadny)
+    if (format(data) == Format::Zadny || useknuty(data, format(data)))
         return neni;
     const QSize s = rozmer(data);
     if (!s.isValid())
