@@ -1,7 +1,8 @@
 # Truhlář: make run (the workbench, or the headless demo without a display), make test.
 BUILD_DIR ?= build
 JOBS ?= $(shell nproc)
-PACKAGES := cmake g++ make qt6-base-dev libsqlite3-dev libgtest-dev libgmock-dev \
+PACKAGES := cmake g++ make qt6-base-dev libsqlite3-dev libgtest-dev libgmock-dev libwmf-dev pkg-config \
+            fonts-urw-base35 \
             fonts-liberation2 fonts-dejavu-core poppler-utils xvfb xauth
 
 .PHONY: deps build run test bench clean

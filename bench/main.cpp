@@ -18,6 +18,11 @@
 
 #include <QGuiApplication>
 #include <QDir>
+#include <QBuffer>
+#include "catalogues/Cenik.h"
+#include "catalogues/Knihovna.h"
+#include "printing/Obrazky.h"
+#include "printing/Vykresleni.h"
 #include <QElapsedTimer>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -102,6 +107,65 @@ void zalohaAImport(Uloziste& u)
     std::fflush(stdout);
 }
 
+// The price list: 10 000 items filled in each order, searched key by key, printed to PDF; a
+// 20 MB JPEG stored, read back, fitted and whole; stepping through 200 pictures.
+void cenik(Uloziste& u, const QString& pdf)
+{
+    BezOtazek ano;
+    std::vector<Cenik::Zadani> polozky;
+    for (int i = 1; i <= 10000; ++i)
+        polozky.push_back({QStringLiteral("Materiál č. %1 dub").arg(i * 7919 % 10007), QString::number(i),
+                           QString::number(1 + i % 997), QStringLiteral("ks"), QStringLiteral("P")});
+    std::printf("%-40s %10.3f\n", "ceník: 10 000 položek uloženo", sekundy([&] { Cenik::nahraj(u.cenik(), ano, polozky); }));
+    for (const char* r : {"nazev", "Kod", "Cena", "Jednotka"})
+        std::printf("%-40s %10.3f\n", (QStringLiteral("ceník: naplnění podle ") + QLatin1String(r)).toUtf8().constData(),
+                    sekundy([&] { Cenik::NaplnitSeznamCeniku(u.cenik(), QStringLiteral("VSE"), QLatin1String(r)); }));
+    const QString hledat = QStringLiteral("č. 12 dub");
+    double nejdele = 0;
+    for (int i = 1; i <= hledat.size(); ++i)
+        nejdele = std::max(nejdele, sekundy([&] { Cenik::hledej(u.cenik(), hledat.left(i)); }));
+    std::printf("%-40s %10.3f\n", "ceník: nejdelší úhoz hledání", nejdele);
+    std::printf("%-40s %10.3f\n", "ceník: tisk do PDF", sekundy([&] {
+                    Dokument d;
+                    Cenik::TiskCeniku(d, u.cenik(), QStringLiteral("VSE"), QStringLiteral("nazev"));
+                    Vykresleni::pdf(d, pdf);
+                }));
+    QImage velky(7000, 5000, QImage::Format_RGB32);
+    for (int y = 0; y < velky.height(); ++y)
+        for (int x = 0; x < velky.width(); ++x)
+            velky.setPixel(x, y, qRgb((x * 31 + y) & 255, (y * 17 ^ x) & 255, (x * y) & 255));
+    QByteArray jpg;
+    QBuffer b(&jpg);
+    b.open(QIODevice::WriteOnly);
+    velky.save(&b, "JPG", 100);
+    int ide = 0;
+    std::printf("%-40s %10.3f (%.1f MB)\n", "obrázek: uložení JPEG", sekundy([&] {
+                    ide = Knihovna::pridej(u.cenik(), ano, Knihovna::Druh::Obrazky, QStringLiteral("velky.jpg"), jpg);
+                }), jpg.size() / 1048576.0);
+    QImage cely;
+    std::printf("%-40s %10.3f\n", "obrázek: načtení a dekódování celého",
+                sekundy([&] { cely = Knihovna::obrazek(u.cenik(), Knihovna::Druh::Obrazky, ide); }));
+    std::printf("%-40s %10.3f\n", "obrázek: načtení a vepsání do 640x480", sekundy([&] {
+                    Obrazky::vepsany(Knihovna::obrazek(u.cenik(), Knihovna::Druh::Obrazky, ide), {640, 480});
+                }));
+    const QByteArray maly = [] {
+        QImage m(800, 600, QImage::Format_RGB32);
+        m.fill(Qt::darkYellow);
+        QByteArray v;
+        QBuffer mb(&v);
+        mb.open(QIODevice::WriteOnly);
+        m.save(&mb, "JPG");
+        return v;
+    }();
+    for (int i = 0; i < 199; ++i)
+        Knihovna::pridej(u.cenik(), ano, Knihovna::Druh::Obrazky, QStringLiteral("m%1.jpg").arg(i), maly);
+    std::printf("%-40s %10.3f\n", "obrázky: krokování 200 záznamů", sekundy([&] {
+                    for (const Knihovna::Zaznam& z : Knihovna::seznam(u.cenik(), Knihovna::Druh::Obrazky))
+                        Obrazky::vepsany(Knihovna::obrazek(u.cenik(), Knihovna::Druh::Obrazky, z.ide), {640, 480});
+                }));
+    std::fflush(stdout);
+}
+
 // calc --pdf and workshop --schemata --pdf on orders of 50, 200 and 500 boards in ten
 // assemblies; the status bar's prices of one order in a store of 200 orders.
 void vypisy(const QString& domov)
@@ -152,6 +216,11 @@ int main(int argc, char** argv)
         return 0;
     Aplikace::nastavDomov(dir.filePath(QStringLiteral("home")));
     Uloziste u(true);
+    if (vyber.removeAll(QStringLiteral("cenik")) || vyber.removeAll(QStringLiteral("jencenik")) || vyber.isEmpty()) {
+        cenik(u, dir.filePath(QStringLiteral("cenik.pdf")));
+        if (app.arguments().contains(QStringLiteral("jencenik")))
+            return 0;
+    }
 
     const std::pair<const char*, ZpusobNP> rezimy[] = {
         {"podelne", ZpusobNP::PodelneRezy}, {"pricne", ZpusobNP::PricneRezy}, {"kombinovane", ZpusobNP::Kombinovane}};

@@ -35,7 +35,12 @@ const char* const TextPouziti =
     "  totals NÁZEV [--sestava S]    ceny panelů 2 a 3, jedna na řádek\n"
     "  options show                  nastavení z okna Možnosti jako JSON\n"
     "  options apply KLÍČ=HODNOTA ...   jako „Použít“: délky v nastavené jednotce, barvy #RRGGBB\n"
-    "  language-check czech|english|SOUBOR   řádky jazykového souboru a kam patří\n";
+    "  language-check czech|english|SOUBOR   řádky jazykového souboru a kam patří\n"
+    "  pricelist-load SOUBOR.json    pricelist-dump [--vyber V] [--razeni R]    pricelist-pdf SOUBOR\n"
+    "  picture-add SOUBOR | picture-get IDE VÝSTUP | picture-list | picture-delete IDE\n"
+    "  picture-render IDE VÝSTUP [--fit ŠxV]   (každý s --schema pro knihovnu schemat)\n"
+    "  accessory-add ZAKÁZKA SESTAVA NÁZEV MNOŽSTVÍ [--unit J] [--price C]\n"
+    "  accessory-delete ZAKÁZKA SESTAVA NÁZEV\n";
 
 struct Prikaz {
     const char* nazev;
@@ -50,6 +55,10 @@ const Prikaz prikazy[] = {
     {"pricelist-backup", prikazPricelistBackup}, {"pricelist-restore", prikazPricelistRestore},
     {"check", prikazCheck},                {"import", prikazImport},
     {"options", prikazOptions},            {"language-check", prikazLanguageCheck},
+    {"pricelist-load", prikazPricelistLoad}, {"pricelist-dump", prikazPricelistDump}, {"pricelist-pdf", prikazPricelistPdf},
+    {"picture-add", prikazPictureAdd}, {"picture-get", prikazPictureGet}, {"picture-list", prikazPictureList},
+    {"picture-delete", prikazPictureDelete}, {"picture-render", prikazPictureRender},
+    {"accessory-add", prikazAccessoryAdd}, {"accessory-delete", prikazAccessoryDelete},
 };
 
 } // namespace

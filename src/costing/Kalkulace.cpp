@@ -9,7 +9,7 @@
 #include "core/Transakce.h"
 #include "core/Uloziste.h"
 #include "costing/PruchodZakazky.h"
-#include "costing/Zaokrouhleni.h"
+#include "core/Zaokrouhleni.h"
 
 #include <QLocale>
 

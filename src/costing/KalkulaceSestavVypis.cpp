@@ -5,7 +5,7 @@
 #include "core/Jednotky.h"
 #include "core/Recordset.h"
 #include "costing/PruchodZakazky.h"
-#include "costing/Zaokrouhleni.h"
+#include "core/Zaokrouhleni.h"
 #include "printing/Operace.h"
 
 #include <cmath>

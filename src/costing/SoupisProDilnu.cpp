@@ -8,7 +8,7 @@
 #include "core/Recordset.h"
 #include "core/Transakce.h"
 #include "costing/PruchodZakazky.h"
-#include "costing/Zaokrouhleni.h"
+#include "core/Zaokrouhleni.h"
 
 namespace Kalkulace {
 namespace {

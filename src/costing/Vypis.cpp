@@ -6,7 +6,7 @@
 #include "core/Recordset.h"
 #include "core/Nastaveni.h"
 #include "core/Razitko.h"
-#include "costing/Zaokrouhleni.h"
+#include "core/Zaokrouhleni.h"
 #include "printing/Obrazky.h"
 
 #include <algorithm>

@@ -133,15 +133,23 @@ Polozka ctiDesku(const CteniJson& d, const std::vector<Material>& materialy, con
     return p;
 }
 
-Polozka ctiPrislusenstvi(const CteniJson& p)
+// Checked as the accessory frame checks: the name's length, a quantity above 0, a price of 0
+// or more, no second item of one name in the assembly.
+Polozka ctiPrislusenstvi(const CteniJson& p, const QJsonObject& o, const std::vector<Polozka>& dosud)
 {
     Polozka pr;
     pr.oznaceni = p.text("oznaceni", true);
     if (pr.oznaceni.size() > MaxNazevPrislusenstvi)
         odmitni(QStringLiteral("%1: Název nového příslušenstvi smí obsahovat maximálně 100 znaků!!!").arg(p.kde()));
+    const QJsonValue mnozstvi = o.value(QStringLiteral("mnozstvi")), cena = o.value(QStringLiteral("cena"));
+    if (!mnozstvi.isDouble() || !(mnozstvi.toDouble() > 0) || (!cena.isUndefined() && (!cena.isDouble() || !(cena.toDouble() >= 0))))
+        odmitni(QStringLiteral("%1: Zadejte množství a cenu číslem.").arg(p.kde()));
     pr.pocet = p.cislo("mnozstvi", 0, 1e9, true);
     pr.jednotka = p.text("jednotka", false);
     pr.cena = p.cislo("cena", 0, 1e9, false);
+    for (const Polozka& d : dosud)
+        if (d.oznaceni.compare(pr.oznaceni, Qt::CaseInsensitive) == 0)
+            odmitni(QStringLiteral("%1: Příslušenství v sestavě již pod tímto názvem existuje, zadejte jiný název !!!").arg(p.kde()));
     return pr;
 }
 
@@ -159,7 +167,8 @@ Sestava ctiSestavu(const CteniJson& s, const std::vector<Material>& materialy)
     for (int j = 0; j < prislusenstvi.size(); ++j)
         sestava.polozky.push_back(ctiPrislusenstvi(CteniJson(prislusenstvi[j],
                                                              QStringLiteral("%1, příslušenství č. %2").arg(kde).arg(j + 1),
-                                                             {"oznaceni", "mnozstvi", "jednotka", "cena"})));
+                                                             {"oznaceni", "mnozstvi", "jednotka", "cena"}),
+                                                     prislusenstvi[j].toObject(), sestava.polozky));
     return sestava;
 }
 

@@ -59,7 +59,11 @@ const QStringList hotove = {
     QStringLiteral("RychlaKalkulace"), QStringLiteral("KS"), QStringLiteral("NM"), QStringLiteral("CN"),
     QStringLiteral("SMZ"), QStringLiteral("SMDS"), QStringLiteral("Sklad"), QStringLiteral("SO"),
     QStringLiteral("UlozeniJakoZ"), QStringLiteral("UlozeniSestavyJako"), QStringLiteral("Moznosti"),
-    QStringLiteral("cestina"), QStringLiteral("Anglictina")};
+    QStringLiteral("cestina"), QStringLiteral("Anglictina"),
+    QStringLiteral("NoveP"),
+    QStringLiteral("UpraveniP"), QStringLiteral("SmazaniP"), QStringLiteral("cmdNovePrislusenstvi"),
+    QStringLiteral("cmdUpravitPrislusenstvi"), QStringLiteral("cmdSmazatPrislusenstvi"), QStringLiteral("CTM"),
+    QStringLiteral("DSS"), QStringLiteral("DOC")};
 
 // The costing reports by the command that opens them.
 const QHash<QString, DruhVypisu> vypisy = {
@@ -170,6 +174,7 @@ FrmBorovak::FrmBorovak(Uloziste& uloziste, Prompt& prompt) : m_uloziste(uloziste
 
     connect(&m_vyber, &Vyber::zmenaZakazky, this, &FrmBorovak::obnovZakazku);
     connect(&m_vyber, &Vyber::zmenaSestavy, this, &FrmBorovak::obnovSestavu);
+    pripojKatalog();
     NaplnitStrom();
     obnovGeometrii();
     ZakazEditaciZakazky();
@@ -266,7 +271,8 @@ QWidget* FrmBorovak::vytvorStranku(const char* nazevRamce1, const QString& titul
         connect(grid, &QTableWidget::cellDoubleClicked, this, [this, nazevGridu] {
             static const QHash<QString, QString> upravy = {{QStringLiteral("GridFormaty"), QStringLiteral("UF")},
                                                            {QStringLiteral("GridHrany"), QStringLiteral("UH")},
-                                                           {QStringLiteral("GPM"), QStringLiteral("UpraveniPM")}};
+                                                           {QStringLiteral("GPM"), QStringLiteral("UpraveniPM")},
+                                                           {QStringLiteral("GPR"), QStringLiteral("UpraveniP")}};
             if (upravy.contains(nazevGridu))
                 prikaz(upravy.value(nazevGridu));
         });
@@ -424,7 +430,8 @@ void FrmBorovak::obnovSestavu()
         m_panel[0]->setToolTip(QStringLiteral("Poznámka k sestavě"));
     }
     NaplnitGridPM(QStringLiteral("Novy zaznam"));
-    m_GPR->setRowCount(0);
+    NaplnitGridPR(QStringLiteral("Novy zaznam"));
+    NactiSchema();
     if (!m_AktSestava.isEmpty())
         PovolEditaciSestavy();
     else
@@ -453,7 +460,7 @@ void FrmBorovak::obnovCeny()
 void FrmBorovak::prikaz(const QString& nazev)
 {
     try {
-        if (zaznam(nazev))
+        if (zaznam(nazev) || katalog(nazev))
             return;
         if (nazev == QLatin1String("NP"))
             ZahajNP();

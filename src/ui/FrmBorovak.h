@@ -86,6 +86,14 @@ private:
     void NaplnitGridFormaty(const QString& akce);
     void NaplnitGridHrany(const QString& akce);
     void NaplnitGridPM(const QString& akce);
+    // the accessories, the price list and the libraries (FrmBorovakKatalog.cpp)
+    bool katalog(const QString& nazev);
+    void pripojKatalog();
+    void NovePrislusenstvi();
+    void UpravitPrislusenstvi();
+    void SmazatPrislusenstvi();
+    void NaplnitGridPR(const QString& akce);
+    void NactiSchema();
     void vyberUzel(QString zakazka, QString sestava); // by value: callers pass the selection itself
     void ZahajNP();
     void zvolJazyk(bool anglicky);

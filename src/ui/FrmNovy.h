@@ -8,6 +8,7 @@
 #include "optimiser/PlanRun.h"
 #include "orders/Desky.h"
 #include "orders/Materialy.h"
+#include "orders/Prislusenstvi.h"
 #include "orders/Zakazky.h"
 
 #include <functional>
@@ -64,6 +65,13 @@ public:
     // fraNSklad: a new offcut (tag "NovyOdrezek", the fields emptied after each good save) or
     // the edit of one.
     void odrezek(const QString& tag, const Sklad::Odrezek& o, const std::function<PoUlozeni(const Sklad::Odrezek&)>& ulozit);
+
+    // fraPřís: an accessory (tag "" new, kept open for a series; "UP" an edit). The name combo
+    // lists the price list's names; choosing one asks zCeniku for its price and unit.
+    void prislusenstvi(const QString& tag, const QStringList& nazvy, const QStringList& jednotky,
+                       const Prislusenstvi::Polozka& p,
+                       const std::function<std::optional<Prislusenstvi::Polozka>(const QString&)>& zCeniku,
+                       const std::function<PoUlozeni(const Prislusenstvi::Zadani&)>& ulozit);
 
     // fraKalkulace: the order's assemblies as the tree shows them, all selected, for the report
     // named vypis; the rows chosen, or nothing when the dialog was left by Zpět.

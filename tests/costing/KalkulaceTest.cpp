@@ -4,7 +4,7 @@
 #include "core/Recordset.h"
 #include "costing/Kalkulace.h"
 #include "costing/KalkulaceZakazkyVypis.h"
-#include "costing/Zaokrouhleni.h"
+#include "core/Zaokrouhleni.h"
 #include "exchange/ZakazkaJson.h"
 
 #include <QFile>

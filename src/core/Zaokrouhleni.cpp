@@ -1,4 +1,4 @@
-#include "costing/Zaokrouhleni.h"
+#include "core/Zaokrouhleni.h"
 
 #include "core/Val.h"
 

@@ -1,0 +1,92 @@
+#include "catalogues/Knihovna.h"
+
+#include "core/Database.h"
+#include "core/Dotaz.h"
+#include "core/Prompt.h"
+#include "core/Recordset.h"
+#include "core/Transakce.h"
+#include "printing/Obrazky.h"
+
+namespace Knihovna {
+
+QString tabulka(Druh druh)
+{
+    return druh == Druh::Obrazky ? QStringLiteral("Obrazky") : QStringLiteral("Schemata");
+}
+
+std::vector<Zaznam> seznam(Database& db, Druh druh)
+{
+    std::vector<Zaznam> v;
+    const auto p = db.prikaz(QStringLiteral("SELECT IDE, nazev FROM %1 ORDER BY rowid").arg(tabulka(druh)));
+    while (p->krok())
+        v.push_back({p->sloupec(0).toInt(), p->sloupec(1).toString()});
+    p->reset();
+    return v;
+}
+
+std::optional<QByteArray> data(Database& db, Druh druh, int ide)
+{
+    const Recordset r(db, QStringLiteral("select * FROM ") + tabulka(druh) + QStringLiteral(" where IDE = ") + Dotaz::cislo(ide),
+                      Recordset::Rozsah::Prvni);
+    if (r.eof())
+        return std::nullopt;
+    return r.value(QStringLiteral("OBR")).toByteArray();
+}
+
+QImage obrazek(Database& db, Druh druh, int ide)
+{
+    const auto bajty = data(db, druh, ide);
+    return bajty ? Obrazky::dekoduj(*bajty) : QImage();
+}
+
+int pridej(Database& db, Prompt& prompt, Druh druh, const QString& nazev, const QByteArray& bajty)
+{
+    const QString proc = Obrazky::proc(bajty, nazev);
+    if (!proc.isEmpty()) {
+        prompt.zprava(proc, QStringLiteral("Uložení nového obrázku"), Prompt::Ikona::Kriticka);
+        return 0;
+    }
+    Transakce t(db);
+    const QVariant nejvyssi = db.hodnota(QStringLiteral("SELECT max(IDE ) FROM ") + tabulka(druh));
+    const int ide = nejvyssi.isNull() ? 1 : nejvyssi.toInt() + 1;
+    // the bytes are bound: a picture never passes through the query's text
+    db.executeSqlite(QStringLiteral("INSERT INTO %1 (IDE, nazev, OBR) VALUES (?, ?, ?)").arg(tabulka(druh)),
+                     {ide, nazev, bajty});
+    t.commit();
+    return ide;
+}
+
+bool smaz(Database& db, Druh druh, int ide)
+{
+    Transakce t(db);
+    Recordset r(db, QStringLiteral("select * FROM ") + tabulka(druh) + QStringLiteral(" where IDE = ") + Dotaz::cislo(ide));
+    const bool byl = !r.eof();
+    for (; !r.eof(); r.moveNext())
+        r.remove();
+    if (druh == Druh::Obrazky)
+        for (const char* pole : {"obr1", "obr2"})
+            for (Recordset c(db, QStringLiteral("select * FROM Cenik where ") + QLatin1String(pole) + QStringLiteral(" = ") +
+                                     Dotaz::cislo(ide));
+                 !c.eof(); c.moveNext()) {
+                c.edit();
+                c.set(QLatin1String(pole), 0);
+                c.update();
+            }
+    t.commit();
+    return byl;
+}
+
+QImage NactiSchema(Database& dataS, Database& cenik, const QString& zakazka, const QString& sestava)
+{
+    if (zakazka.isEmpty() || sestava.isEmpty())
+        return {};
+    const Recordset r(dataS,
+                      QStringLiteral("SELECT * FROM Zakazky  WHERE Zakazka = '") + Dotaz::text(zakazka) +
+                          QStringLiteral("' and Sestava = '") + Dotaz::text(sestava) + QStringLiteral("' ORDER BY Sestava"),
+                      Recordset::Rozsah::Prvni);
+    if (r.eof() || r.cislo(QStringLiteral("schema")) == 0)
+        return {};
+    return obrazek(cenik, Druh::Schemata, int(r.cislo(QStringLiteral("schema"))));
+}
+
+}

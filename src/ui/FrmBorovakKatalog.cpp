@@ -1,0 +1,152 @@
+// The main window's accessories (GPR and fraPřís), its schema picture img1, and the price list
+// and library windows of the Doplňky menu.
+#include "ui/FrmBorovak.h"
+
+#include "catalogues/Cenik.h"
+#include "catalogues/Knihovna.h"
+#include "core/Nastaveni.h"
+#include "core/Uloziste.h"
+#include "orders/Prislusenstvi.h"
+#include "printing/Obrazky.h"
+#include "ui/FrmCenik.h"
+#include "ui/FrmNovy.h"
+#include "ui/FrmObr.h"
+
+#include <QAction>
+#include <QLabel>
+#include <QSplitter>
+#include <QTableWidget>
+
+bool FrmBorovak::katalog(const QString& n)
+{
+    if (n == QLatin1String("NoveP") || n == QLatin1String("cmdNovePrislusenstvi"))
+        NovePrislusenstvi();
+    else if (n == QLatin1String("UpraveniP") || n == QLatin1String("cmdUpravitPrislusenstvi"))
+        UpravitPrislusenstvi();
+    else if (n == QLatin1String("SmazaniP") || n == QLatin1String("cmdSmazatPrislusenstvi"))
+        SmazatPrislusenstvi();
+    else if (n == QLatin1String("CTM")) {
+        FrmCenik cenik(m_uloziste.cenik(), m_prompt, this);
+        cenik.exec();
+    } else if (n == QLatin1String("DSS") || n == QLatin1String("DOC")) {
+        FrmObr okno(m_uloziste.cenik(), m_prompt, n == QLatin1String("DSS") ? Knihovna::Druh::Schemata : Knihovna::Druh::Obrazky,
+                    0, false, this);
+        okno.exec();
+        NactiSchema();
+    } else
+        return false;
+    return true;
+}
+
+void FrmBorovak::pripojKatalog()
+{
+    for (auto* s : findChildren<QSplitter*>())
+        connect(s, &QSplitter::splitterMoved, this, &FrmBorovak::NactiSchema);
+}
+
+void FrmBorovak::NaplnitGridPR(const QString& akce)
+{
+    const int predtim = m_GPR->currentRow();
+    const auto radky = m_AktSestava.isEmpty()
+                           ? std::vector<Prislusenstvi::Polozka>{}
+                           : Prislusenstvi::NaplnitGridPR(m_uloziste.dataS(), m_vyber.txtzakazka(), m_vyber.txtSestava());
+    const QString mena = Nastaveni::GetSetting(QStringLiteral("Setting2"), QStringLiteral("Mena"));
+    m_GPR->setRowCount(int(radky.size()));
+    for (int i = 0; i < int(radky.size()); ++i) {
+        const QStringList bunky = {radky[i].oznaceni, Prislusenstvi::textMnozstvi(radky[i]),
+                                   Prislusenstvi::textCeny(radky[i], mena)};
+        for (int j = 0; j < bunky.size() && j < m_GPR->columnCount(); ++j)
+            m_GPR->setItem(i, j, new QTableWidgetItem(bunky[j]));
+    }
+    if (m_GPR->rowCount() > 0) {
+        const bool novy = akce == QLatin1String("Novy zaznam");
+        m_GPR->selectRow(novy || predtim < 0 ? m_GPR->rowCount() - 1 : qMin(predtim, m_GPR->rowCount() - 1));
+    }
+    const bool radek = m_GPR->rowCount() > 0 && !m_AktSestava.isEmpty();
+    povol({QStringLiteral("UpraveniP"), QStringLiteral("SmazaniP"), QStringLiteral("cmdUpravitPrislusenstvi"),
+           QStringLiteral("cmdSmazatPrislusenstvi"), QStringLiteral("tbUPR"), QStringLiteral("tbOPR")},
+          radek);
+    povol({QStringLiteral("cmdNovePrislusenstvi"), QStringLiteral("NoveP"), QStringLiteral("tbNPR")}, !m_AktSestava.isEmpty());
+}
+
+void FrmBorovak::NovePrislusenstvi()
+{
+    const QString zakazka = m_vyber.txtzakazka(), sestava = m_vyber.txtSestava();
+    if (sestava.isEmpty())
+        return;
+    Database& cenik = m_uloziste.cenik();
+    QStringList jednotkyCeniku;
+    for (const Cenik::Polozka& p : Cenik::NaplnCenik(cenik, QStringLiteral("VSE"), QStringLiteral("Jednotka")))
+        jednotkyCeniku << p.jednotka;
+    FrmNovy d(this);
+    auto zCeniku = [&cenik](const QString& nazev) -> std::optional<Prislusenstvi::Polozka> {
+        const auto p = Cenik::nacti(cenik, nazev);
+        if (!p)
+            return std::nullopt;
+        Prislusenstvi::Polozka v;
+        v.oznaceni = p->nazev;
+        v.jednotka = p->jednotka;
+        v.cena = p->cena;
+        return v;
+    };
+    d.prislusenstvi(QString(), Cenik::NaplnitSeznamCeniku(cenik, Cenik::ulozenyVyber(), Cenik::ulozeneRazeni()),
+                    Prislusenstvi::jednotky(jednotkyCeniku), {}, zCeniku, [&](const Prislusenstvi::Zadani& z) {
+                        if (!Prislusenstvi::UlozitPrislusenstvi(m_uloziste.dataS(), m_prompt, d.Tag, zakazka, sestava, z))
+                            return FrmNovy::PoUlozeni::Odmitnuto;
+                        NaplnitGridPR(QStringLiteral("Novy zaznam"));
+                        obnovCeny();
+                        return FrmNovy::PoUlozeni::Dalsi;
+                    });
+}
+
+void FrmBorovak::UpravitPrislusenstvi()
+{
+    const int r = m_GPR->currentRow();
+    if (r < 0 || !m_GPR->item(r, 0))
+        return;
+    const QString zakazka = m_vyber.txtzakazka(), sestava = m_vyber.txtSestava();
+    Database& cenik = m_uloziste.cenik();
+    const Prislusenstvi::Polozka p = Prislusenstvi::UpravitPrislusenstvi(m_uloziste.dataS(), zakazka, sestava, m_GPR->item(r, 0)->text());
+    FrmNovy d(this);
+    d.prislusenstvi(QLatin1String(Prislusenstvi::TagUprava),
+                    Cenik::NaplnitSeznamCeniku(cenik, Cenik::ulozenyVyber(), Cenik::ulozeneRazeni()),
+                    Prislusenstvi::jednotky({}), p,
+                    [&cenik](const QString& nazev) -> std::optional<Prislusenstvi::Polozka> {
+                        const auto c = Cenik::nacti(cenik, nazev);
+                        if (!c)
+                            return std::nullopt;
+                        Prislusenstvi::Polozka v;
+                        v.jednotka = c->jednotka;
+                        v.cena = c->cena;
+                        return v;
+                    },
+                    [&](const Prislusenstvi::Zadani& z) {
+                        if (!Prislusenstvi::UlozitPrislusenstvi(m_uloziste.dataS(), m_prompt, d.Tag, zakazka, sestava, z))
+                            return FrmNovy::PoUlozeni::Odmitnuto;
+                        NaplnitGridPR(QStringLiteral("Upravení záznamu"));
+                        obnovCeny();
+                        return FrmNovy::PoUlozeni::Zavrit;
+                    });
+}
+
+void FrmBorovak::SmazatPrislusenstvi()
+{
+    const int r = m_GPR->currentRow();
+    if (r < 0 || !m_GPR->item(r, 0))
+        return;
+    if (Prislusenstvi::SmazatPrislusenstvi(m_uloziste.dataS(), m_prompt, m_vyber.txtzakazka(), m_vyber.txtSestava(),
+                                           m_GPR->item(r, 0)->text())) {
+        NaplnitGridPR(QStringLiteral("Odstraneni zaznamu"));
+        obnovCeny();
+    }
+}
+
+void FrmBorovak::NactiSchema()
+{
+    const QImage obr = Knihovna::NactiSchema(m_uloziste.dataS(), m_uloziste.cenik(), m_vyber.txtzakazka(), m_AktSestava);
+    if (obr.isNull()) {
+        m_img1->clear();
+        return;
+    }
+    m_img1->setPixmap(QPixmap::fromImage(Obrazky::vepsany(obr, m_img1->contentsRect().size())));
+}

@@ -1,0 +1,263 @@
+#include "ui/FrmCenik.h"
+
+#include "catalogues/Cenik.h"
+#include "catalogues/Knihovna.h"
+#include "core/Error.h"
+#include "core/Nastaveni.h"
+#include "core/Prompt.h"
+#include "printing/Obrazky.h"
+#include "ui/FrmObr.h"
+#include "ui/FrmVSP.h"
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QEvent>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollArea>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+namespace {
+
+const char* const razeni[][2] = {{"nazev", "Název"}, {"Kod", "Kód"}, {"Cena", "Cena"}, {"Jednotka", "Jednotka"}};
+const char* const vybery[][2] = {{"PM", "Plošný materiál"}, {"H", "Hrany"}, {"P", "Příslušenství"}, {"VSE", "Vše"}};
+
+} // namespace
+
+FrmCenik::FrmCenik(Database& cenik, Prompt& prompt, QWidget* rodic) : QDialog(rodic), m_cenik(cenik), m_prompt(prompt)
+{
+    setObjectName(QStringLiteral("frmCenik"));
+    setWindowTitle(QStringLiteral("Ceník borováckých materiálů"));
+    auto* nastroje = new QToolBar;
+    for (auto [klic, text] : {std::pair{"NPoložka", "Nová položka"}, {"UPoložky", "Upravit položku"}, {"OPoložky", "Odstranit položku"},
+                              {"ZD", "Záloha ceníku"}, {"OZ", "Obnova ceníku"}, {"TiskPC", "Tisk ceníku"}, {"Konec", "Konec"}}) {
+        QAction* a = nastroje->addAction(QString::fromUtf8(text));
+        a->setObjectName(QString::fromUtf8(klic));
+        a->setEnabled(QString::fromUtf8(klic) != QLatin1String("ZD") && QString::fromUtf8(klic) != QLatin1String("OZ"));
+        connect(a, &QAction::triggered, this, [this, k = QString::fromUtf8(klic)] { prikaz(k); });
+    }
+    m_lstCenik = new QListWidget;
+    m_lstCenik->setObjectName(QStringLiteral("lstCenik"));
+    m_lstCenik->setToolTip(QStringLiteral("kliknutím zobrazíte detail vybraného materiálu"));
+    m_lstCenik->setMinimumWidth(300);
+    connect(m_lstCenik, &QListWidget::currentTextChanged, this, &FrmCenik::detail);
+    m_chVyber = new QCheckBox(QStringLiteral("Vyhledat:"));
+    m_chVyber->setObjectName(QStringLiteral("chVyber"));
+    m_txtMaterial = new QLineEdit;
+    m_txtMaterial->setObjectName(QStringLiteral("txtMaterial"));
+    connect(m_txtMaterial, &QLineEdit::textChanged, this, &FrmCenik::NaplnCenik);
+    connect(m_chVyber, &QCheckBox::toggled, this, &FrmCenik::NaplnCenik);
+    auto skupinaRadiu = [this](const QString& titulek, const char* const (*volby)[2], bool jeRazeni) {
+        auto* box = new QGroupBox(titulek);
+        auto* l = new QVBoxLayout(box);
+        const QString ulozene = jeRazeni ? Cenik::ulozeneRazeni() : Cenik::ulozenyVyber();
+        for (int i = 0; i < 4; ++i) {
+            auto* r = new QRadioButton(QString::fromUtf8(volby[i][1]));
+            r->setObjectName(QStringLiteral("opt") + QLatin1String(volby[i][0]));
+            r->setChecked(ulozene == QLatin1String(volby[i][0]));
+            connect(r, &QRadioButton::toggled, this, [this, r, hodnota = QString::fromLatin1(volby[i][0]), jeRazeni](bool ano) {
+                if (!ano)
+                    return; // VyberRazeniCeniku: saved at once, then the list again
+                Cenik::VyberRazeniCeniku(jeRazeni ? Cenik::ulozenyVyber() : hodnota, jeRazeni ? hodnota : Cenik::ulozeneRazeni());
+                NaplnCenik();
+            });
+            l->addWidget(r);
+        }
+        return box;
+    };
+    m_lblKod = new QLabel;
+    m_lblKod->setObjectName(QStringLiteral("lblKod"));
+    m_lblCena = new QLabel;
+    m_lblCena->setObjectName(QStringLiteral("lblCena"));
+    m_lblCenaDPH = new QLabel;
+    m_lblCenaDPH->setObjectName(QStringLiteral("lblCenaDPH"));
+    m_lblDPH = new QLabel(QStringLiteral("Cena s DPH (") + Nastaveni::GetSetting(QStringLiteral("Setting2"), QStringLiteral("DPH")) +
+                          QStringLiteral("%)"));
+    auto* detailBox = new QGroupBox(QStringLiteral("Detail položky"));
+    auto* f = new QFormLayout(detailBox);
+    f->addRow(QStringLiteral("Kód:"), m_lblKod);
+    f->addRow(QStringLiteral("Cena bez DPH:"), m_lblCena);
+    f->addRow(m_lblDPH, m_lblCenaDPH);
+    auto* obrazky = new QHBoxLayout;
+    for (int i = 0; i < 2; ++i) {
+        m_img[i] = new QLabel;
+        m_img[i]->setObjectName(QStringLiteral("img1_%1").arg(i));
+        m_img[i]->setFixedSize(160, 120);
+        m_img[i]->setAlignment(Qt::AlignCenter);
+        m_img[i]->setFrameShape(QFrame::StyledPanel);
+        m_img[i]->setToolTip(QStringLiteral("kliknutím zobrazíte detail vybraného materiálu"));
+        m_img[i]->installEventFilter(this);
+        obrazky->addWidget(m_img[i]);
+    }
+    f->addRow(obrazky);
+    auto* hledani = new QHBoxLayout;
+    hledani->addWidget(m_chVyber);
+    hledani->addWidget(m_txtMaterial);
+    auto* vlevo = new QVBoxLayout;
+    vlevo->addLayout(hledani);
+    vlevo->addWidget(m_lstCenik, 1);
+    auto* vpravo = new QVBoxLayout;
+    auto* radia = new QHBoxLayout;
+    radia->addWidget(skupinaRadiu(QStringLiteral("Řazení"), razeni, true));
+    radia->addWidget(skupinaRadiu(QStringLiteral("Zobrazit"), vybery, false));
+    vpravo->addLayout(radia);
+    vpravo->addWidget(detailBox);
+    vpravo->addStretch();
+    auto* telo = new QHBoxLayout;
+    telo->addLayout(vlevo, 1);
+    telo->addLayout(vpravo);
+    auto* l = new QVBoxLayout(this);
+    l->addWidget(nastroje);
+    l->addLayout(telo);
+    NaplnCenik();
+}
+
+void FrmCenik::NaplnCenik()
+{
+    const QString predtim = m_lstCenik->currentItem() ? m_lstCenik->currentItem()->text() : QString();
+    m_lstCenik->clear();
+    m_lstCenik->addItems(m_chVyber->isChecked() ? Cenik::hledej(m_cenik, m_txtMaterial->text())
+                                                : Cenik::NaplnitSeznamCeniku(m_cenik, Cenik::ulozenyVyber(), Cenik::ulozeneRazeni()));
+    const auto nalezene = m_lstCenik->findItems(predtim, Qt::MatchExactly);
+    m_lstCenik->setCurrentRow(nalezene.isEmpty() ? 0 : m_lstCenik->row(nalezene.first()));
+}
+
+void FrmCenik::detail(const QString& nazev)
+{
+    const auto p = Cenik::nacti(m_cenik, nazev);
+    const double dph = Nastaveni::cislo(QStringLiteral("Setting2"), QStringLiteral("DPH"));
+    const QString mena = Nastaveni::GetSetting(QStringLiteral("Setting2"), QStringLiteral("Mena"));
+    m_lblKod->setText(p ? QString::number(p->kod) : QString());
+    m_lblCena->setText(p ? Cenik::textCeny(p->cena, mena, p->jednotka) : QString());
+    m_lblCenaDPH->setText(p ? Cenik::textCeny(Cenik::cenaSDPH(p->cena, dph), mena, p->jednotka) : QString());
+    m_obr[0] = p ? p->obr1 : 0;
+    m_obr[1] = p ? p->obr2 : 0;
+    for (int i = 0; i < 2; ++i) {
+        const QImage obr = m_obr[i] ? Knihovna::obrazek(m_cenik, Knihovna::Druh::Obrazky, m_obr[i]) : QImage();
+        if (obr.isNull())
+            m_img[i]->clear();
+        else
+            m_img[i]->setPixmap(QPixmap::fromImage(Obrazky::vepsany(obr, m_img[i]->size())));
+    }
+}
+
+void FrmCenik::prikaz(const QString& klic)
+{
+    const QString nazev = m_lstCenik->currentItem() ? m_lstCenik->currentItem()->text() : QString();
+    try {
+        if (klic == QStringLiteral("NPoložka"))
+            polozka(QString());
+        else if (klic == QStringLiteral("UPoložky") && !nazev.isEmpty())
+            polozka(nazev);
+        else if (klic == QStringLiteral("OPoložky") && !nazev.isEmpty()) {
+            if (Cenik::SmazatPolozku(m_cenik, m_prompt, nazev))
+                NaplnCenik();
+        } else if (klic == QLatin1String("TiskPC")) {
+            FrmVSP vsp(m_prompt, this);
+            vsp.setWindowTitle(QString::fromUtf8(Cenik::TitulekVypisu));
+            Cenik::TiskCeniku(vsp.dokument(), m_cenik, Cenik::ulozenyVyber(), Cenik::ulozeneRazeni());
+            vsp.obnov();
+            vsp.exec();
+        } else if (klic == QLatin1String("Konec"))
+            close();
+    } catch (const Error& e) {
+        m_prompt.zprava(e.text(), QStringLiteral("Chyba"), Prompt::Ikona::Kriticka);
+    }
+}
+
+bool FrmCenik::polozka(const QString& staryNazev)
+{
+    QDialog d(this);
+    d.setObjectName(QStringLiteral("frmPolozka"));
+    d.setWindowTitle(staryNazev.isNull() ? QStringLiteral(" Přidání nové položky ...") : QStringLiteral(" Upravení položky ..."));
+    const Cenik::Polozka p = staryNazev.isNull() ? Cenik::Polozka{} : Cenik::nacti(m_cenik, staryNazev).value_or(Cenik::Polozka{});
+    auto* nazev = new QLineEdit(p.nazev);
+    nazev->setObjectName(QStringLiteral("txtNazev"));
+    nazev->setMaxLength(Cenik::MaxNazev + 1);
+    nazev->setMinimumWidth(300);
+    auto* kod = new QLineEdit(p.kod ? QString::number(p.kod) : QString());
+    kod->setObjectName(QStringLiteral("txtKod"));
+    auto* cena = new QLineEdit(staryNazev.isNull() ? QString() : QString::number(p.cena, 'f', 2));
+    cena->setObjectName(QStringLiteral("txtCena"));
+    auto* sDph = new QLabel;
+    sDph->setObjectName(QStringLiteral("lblCenaDPH"));
+    auto* jednotka = new QComboBox;
+    jednotka->setObjectName(QStringLiteral("txtJednotka"));
+    for (const char* j : Cenik::NazvyJednotek)
+        jednotka->addItem(QString::fromUtf8(j));
+    jednotka->setEditable(true);
+    jednotka->setCurrentText(p.jednotka.isEmpty() ? QStringLiteral("ks") : p.jednotka);
+    auto* skupiny = new QButtonGroup(&d);
+    auto* radia = new QHBoxLayout;
+    for (int i = 0; i < 3; ++i) {
+        auto* r = new QRadioButton(QString::fromUtf8(vybery[i][1]));
+        r->setObjectName(QStringLiteral("opt") + QLatin1String(vybery[i][0]));
+        r->setChecked(p.skupina == QLatin1String(vybery[i][0]) || (p.skupina.isEmpty() && i == 0));
+        skupiny->addButton(r, i);
+        radia->addWidget(r);
+    }
+    int obr[2] = {p.obr1, p.obr2};
+    QLabel* lblO[2];
+    auto* obrazky = new QHBoxLayout;
+    for (int i = 0; i < 2; ++i) {
+        lblO[i] = new QLabel(obr[i] ? QString::number(obr[i]) : QString());
+        lblO[i]->setObjectName(QStringLiteral("lblO%1").arg(i + 1));
+        auto* b = new QPushButton(QStringLiteral("Obrázek %1...").arg(i + 1));
+        connect(b, &QPushButton::clicked, &d, [&, i] {
+            // the caller's mark: "N" for the first picture, "D" for the second
+            FrmObr okno(m_cenik, m_prompt, Knihovna::Druh::Obrazky, obr[i], true, &d);
+            okno.setProperty("Tag", i == 0 ? QStringLiteral("N") : QStringLiteral("D"));
+            if (okno.exec() == QDialog::Accepted && okno.volba()) {
+                obr[i] = *okno.volba();
+                lblO[i]->setText(obr[i] ? QString::number(obr[i]) : QString());
+            }
+        });
+        obrazky->addWidget(b);
+        obrazky->addWidget(lblO[i]);
+    }
+    auto ukazDph = [&] {
+        bool ok = false;
+        const double c = QString(cena->text()).replace(QLatin1Char(','), QLatin1Char('.')).toDouble(&ok);
+        sDph->setText(ok ? QString::number(Cenik::cenaSDPH(c, Nastaveni::cislo(QStringLiteral("Setting2"), QStringLiteral("DPH"))), 'f', 2)
+                         : QString());
+    };
+    ukazDph();
+    connect(cena, &QLineEdit::textChanged, &d, ukazDph);
+    auto* f = new QFormLayout;
+    f->addRow(QStringLiteral("Název:"), nazev);
+    f->addRow(QStringLiteral("Kód:"), kod);
+    f->addRow(QStringLiteral("Cena bez DPH:"), cena);
+    f->addRow(QStringLiteral("Cena položky s DPH"), sDph);
+    f->addRow(QStringLiteral("Jednotka:"), jednotka);
+    f->addRow(QStringLiteral("Zařazení:"), radia);
+    f->addRow(QStringLiteral("Obrázky:"), obrazky);
+    auto* tlacitka = new QDialogButtonBox(QDialogButtonBox::Save | QDialogButtonBox::Cancel);
+    tlacitka->button(QDialogButtonBox::Save)->setText(QStringLiteral("Uložit"));
+    tlacitka->button(QDialogButtonBox::Cancel)->setText(QStringLiteral("Zpět"));
+    connect(tlacitka, &QDialogButtonBox::rejected, &d, &QDialog::reject);
+    connect(tlacitka, &QDialogButtonBox::accepted, &d, [&] {
+        const Cenik::Zadani z{nazev->text(), kod->text(), cena->text(), jednotka->currentText(),
+                              QLatin1String(vybery[qMax(0, skupiny->checkedId())][0]), obr[0], obr[1]};
+        if (Cenik::UlozitPolozku(m_cenik, m_prompt, staryNazev, z))
+            d.accept();
+    });
+    auto* l = new QVBoxLayout(&d);
+    l->addLayout(f);
+    l->addWidget(tlacitka);
+    const bool ulozeno = d.exec() == QDialog::Accepted;
+    if (ulozeno) {
+        NaplnCenik();
+        if (const auto n = m_lstCenik->findItems(nazev->text(), Qt::MatchFixedString); !n.isEmpty())
+            m_lstCenik->setCurrentItem(n.first());
+    }
+    return ulozeno;
+}

@@ -1,0 +1,40 @@
+#pragma once
+// frmCenik: the price list lstCenik in the chosen group and order (both saved at once), the
+// search, the chosen item's detail with its two pictures, and the keys for a new item, an edit
+// (frmPolozka), deletion and the printed list. frmPolozka is the small item form inside.
+#include <QDialog>
+
+class Database;
+class Prompt;
+class QCheckBox;
+class QLabel;
+class QLineEdit;
+class QListWidget;
+
+class FrmCenik : public QDialog {
+    Q_OBJECT
+public:
+    FrmCenik(Database& cenik, Prompt& prompt, QWidget* rodic);
+
+    void NaplnCenik();
+    void prikaz(const QString& klic); // NPoložka, UPoložky, OPoložky, TiskPC, Konec
+    // The item chosen with VM, VF, VH or EP: its name (empty when the window closed otherwise).
+    QString vybrano() const { return m_vybrano; }
+
+private:
+    void detail(const QString& nazev);
+    bool polozka(const QString& staryNazev); // frmPolozka
+
+    Database& m_cenik;
+    Prompt& m_prompt;
+    QListWidget* m_lstCenik;
+    QCheckBox* m_chVyber;
+    QLineEdit* m_txtMaterial;
+    QLabel* m_lblKod;
+    QLabel* m_lblCena;
+    QLabel* m_lblCenaDPH;
+    QLabel* m_lblDPH;
+    QLabel* m_img[2];
+    int m_obr[2] = {0, 0};
+    QString m_vybrano;
+};

@@ -1,0 +1,102 @@
+// fraPřís: an accessory of an assembly, its name typed or taken from the price list.
+#include "ui/FrmNovy.h"
+
+#include "core/Jednotky.h"
+#include "core/Nastaveni.h"
+
+#include <QComboBox>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+void FrmNovy::prislusenstvi(const QString& tag, const QStringList& nazvy, const QStringList& jednotky,
+                            const Prislusenstvi::Polozka& p,
+                            const std::function<std::optional<Prislusenstvi::Polozka>(const QString&)>& zCeniku,
+                            const std::function<PoUlozeni(const Prislusenstvi::Zadani&)>& ulozit)
+{
+    const bool nove = tag != QLatin1String(Prislusenstvi::TagUprava);
+    Tag = QStringLiteral("Najeti");
+    auto* w = new QWidget;
+    w->setObjectName(QStringLiteral("fraPřís"));
+    auto* nazev = new QComboBox;
+    nazev->setObjectName(QStringLiteral("txtNPrislusenstvi"));
+    nazev->setEditable(true);
+    nazev->setMinimumWidth(320);
+    nazev->addItems(nazvy);
+    nazev->setToolTip(QStringLiteral("Název z ceníku (EP) nebo vlastní"));
+    auto* pocet = new QLineEdit;
+    pocet->setObjectName(QStringLiteral("txtPocetPrislusenstvi"));
+    auto* jednotka = new QComboBox;
+    jednotka->setObjectName(QStringLiteral("txtJednotka"));
+    jednotka->setEditable(true);
+    jednotka->addItems(jednotky);
+    auto* cena = new QLineEdit;
+    cena->setObjectName(QStringLiteral("txtCena"));
+    auto* popisek = new QLabel;
+    popisek->setObjectName(QStringLiteral("lblCenaJednotka"));
+    auto* radekCeny = new QHBoxLayout;
+    radekCeny->addWidget(cena);
+    radekCeny->addWidget(popisek);
+    auto* formular = new QFormLayout;
+    formular->addRow(QStringLiteral("Název:"), nazev);
+    formular->addRow(QStringLiteral("Množství:"), pocet);
+    formular->addRow(QStringLiteral("Jednotka:"), jednotka);
+    formular->addRow(QStringLiteral("Cena bez DPH:"), radekCeny);
+    auto* uloz = new QPushButton(QStringLiteral("Uložit"));
+    uloz->setObjectName(QStringLiteral("cmdUlozitPrislusenstvi"));
+    uloz->setDefault(true);
+    auto* zavrit = new QPushButton(QStringLiteral("Zavřít"));
+    zavrit->setObjectName(QStringLiteral("cmdZavrit"));
+    auto* tlacitka = new QHBoxLayout;
+    tlacitka->addStretch();
+    tlacitka->addWidget(uloz);
+    tlacitka->addWidget(zavrit);
+    auto* l = new QVBoxLayout(w);
+    l->addLayout(formular);
+    l->addLayout(tlacitka);
+    m_ramce->addWidget(w);
+
+    auto vypln = [=](const Prislusenstvi::Polozka& z) {
+        nazev->setCurrentText(z.oznaceni);
+        pocet->setText(z.pocet ? Jednotky::cislo(z.pocet) : QString());
+        jednotka->setCurrentText(z.jednotka);
+        cena->setText(z.oznaceni.isEmpty() && z.cena == 0 ? QString() : Jednotky::cislo(z.cena));
+        popisek->setText(Prislusenstvi::popisekCeny(z.jednotka));
+    };
+    vypln(p);
+    auto stav = [=, this] {
+        popisek->setText(Prislusenstvi::popisekCeny(jednotka->currentText()));
+        uloz->setEnabled(Tag != QLatin1String("Najeti") && !nazev->currentText().trimmed().isEmpty() &&
+                         !pocet->text().trimmed().isEmpty());
+    };
+    connect(nazev, &QComboBox::textActivated, this, [=, this](const QString& t) {
+        if (const auto z = zCeniku(t)) {
+            cena->setText(Jednotky::cislo(z->cena));
+            jednotka->setCurrentText(z->jednotka);
+        }
+        stav();
+    });
+    connect(nazev, &QComboBox::currentTextChanged, this, stav);
+    connect(pocet, &QLineEdit::textChanged, this, stav);
+    connect(cena, &QLineEdit::textChanged, this, stav);
+    connect(jednotka, &QComboBox::currentTextChanged, this, stav);
+    connect(zavrit, &QPushButton::clicked, this, &QDialog::reject);
+    connect(uloz, &QPushButton::clicked, this, [=, this] {
+        const PoUlozeni po = ulozit({nazev->currentText().trimmed(), pocet->text(), jednotka->currentText(), cena->text()});
+        if (po == PoUlozeni::Zavrit)
+            accept();
+        else if (po == PoUlozeni::Dalsi) {
+            vypln({});
+            nazev->setFocus();
+        }
+    });
+    Tag = tag;
+    stav();
+    ukaz(w, nove ? QStringLiteral("Přidání nového příslušenství") : QStringLiteral("Upravení příslušenstvi"), 20);
+    exec();
+    w->deleteLater();
+}

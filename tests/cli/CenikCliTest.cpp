@@ -1,0 +1,137 @@
+// The price list, the libraries and the accessories on the command line.
+#include "VzorkyObrazku.h"
+#include "core/Database.h"
+
+#include <QFile>
+#include <QImage>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace {
+
+struct Beh {
+    int kod;
+    QString out, err;
+};
+
+class CenikCliTest : public ::testing::Test {
+protected:
+    void SetUp() override { ASSERT_EQ(spust({"init"}).kod, 0); }
+    Beh spust(QStringList argumenty)
+    {
+        QProcess p;
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert(QStringLiteral("XDG_CONFIG_HOME"), m_dir.filePath(QStringLiteral("config")));
+        p.setProcessEnvironment(env);
+        p.start(QStringLiteral(TRUHLAR_CLI), QStringList{QStringLiteral("--home"), m_dir.filePath(QStringLiteral("home"))} + argumenty);
+        EXPECT_TRUE(p.waitForFinished(60000));
+        return {p.exitCode(), QString::fromUtf8(p.readAllStandardOutput()), QString::fromUtf8(p.readAllStandardError())};
+    }
+    QString soubor(const QString& nazev, const QByteArray& obsah)
+    {
+        const QString cesta = m_dir.filePath(nazev);
+        QFile f(cesta);
+        f.open(QIODevice::WriteOnly);
+        f.write(obsah);
+        return cesta;
+    }
+    QTemporaryDir m_dir;
+};
+
+const char* const polozky = R"([
+ {"kod": 3, "nazev": "Dub 'Rustikál'", "cena": 1200.5, "jednotka": "m2", "skupina": "PM", "obr1": 0, "obr2": 0},
+ {"kod": 1, "nazev": "Čep", "cena": 2.125, "jednotka": "ks", "skupina": "P", "obr1": 0, "obr2": 0},
+ {"kod": 2, "nazev": "hrana ABS", "cena": 12, "jednotka": "bm", "skupina": "H", "obr1": 0, "obr2": 0}
+])";
+
+} // namespace
+
+TEST_F(CenikCliTest, CenikTamAZpetVsechnoNeboNic)
+{
+    const Beh nahrani = spust({"pricelist-load", soubor(QStringLiteral("c.json"), polozky)});
+    ASSERT_EQ(nahrani.kod, 0) << nahrani.err.toStdString();
+    const Beh vypis = spust({"pricelist-dump", "--razeni", "Kod"});
+    ASSERT_EQ(vypis.kod, 0);
+    QJsonArray cekano = QJsonDocument::fromJson(polozky).array();
+    EXPECT_EQ(QJsonDocument::fromJson(vypis.out.toUtf8()).array(), QJsonArray({cekano[1], cekano[2], cekano[0]}));
+    const Beh podleNazvu = spust({"pricelist-dump"});
+    EXPECT_EQ(QJsonDocument::fromJson(podleNazvu.out.toUtf8()).array(), QJsonArray({cekano[1], cekano[0], cekano[2]}));
+
+    const Beh dvojnik = spust({"pricelist-load", soubor(QStringLiteral("d.json"),
+        R"([{"kod": 9, "nazev": "Nová", "cena": 1, "jednotka": "ks", "skupina": "P"},
+            {"kod": 8, "nazev": "DUB 'rustikál'", "cena": 1, "jednotka": "ks", "skupina": "P"}])")});
+    EXPECT_EQ(dvojnik.kod, 3);
+    EXPECT_TRUE(dvojnik.err.contains(QStringLiteral("Položka pod tímhle názvem již existuje"))) << dvojnik.err.toStdString();
+    EXPECT_EQ(QJsonDocument::fromJson(spust({"pricelist-dump"}).out.toUtf8()).array().size(), 3);
+    const QString pdf = m_dir.filePath(QStringLiteral("cenik.pdf"));
+    EXPECT_EQ(spust({"pricelist-pdf", pdf}).kod, 0);
+    EXPECT_TRUE(QFile(pdf).size() > 1000);
+}
+
+TEST_F(CenikCliTest, ObrazkyBajtZaBajtemPoskozenyNeuloziNic)
+{
+    const QByteArray jpg = vzorek("jpg", {300, 200});
+    const Beh pridani = spust({"picture-add", soubor(QStringLiteral("dub.jpg"), jpg)});
+    ASSERT_EQ(pridani.kod, 0) << pridani.err.toStdString();
+    EXPECT_EQ(pridani.out.trimmed(), QStringLiteral("1"));
+    EXPECT_EQ(spust({"picture-add", soubor(QStringLiteral("s.wmf"), vzorekWmf())}).out.trimmed(), QStringLiteral("2"));
+    const QString zpet = m_dir.filePath(QStringLiteral("zpet.jpg"));
+    ASSERT_EQ(spust({"picture-get", "1", zpet}).kod, 0);
+    QFile f(zpet);
+    f.open(QIODevice::ReadOnly);
+    EXPECT_EQ(f.readAll(), jpg);
+
+    const Beh poskozeny = spust({"picture-add", soubor(QStringLiteral("zlom.jpg"), jpg.left(jpg.size() / 2))});
+    EXPECT_EQ(poskozeny.kod, 3);
+    EXPECT_TRUE(poskozeny.err.contains(QStringLiteral("Soubor „zlom.jpg“ není obrázek JPG, PNG, BMP, GIF ani WMF, nebo je poškozený.")));
+    const QJsonArray seznam = QJsonDocument::fromJson(spust({"picture-list"}).out.toUtf8()).array();
+    ASSERT_EQ(seznam.size(), 2);
+    EXPECT_EQ(seznam[0][QStringLiteral("nazev")].toString(), QStringLiteral("dub.jpg"));
+    EXPECT_EQ(seznam[0][QStringLiteral("format")].toString(), QStringLiteral("jpeg"));
+    EXPECT_EQ(seznam[0][QStringLiteral("bytes")].toInt(), jpg.size());
+    EXPECT_EQ(seznam[0][QStringLiteral("width")].toInt(), 300);
+    EXPECT_EQ(seznam[1][QStringLiteral("format")].toString(), QStringLiteral("wmf"));
+
+    const QString png = m_dir.filePath(QStringLiteral("male.png"));
+    ASSERT_EQ(spust({"picture-render", "1", png, "--fit", "150x150"}).kod, 0);
+    EXPECT_EQ(QImage(png).size(), QSize(150, 100));
+    EXPECT_EQ(spust({"picture-delete", "2"}).kod, 0);
+    EXPECT_EQ(spust({"picture-get", "2", zpet}).kod, 3);
+    EXPECT_EQ(spust({"picture-list", "--schema"}).out.trimmed(), QStringLiteral("[\n]"));
+}
+
+// Accessories from the price list count in the costing with the accessory discount; a
+// quantity of 0 is refused and nothing changes.
+TEST_F(CenikCliTest, PrislusenstviZCenikuVKalkulaci)
+{
+    ASSERT_EQ(spust({"pricelist-load", soubor(QStringLiteral("c.json"), polozky)}).kod, 0);
+    ASSERT_EQ(spust({"order-load", soubor(QStringLiteral("z.json"),
+                                           R"({"zakazka": "Z", "sestavy": [{"nazev": "S", "pocet": 1}]})")}).kod, 0);
+    ASSERT_EQ(spust({"settings", "set", "Setting", "SlevaPris", "10"}).kod, 0);
+    const Beh pridani = spust({"accessory-add", "Z", "S", "Čep", "2.125"});
+    ASSERT_EQ(pridani.kod, 0) << pridani.err.toStdString();
+    EXPECT_EQ(spust({"accessory-add", "Z", "S", "pant", "0", "--price", "5"}).kod, 3);
+    const QJsonObject z = QJsonDocument::fromJson(spust({"order-dump", "Z"}).out.toUtf8()).object();
+    const QJsonArray pr = z[QStringLiteral("sestavy")][0][QStringLiteral("prislusenstvi")].toArray();
+    ASSERT_EQ(pr.size(), 1);
+    EXPECT_EQ(pr[0][QStringLiteral("mnozstvi")].toDouble(), 2.125);
+    EXPECT_EQ(pr[0][QStringLiteral("jednotka")].toString(), QStringLiteral("ks"));
+    EXPECT_EQ(pr[0][QStringLiteral("cena")].toDouble(), 2.125);
+    const Beh calc = spust({"calc", "Z", "--json"});
+    ASSERT_EQ(calc.kod, 0) << calc.err.toStdString();
+    const QJsonArray radky = QJsonDocument::fromJson(calc.out.toUtf8()).object()[QStringLiteral("SoupisProKalkulaci")].toArray();
+    ASSERT_EQ(radky.size(), 1);
+    EXPECT_DOUBLE_EQ(radky[0][QStringLiteral("JC")].toDouble(), 1.91); // 2.125 less 10 %, rounded
+    EXPECT_EQ(spust({"accessory-delete", "Z", "S", "Čep"}).kod, 0);
+    const QJsonObject po = QJsonDocument::fromJson(spust({"order-dump", "Z"}).out.toUtf8()).object();
+    EXPECT_TRUE(po[QStringLiteral("sestavy")][0][QStringLiteral("prislusenstvi")].toArray().isEmpty());
+
+    const Beh nula = spust({"order-load", soubor(QStringLiteral("n.json"),
+        R"({"zakazka": "N", "sestavy": [{"nazev": "S", "prislusenstvi": [{"oznaceni": "pant", "mnozstvi": 0, "cena": 1}]}]})")});
+    EXPECT_EQ(nula.kod, 3);
+    EXPECT_TRUE(nula.err.contains(QStringLiteral("Zadejte množství a cenu číslem.")));
+}
