@@ -69,7 +69,7 @@ void prislusenstvi(Dokument& d, Database& k)
     const double sirka = d.PageWidth() - d.MarginLeft - d.MarginRight;
     RadekTabulky pas{{QStringLiteral("Příslušenství:")}, mm(7)};
     pas.pozadi = Vypis::SedaTlacitka;
-    d.AddRow(Tabulka{{sirka}}, pas);
+    d.AddRow(Tabulka{{sirka}, {}}, pas);
     const Tabulka detail{{mm(15), mm(90), mm(25), mm(25), mm(25)},
                          {Vypis::zarovnani(7), Vypis::zarovnani(6), Vypis::zarovnani(8), Vypis::zarovnani(8),
                           Vypis::zarovnani(8)}};

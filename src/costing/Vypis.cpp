@@ -87,7 +87,7 @@ void pasSestavy(Dokument& d, const QString& sestava, double pocet, const QString
     RadekTabulky r{{sestava + QStringLiteral(" - ") + Jednotky::cislo(pocet) + QStringLiteral(" ks - ") + popis},
                    Dokument::mm(7)};
     r.pozadi = Barva::zVB(0xC0E0FF);
-    d.AddRow(Tabulka{{d.PageWidth() - d.MarginLeft - d.MarginRight}}, r);
+    d.AddRow(Tabulka{{d.PageWidth() - d.MarginLeft - d.MarginRight}, {}}, r);
 }
 
 void zlomStranyPodPrahem(Dokument& d)

@@ -23,6 +23,8 @@ struct Tabulka {
 };
 
 struct RadekTabulky {
+    RadekTabulky() = default;
+    RadekTabulky(QStringList b, double v = 0, QColor p = QColor()) : bunky(std::move(b)), vyska(v), pozadi(p) {}
     QStringList bunky;
     double vyska = 0;                       // 0: 1.3 times the text height
     QColor pozadi;                          // invalid: none
