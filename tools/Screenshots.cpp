@@ -8,6 +8,7 @@
 #include "ui/FrmImport.h"
 #include "ui/FrmNP.h"
 #include "ui/FrmNovy.h"
+#include "ui/FrmOptions.h"
 #include "ui/FrmSklad.h"
 #include "catalogues/Sklad.h"
 #include "ui/FrmVSP.h"
@@ -26,6 +27,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 #include <QStringEncoder>
+#include <QTabWidget>
 #include <QTimer>
 #include <QTreeWidget>
 
@@ -65,6 +67,20 @@ void ukazkoveSchema(Uloziste& u, const QString& sestava)
     u.dataS().execute(QStringLiteral("UPDATE Zakazky SET schema = 1 WHERE Sestava = '") + sestava + QStringLiteral("'"));
 }
 
+// The options dialog page by page (dialogs stay Czech), then the main window in English.
+void moznostiAJazyk(FrmBorovak& okno, Prompt& prompt, const QString& vystup)
+{
+    FrmOptions moznosti(prompt, {}, &okno);
+    for (int i = 0; i < moznosti.stranky()->count(); ++i) {
+        moznosti.stranky()->setCurrentIndex(i);
+        uloz(&moznosti, vystup, QStringLiteral("frmOptions-%1").arg(i + 1));
+    }
+    moznosti.close();
+    okno.prikaz(QStringLiteral("Anglictina"));
+    uloz(&okno, vystup, QStringLiteral("frmBorovak-english"));
+    okno.prikaz(QStringLiteral("cestina"));
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -97,6 +113,7 @@ int main(int argc, char** argv)
     strom->setCurrentItem(zakazka->child(0));
     emit strom->itemClicked(zakazka->child(0), 0);
     uloz(&okno, vystup, QStringLiteral("frmBorovak-sestava"));
+    moznostiAJazyk(okno, prompt, vystup);
 
     // the entry frames, each grabbed as soon as it stands and closed again
     auto ramec = [&](const QString& nazev, const std::function<void(FrmNovy&)>& otevri) {

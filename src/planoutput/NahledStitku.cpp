@@ -9,6 +9,8 @@
 namespace NahledStitku {
 namespace {
 
+constexpr double SirkaCervene = 75; // twips: the margin line must stay visible at a third of A4
+
 double mm(const Moznosti::Hodnoty& h, const char* klic)
 {
     return Jednotky::NaMilimetry(h.value(QLatin1String(klic)));
@@ -79,6 +81,7 @@ Dokument vykresli(const Rozvrzeni& r)
     d.stetec.barva = barvaTisku();
     obdelniky(d, r.tisk, r.tisk.radku);
     d.pero.barva = barvaOkraju();
+    d.pero.sirka = SirkaCervene;
     d.stetec.pruhledny = true;
     d.DrawRectangle(r.okrajZleva * TwipuNaMm, r.okrajShora * TwipuNaMm, Dokument::A4Sirka - r.okrajZprava * TwipuNaMm,
                     Dokument::A4Vyska - r.okrajZdola * TwipuNaMm);
