@@ -7,39 +7,16 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include "SpusteniCli.h"
 #include <QProcess>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 namespace {
 
-struct Beh {
-    int kod;
-    QString out, err;
-};
-
-class CenikCliTest : public ::testing::Test {
+class CenikCliTest : public SpusteniCli {
 protected:
     void SetUp() override { ASSERT_EQ(spust({"init"}).kod, 0); }
-    Beh spust(QStringList argumenty)
-    {
-        QProcess p;
-        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-        env.insert(QStringLiteral("XDG_CONFIG_HOME"), m_dir.filePath(QStringLiteral("config")));
-        p.setProcessEnvironment(env);
-        p.start(QStringLiteral(TRUHLAR_CLI), QStringList{QStringLiteral("--home"), m_dir.filePath(QStringLiteral("home"))} + argumenty);
-        EXPECT_TRUE(p.waitForFinished(60000));
-        return {p.exitCode(), QString::fromUtf8(p.readAllStandardOutput()), QString::fromUtf8(p.readAllStandardError())};
-    }
-    QString soubor(const QString& nazev, const QByteArray& obsah)
-    {
-        const QString cesta = m_dir.filePath(nazev);
-        QFile f(cesta);
-        f.open(QIODevice::WriteOnly);
-        f.write(obsah);
-        return cesta;
-    }
-    QTemporaryDir m_dir;
 };
 
 const char* const polozky = R"([
@@ -52,16 +29,16 @@ const char* const polozky = R"([
 
 TEST_F(CenikCliTest, CenikTamAZpetVsechnoNeboNic)
 {
-    const Beh nahrani = spust({"pricelist-load", soubor(QStringLiteral("c.json"), polozky)});
+    const Vysledek nahrani = spust({"pricelist-load", soubor(QStringLiteral("c.json"), polozky)});
     ASSERT_EQ(nahrani.kod, 0) << nahrani.err.toStdString();
-    const Beh vypis = spust({"pricelist-dump", "--razeni", "Kod"});
+    const Vysledek vypis = spust({"pricelist-dump", "--razeni", "Kod"});
     ASSERT_EQ(vypis.kod, 0);
     QJsonArray cekano = QJsonDocument::fromJson(polozky).array();
     EXPECT_EQ(QJsonDocument::fromJson(vypis.out.toUtf8()).array(), QJsonArray({cekano[1], cekano[2], cekano[0]}));
-    const Beh podleNazvu = spust({"pricelist-dump"});
+    const Vysledek podleNazvu = spust({"pricelist-dump"});
     EXPECT_EQ(QJsonDocument::fromJson(podleNazvu.out.toUtf8()).array(), QJsonArray({cekano[1], cekano[0], cekano[2]}));
 
-    const Beh dvojnik = spust({"pricelist-load", soubor(QStringLiteral("d.json"),
+    const Vysledek dvojnik = spust({"pricelist-load", soubor(QStringLiteral("d.json"),
         R"([{"kod": 9, "nazev": "Nová", "cena": 1, "jednotka": "ks", "skupina": "P"},
             {"kod": 8, "nazev": "DUB 'rustikál'", "cena": 1, "jednotka": "ks", "skupina": "P"}])")});
     EXPECT_EQ(dvojnik.kod, 3);
@@ -75,7 +52,7 @@ TEST_F(CenikCliTest, CenikTamAZpetVsechnoNeboNic)
 TEST_F(CenikCliTest, ObrazkyBajtZaBajtemPoskozenyNeuloziNic)
 {
     const QByteArray jpg = vzorek("jpg", {300, 200});
-    const Beh pridani = spust({"picture-add", soubor(QStringLiteral("dub.jpg"), jpg)});
+    const Vysledek pridani = spust({"picture-add", soubor(QStringLiteral("dub.jpg"), jpg)});
     ASSERT_EQ(pridani.kod, 0) << pridani.err.toStdString();
     EXPECT_EQ(pridani.out.trimmed(), QStringLiteral("1"));
     EXPECT_EQ(spust({"picture-add", soubor(QStringLiteral("s.wmf"), vzorekWmf())}).out.trimmed(), QStringLiteral("2"));
@@ -85,7 +62,7 @@ TEST_F(CenikCliTest, ObrazkyBajtZaBajtemPoskozenyNeuloziNic)
     f.open(QIODevice::ReadOnly);
     EXPECT_EQ(f.readAll(), jpg);
 
-    const Beh poskozeny = spust({"picture-add", soubor(QStringLiteral("zlom.jpg"), jpg.left(jpg.size() / 2))});
+    const Vysledek poskozeny = spust({"picture-add", soubor(QStringLiteral("zlom.jpg"), jpg.left(jpg.size() / 2))});
     EXPECT_EQ(poskozeny.kod, 3);
     EXPECT_TRUE(poskozeny.err.contains(QStringLiteral("Soubor „zlom.jpg“ není obrázek JPG, PNG, BMP, GIF ani WMF, nebo je poškozený.")));
     const QJsonArray seznam = QJsonDocument::fromJson(spust({"picture-list"}).out.toUtf8()).array();
@@ -112,7 +89,7 @@ TEST_F(CenikCliTest, PrislusenstviZCenikuVKalkulaci)
     ASSERT_EQ(spust({"order-load", soubor(QStringLiteral("z.json"),
                                            R"({"zakazka": "Z", "sestavy": [{"nazev": "S", "pocet": 1}]})")}).kod, 0);
     ASSERT_EQ(spust({"settings", "set", "Setting", "SlevaPris", "10"}).kod, 0);
-    const Beh pridani = spust({"accessory-add", "Z", "S", "Čep", "2.125"});
+    const Vysledek pridani = spust({"accessory-add", "Z", "S", "Čep", "2.125"});
     ASSERT_EQ(pridani.kod, 0) << pridani.err.toStdString();
     EXPECT_EQ(spust({"accessory-add", "Z", "S", "pant", "0", "--price", "5"}).kod, 3);
     const QJsonObject z = QJsonDocument::fromJson(spust({"order-dump", "Z"}).out.toUtf8()).object();
@@ -121,7 +98,7 @@ TEST_F(CenikCliTest, PrislusenstviZCenikuVKalkulaci)
     EXPECT_EQ(pr[0][QStringLiteral("mnozstvi")].toDouble(), 2.125);
     EXPECT_EQ(pr[0][QStringLiteral("jednotka")].toString(), QStringLiteral("ks"));
     EXPECT_EQ(pr[0][QStringLiteral("cena")].toDouble(), 2.125);
-    const Beh calc = spust({"calc", "Z", "--json"});
+    const Vysledek calc = spust({"calc", "Z", "--json"});
     ASSERT_EQ(calc.kod, 0) << calc.err.toStdString();
     const QJsonArray radky = QJsonDocument::fromJson(calc.out.toUtf8()).object()[QStringLiteral("SoupisProKalkulaci")].toArray();
     ASSERT_EQ(radky.size(), 1);
@@ -130,7 +107,7 @@ TEST_F(CenikCliTest, PrislusenstviZCenikuVKalkulaci)
     const QJsonObject po = QJsonDocument::fromJson(spust({"order-dump", "Z"}).out.toUtf8()).object();
     EXPECT_TRUE(po[QStringLiteral("sestavy")][0][QStringLiteral("prislusenstvi")].toArray().isEmpty());
 
-    const Beh nula = spust({"order-load", soubor(QStringLiteral("n.json"),
+    const Vysledek nula = spust({"order-load", soubor(QStringLiteral("n.json"),
         R"({"zakazka": "N", "sestavy": [{"nazev": "S", "prislusenstvi": [{"oznaceni": "pant", "mnozstvi": 0, "cena": 1}]}]})")});
     EXPECT_EQ(nula.kod, 3);
     EXPECT_TRUE(nula.err.contains(QStringLiteral("Zadejte množství a cenu číslem.")));

@@ -6,6 +6,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QDir>
+#include "SpusteniCli.h"
 #include <QProcess>
 #include <cmath>
 #include <QStandardPaths>
@@ -19,28 +20,7 @@
 
 namespace {
 
-struct Vysledek {
-    int kod;
-    QString out, err;
-};
-
-class CliTest : public ::testing::Test {
-protected:
-    Vysledek spust(QStringList argumenty)
-    {
-        QProcess p;
-        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-        env.insert(QStringLiteral("XDG_CONFIG_HOME"), m_dir.filePath(QStringLiteral("config")));
-        p.setProcessEnvironment(env);
-        p.start(QStringLiteral(TRUHLAR_CLI), QStringList{QStringLiteral("--home"), domov()} + argumenty);
-        EXPECT_TRUE(p.waitForFinished(60000));
-        return {p.exitCode(), QString::fromUtf8(p.readAllStandardOutput()), QString::fromUtf8(p.readAllStandardError())};
-    }
-    QString domov() const { return m_dir.filePath(QStringLiteral("home")); }
-    QString demo() const { return QStringLiteral(TRUHLAR_SHARE "/demo/kuchyne.json"); }
-
-    QTemporaryDir m_dir;
-};
+using CliTest = SpusteniCli;
 
 } // namespace
 
@@ -467,4 +447,32 @@ TEST_F(CliTest, OdrezkyZapisZpetAVpf)
     EXPECT_EQ(bez.kod, 3);
     EXPECT_TRUE(bez.err.contains(QStringLiteral("nevznikl"))) << bez.err.toStdString();
     EXPECT_FALSE(QFile::exists(zadny));
+}
+
+TEST_F(CliTest, MoznostiJakoPouzitAJazykoveSoubory)
+{
+    ASSERT_EQ(spust({"init"}).kod, 0);
+    EXPECT_TRUE(QFile::exists(domov() + QStringLiteral("/czech.txt")));
+    EXPECT_TRUE(QFile::exists(domov() + QStringLiteral("/english.txt")));
+    EXPECT_TRUE(spust({"options", "show"}).out.contains(QStringLiteral("\"Srez\": \"4 mm\"")));
+    EXPECT_EQ(spust({"options", "apply", "Srez=3", "Jednotky=1"}).kod, 0);
+    const QString ukazano = spust({"options", "show"}).out;
+    EXPECT_TRUE(ukazano.contains(QStringLiteral("\"Srez\": \"0.3 cm\""))) << ukazano.toStdString();
+    EXPECT_TRUE(ukazano.contains(QStringLiteral("\"Jednotky\": \"100 cm\"")));
+    const Vysledek odmitnuto = spust({"options", "apply", "XZ=5", "DPH=abc"});
+    EXPECT_EQ(odmitnuto.kod, 3);
+    EXPECT_EQ(odmitnuto.err.trimmed(), QStringLiteral("Zadejte v poli „DPH [%]“ číslo od 0 do 100!"));
+    EXPECT_EQ(spust({"settings", "get", "Setting2", "XZ"}).out.trimmed(), QStringLiteral("100"));
+    EXPECT_EQ(spust({"options", "apply", "BarvaDesky=#FF0000"}).kod, 0);
+    EXPECT_EQ(spust({"settings", "get", "Setting", "BarvaDesky"}).out.trimmed(), QStringLiteral("&H000000FF&"));
+    EXPECT_EQ(spust({"options", "apply", "Srez"}).kod, 2);
+
+    const Vysledek anglicky = spust({"language-check", "english"});
+    EXPECT_EQ(anglicky.kod, 0);
+    const QStringList radky = anglicky.out.trimmed().split(QLatin1Char('\n'));
+    ASSERT_EQ(radky.size(), 109);
+    EXPECT_EQ(radky.first(), QStringLiteral("1\tZakazka\t&Order"));
+    EXPECT_EQ(spust({"language-check", soubor("kratky.txt", "&Zakázka\n")}).kod, 3);
+    EXPECT_EQ(spust({"language-check", m_dir.filePath("neni.txt")}).err.trimmed(),
+              QStringLiteral("Soubor jazykové verze neexistuje!!!"));
 }
