@@ -126,7 +126,8 @@ void FrmNovy::zakazka(const QString& tag, const QString& nazev, const QString& p
     const bool nova = tag == QLatin1String("NovaZakazka");
     Ramec r = novyRamec(m_ramce, "fraZakázka", "cmdZakazkaPouzit",
                         nova ? QStringLiteral("Uložení nové zakázky") : QStringLiteral("Uložení úprav v zakázce"));
-    auto* jmeno = text("txtzakazka", Zakazky::MaxNazevZakazky);
+    // a copy may carry a longer name than can be typed: editing its note must not cut it
+    auto* jmeno = text("txtzakazka", qMax(Zakazky::MaxNazevZakazky, int(nazev.size())));
     auto* pozn = text("txtPoznamka");
     jmeno->setText(nazev);
     pozn->setText(poznamka);

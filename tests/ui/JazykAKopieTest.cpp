@@ -13,6 +13,8 @@
 #include <QApplication>
 #include <QFile>
 #include <QInputDialog>
+#include <QLineEdit>
+#include <QPushButton>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QTableWidget>
@@ -189,4 +191,31 @@ TEST_F(OknoJazyk, PretazenaSestavaNejdriveNeAPakAno)
     Ruka nic({});
     pretahni(zakazka(QStringLiteral("Chata"))->child(0), zakazka(QStringLiteral("Chata")));
     EXPECT_TRUE(nic.zpravy.isEmpty());
+}
+
+TEST_F(OknoJazyk, DlouhyNazevKopieSeUpravouPoznamkyNezkrati)
+{
+    const QString dlouhy = QStringLiteral("Kuchyně Novák – druhá verze pro chatu 'U lesa'"); // 46 characters
+    Kopirovani::kopirujZakazku(uloziste().dataS(), QStringLiteral("Kuchyně Novák"), dlouhy);
+    okno->NaplnitStrom();
+    klik(zakazka(dlouhy));
+    ASSERT_EQ(okno->txtzakazka(), dlouhy);
+    QTimer ruka;
+    QString videno;
+    QObject::connect(&ruka, &QTimer::timeout, [&] {
+        QWidget* d = QApplication::activeModalWidget();
+        auto* jmeno = d ? d->findChild<QLineEdit*>(QStringLiteral("txtzakazka")) : nullptr;
+        if (!jmeno || !jmeno->isVisible())
+            return;
+        videno = jmeno->text();
+        d->findChild<QLineEdit*>(QStringLiteral("txtPoznamka"))->setText(QStringLiteral("jiná poznámka"));
+        d->findChild<QPushButton*>(QStringLiteral("cmdZakazkaPouzit"))->click();
+        if (QApplication::activeModalWidget() == d)
+            qobject_cast<QDialog*>(d)->reject();
+    });
+    ruka.start(5);
+    okno->prikaz(QStringLiteral("UpraveniZakazky"));
+    EXPECT_EQ(videno, dlouhy);
+    EXPECT_NE(zakazka(dlouhy), nullptr);
+    EXPECT_EQ(okno->txtzakazka(), dlouhy);
 }
