@@ -1,6 +1,6 @@
 // The main window: its menus and keys, the command states that follow the selection, and a
 // plan run started from the window.
-#include "DomovTest.h"
+#include "OknoTest.h"
 #include "SkriptovanyPrompt.h"
 #include "core/Nastaveni.h"
 #include "exchange/ZakazkaJson.h"
@@ -29,22 +29,8 @@
 
 namespace {
 
-class Okno : public DomovTest {
+class Okno : public OknoTest {
 protected:
-    void SetUp() override
-    {
-        DomovTest::SetUp();
-        Nastaveni::ZapisVychoziNastaveni(1000, 1000, 13500, 9000);
-        ZakazkaJson::nacti(uloziste().dataS(), demoJson());
-        okno = std::make_unique<FrmBorovak>(uloziste(), prompt);
-        strom = okno->findChild<QTreeWidget*>(QStringLiteral("tvzakazky"));
-    }
-    void TearDown() override
-    {
-        okno.reset();
-        DomovTest::TearDown();
-    }
-    void klik(QTreeWidgetItem* u) { emit strom->itemClicked(u, 0); }
     // Starts a plan from the window, answering as a user would: Pokračuj in the plan start, then
     // Storno in the progress frame if asked, OK under any message. Returns the messages.
     QStringList spustPlan(bool storno)
@@ -74,12 +60,8 @@ protected:
         okno->prikaz(QStringLiteral("NP"));
         return zpravy;
     }
-    bool zapnuto(const char* nazev) { return okno->akce(QLatin1String(nazev))->isEnabled(); }
 
-    QtPrompt prompt;
     QVariantList prohlizec; // what the plan viewer showed: title, page box, back, forward, store
-    std::unique_ptr<FrmBorovak> okno;
-    QTreeWidget* strom = nullptr;
 };
 
 } // namespace

@@ -1,6 +1,6 @@
 // The main window in English and back, a language file gone, and the copies a user makes from
 // the window: Save as with a taken name answered first, an assembly dropped on another order.
-#include "DomovTest.h"
+#include "OknoTest.h"
 #include "core/Jazyk.h"
 #include "core/Nastaveni.h"
 #include "exchange/ZakazkaJson.h"
@@ -67,22 +67,8 @@ private:
     QTimer m_casovac;
 };
 
-class OknoJazyk : public DomovTest {
+class OknoJazyk : public OknoTest {
 protected:
-    void SetUp() override
-    {
-        DomovTest::SetUp();
-        Nastaveni::ZapisVychoziNastaveni(1000, 1000, 13500, 9000);
-        ZakazkaJson::nacti(uloziste().dataS(), demoJson());
-        okno = std::make_unique<FrmBorovak>(uloziste(), prompt);
-        strom = okno->findChild<QTreeWidget*>(QStringLiteral("tvzakazky"));
-    }
-    void TearDown() override
-    {
-        okno.reset();
-        DomovTest::TearDown();
-    }
-    void klik(QTreeWidgetItem* u) { emit strom->itemClicked(u, 0); }
     QStringList popisky()
     {
         QStringList p;
@@ -105,9 +91,6 @@ protected:
         QApplication::processEvents(); // the tree is refilled after the drop
     }
 
-    QtPrompt prompt;
-    std::unique_ptr<FrmBorovak> okno;
-    QTreeWidget* strom = nullptr;
 };
 
 // what the lines say where a line does not reach the window
