@@ -2,6 +2,7 @@
 
 #include "core/Database.h"
 #include "core/Dotaz.h"
+#include "orders/RadkySestavy.h"
 #include "core/Jednotky.h"
 #include "core/Prompt.h"
 #include "core/Razitko.h"
@@ -14,21 +15,8 @@ namespace {
 
 const char* const hranyPole[] = {"IDHX1", "IDHX2", "IDHY1", "IDHY2"};
 
-QString sestavy(const QString& zakazka, const QString& sestava)
-{
-    return QStringLiteral("SELECT * FROM Zakazky WHERE Zakazka = '") + Dotaz::text(zakazka) +
-           QStringLiteral("' and Sestava = '") + Dotaz::text(sestava) + QStringLiteral("'");
-}
+using RadkySestavy::podleNazvu;
 
-std::optional<Recordset> podleNazvu(Database& db, const QString& zakazka, const QString& sestava, const QString& oznaceni)
-{
-    Recordset rs(db, sestavy(zakazka, sestava) + QStringLiteral(" and Oznaceni = '") + Dotaz::text(oznaceni) +
-                         QStringLiteral("'ORDER BY Oznaceni"),
-                 Recordset::Rozsah::Prvni);
-    if (rs.eof())
-        return std::nullopt;
-    return rs;
-}
 
 Deska cti(const Recordset& rs)
 {
@@ -116,7 +104,7 @@ QString UlozitNovyPM(Database& db, Prompt& p, const QString& zakazka, const QStr
     const QString nazev = nazevNoveDesky(db, zakazka, sestava, d.oznaceni);
     if (duplicita(db, p, zakazka, sestava, nazev))
         return QString();
-    Recordset vse(db, sestavy(zakazka, sestava) + QStringLiteral("ORDER BY Sestava"));
+    Recordset vse(db, RadkySestavy::dotaz(zakazka, sestava) + QStringLiteral("ORDER BY Sestava"));
     vse.moveLast();
     if (vse.recordCount() < 2 && !vse.eof() && vse.text(QStringLiteral("Oznaceni")).isEmpty()) {
         vse.edit(); // the first item takes over the assembly's header row
@@ -163,7 +151,7 @@ bool SmazatPM(Database& db, Prompt& p, const QString& zakazka, const QString& se
         Prompt::Odpoved::Ano)
         return false;
     Transakce t(db);
-    Recordset vse(db, sestavy(zakazka, sestava));
+    Recordset vse(db, RadkySestavy::dotaz(zakazka, sestava));
     auto rs = podleNazvu(db, zakazka, sestava, oznaceni);
     if (rs && vse.recordCount() < 2) {
         rs->edit(); // the row stays as the assembly's header

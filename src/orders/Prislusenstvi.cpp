@@ -2,6 +2,7 @@
 
 #include "core/Database.h"
 #include "core/Dotaz.h"
+#include "orders/RadkySestavy.h"
 #include "core/Error.h"
 #include "core/Jednotky.h"
 #include "core/Nastaveni.h"
@@ -17,21 +18,8 @@
 namespace Prislusenstvi {
 namespace {
 
-QString sestavy(const QString& zakazka, const QString& sestava)
-{
-    return QStringLiteral("SELECT * FROM Zakazky WHERE Zakazka = '") + Dotaz::text(zakazka) +
-           QStringLiteral("' and Sestava = '") + Dotaz::text(sestava) + QStringLiteral("'");
-}
+using RadkySestavy::podleNazvu;
 
-std::optional<Recordset> podleNazvu(Database& db, const QString& zakazka, const QString& sestava, const QString& oznaceni)
-{
-    Recordset rs(db, sestavy(zakazka, sestava) + QStringLiteral(" and Oznaceni = '") + Dotaz::text(oznaceni) +
-                         QStringLiteral("'ORDER BY Oznaceni"),
-                 Recordset::Rozsah::Prvni);
-    if (rs.eof())
-        return std::nullopt;
-    return rs;
-}
 
 std::optional<double> cislo(const QString& text)
 {
@@ -86,7 +74,7 @@ bool nova(Database& db, Prompt& prompt, const QString& zakazka, const QString& s
 {
     if (podleNazvu(db, zakazka, sestava, p.oznaceni))
         return odmitni(prompt, QStringLiteral("Příslušenství v sestavě již pod tímto názvem existuje, zadejte jiný název !!!"));
-    Recordset vse(db, sestavy(zakazka, sestava) + QStringLiteral("ORDER BY Sestava"));
+    Recordset vse(db, RadkySestavy::dotaz(zakazka, sestava) + QStringLiteral("ORDER BY Sestava"));
     if (vse.prazdny())
         throw Error(Chyba::NeplatnyVstup, QStringLiteral("Sestava „%1“ v zakázce „%2“ není.").arg(sestava, zakazka));
     vse.moveLast();
@@ -195,7 +183,7 @@ bool SmazatPrislusenstvi(Database& db, Prompt& prompt, const QString& zakazka, c
                       Prompt::Tlacitka::AnoNe) != Prompt::Odpoved::Ano)
         return false;
     Transakce t(db);
-    const int radku = Recordset(db, sestavy(zakazka, sestava)).recordCount();
+    const int radku = Recordset(db, RadkySestavy::dotaz(zakazka, sestava)).recordCount();
     auto rs = podleNazvu(db, zakazka, sestava, oznaceni);
     if (!rs)
         return false;
