@@ -32,6 +32,7 @@
 #include <QTemporaryDir>
 #include <QStringEncoder>
 #include <QTimer>
+#include <QListWidget>
 #include <QTreeWidget>
 
 namespace {
@@ -113,6 +114,8 @@ void cenik(Uloziste& u, Prompt& prompt, FrmBorovak& okno, const QString& vystup)
     {
         FrmCenik c(u.cenik(), prompt, &okno, QStringLiteral("EP"));
         c.resize(900, 560);
+        auto* seznam = c.findChild<QListWidget*>(QStringLiteral("lstCenik"));
+        seznam->setCurrentItem(seznam->findItems(QStringLiteral("DTD dub 'Rustikál' 18"), Qt::MatchExactly).value(0));
         uloz(&c, vystup, QStringLiteral("frmCenik"));
         zachytModalni(vystup, QStringLiteral("frmPolozka"));
         c.prikaz(QStringLiteral("UPoložky"));

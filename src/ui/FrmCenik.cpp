@@ -47,14 +47,14 @@ FrmCenik::FrmCenik(Database& cenik, Prompt& prompt, QWidget* rodic, const QStrin
         a->setEnabled(QString::fromUtf8(klic) != QLatin1String("ZD") && QString::fromUtf8(klic) != QLatin1String("OZ"));
         connect(a, &QAction::triggered, this, [this, k = QString::fromUtf8(klic)] { prikaz(k); });
     }
-    // the choosing keys: the caller's own, and VM (any material) for every caller
-    nastroje->addSeparator();
+    // the choosing keys, on a row of their own: the caller's own, and VM (any material) for every caller
+    auto* volba = new QToolBar;
+    volba->setVisible(!volajici.isEmpty());
     for (auto [klic, text] : {std::pair{"VM", "Vybrat materiál"}, {"VF", "Vybrat formát"}, {"VH", "Vybrat hranu"},
                               {"EP", "Vybrat příslušenství"}}) {
-        QAction* a = nastroje->addAction(QString::fromUtf8(text));
+        QAction* a = volba->addAction(QString::fromUtf8(text));
         a->setObjectName(QLatin1String(klic));
         a->setEnabled(!volajici.isEmpty() && (volajici == QLatin1String(klic) || QLatin1String(klic) == QLatin1String("VM")));
-        a->setVisible(!volajici.isEmpty());
         connect(a, &QAction::triggered, this, [this, k = QString::fromLatin1(klic)] { prikaz(k); });
     }
     m_lstCenik = new QListWidget;
@@ -130,6 +130,7 @@ FrmCenik::FrmCenik(Database& cenik, Prompt& prompt, QWidget* rodic, const QStrin
     telo->addLayout(vpravo);
     auto* l = new QVBoxLayout(this);
     l->addWidget(nastroje);
+    l->addWidget(volba);
     l->addLayout(telo);
     NaplnCenik();
 }

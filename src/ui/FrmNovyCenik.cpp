@@ -27,7 +27,8 @@ QPushButton* FrmNovy::tlacitkoCeniku(const QString& klic,
 {
     auto* b = new QPushButton(QStringLiteral("Z ceníku..."));
     b->setObjectName(QStringLiteral("cmd") + klic);
-    b->setVisible(m_cenik != nullptr);
+    if (!m_cenik)
+        b->hide();
     connect(b, &QPushButton::clicked, this, [this, klic, prevezmi] {
         FrmCenik cenik(*m_cenik, *m_prompt, this, klic);
         if (cenik.exec() != QDialog::Accepted)
@@ -51,7 +52,8 @@ QPushButton* FrmNovy::tlacitkoSchematu(QLabel* lblSchema, QLabel* imgSchema)
 {
     auto* b = new QPushButton(QStringLiteral("Schéma..."));
     b->setObjectName(QStringLiteral("cmdSchema"));
-    b->setVisible(m_cenik != nullptr);
+    if (!m_cenik)
+        b->hide();
     connect(b, &QPushButton::clicked, this, [this, lblSchema, imgSchema] {
         FrmObr okno(*m_cenik, *m_prompt, Knihovna::Druh::Schemata, lblSchema->text().toInt(), true, this);
         if (okno.exec() != QDialog::Accepted || !okno.volba())

@@ -184,7 +184,8 @@ void FrmNovy::sestava(const QString& tag, const Zakazky::Sestava& s,
     radekSchematu->addStretch();
     r.formular->addRow(QStringLiteral("Schema:"), radekSchematu);
     r.formular->addRow(QString(), imgSchema);
-    imgSchema->setVisible(m_cenik != nullptr);
+    if (!m_cenik)
+        imgSchema->hide();
     auto stav = [=, this] { r.ulozit->setEnabled(Tag != QLatin1String("Najeti") && !nazev->text().trimmed().isEmpty()); };
     Tag = tag;
     connect(nazev, &QLineEdit::textChanged, this, stav);
