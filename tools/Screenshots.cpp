@@ -12,6 +12,11 @@
 #include "ui/FrmSklad.h"
 #include "catalogues/Sklad.h"
 #include "ui/FrmVSP.h"
+#include "ui/FrmCenik.h"
+#include "ui/FrmNahled.h"
+#include "ui/FrmObr.h"
+#include "catalogues/Cenik.h"
+#include "catalogues/Knihovna.h"
 #include "optimiser/PlanRun.h"
 #include "planoutput/Stitky.h"
 #include "costing/Vypisy.h"
@@ -29,6 +34,7 @@
 #include <QStringEncoder>
 #include <QTabWidget>
 #include <QTimer>
+#include <QListWidget>
 #include <QTreeWidget>
 
 namespace {
@@ -79,6 +85,73 @@ void moznostiAJazyk(FrmBorovak& okno, Prompt& prompt, const QString& vystup)
     okno.prikaz(QStringLiteral("Anglictina"));
     uloz(&okno, vystup, QStringLiteral("frmBorovak-english"));
     okno.prikaz(QStringLiteral("cestina"));
+}
+
+// A wood sample as a price-list item's picture.
+QByteArray vzorekDreva()
+{
+    QImage obr(480, 320, QImage::Format_RGB32);
+    obr.fill(QColor(196, 150, 96));
+    QPainter p(&obr);
+    p.setPen(QPen(QColor(140, 95, 50), 3));
+    for (int y = 10; y < 320; y += 22)
+        p.drawLine(0, y, 480, y + 12 * ((y / 22) % 3 - 1));
+    p.end();
+    QByteArray jpg;
+    QBuffer b(&jpg);
+    b.open(QIODevice::WriteOnly);
+    obr.save(&b, "JPG");
+    return jpg;
+}
+
+// Grabs whichever modal window stands next, then closes it.
+void zachytModalni(const QString& slozka, const QString& nazev)
+{
+    QTimer::singleShot(100, [=] {
+        if (auto* d = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+            uloz(d, slozka, nazev);
+            d->reject();
+        }
+    });
+}
+
+// The price list with a picture, its item form, the libraries, the preview, the accessory
+// frame and the main window with the assembly's schema.
+void cenik(Uloziste& u, Prompt& prompt, FrmBorovak& okno, const QString& vystup)
+{
+    const int ide = Knihovna::pridej(u.cenik(), prompt, Knihovna::Druh::Obrazky, QStringLiteral("dub rustikál.jpg"), vzorekDreva());
+    const std::vector<Cenik::Zadani> polozky = {
+        {QStringLiteral("DTD dub 'Rustikál' 18"), QStringLiteral("101"), QStringLiteral("412.50"), QStringLiteral("m2"), QStringLiteral("PM"), ide, 0},
+        {QStringLiteral("DTD bílá 18"), QStringLiteral("102"), QStringLiteral("298"), QStringLiteral("m2"), QStringLiteral("PM"), 0, 0},
+        {QStringLiteral("ABS bílá 2 mm"), QStringLiteral("201"), QStringLiteral("14.90"), QStringLiteral("bm"), QStringLiteral("H"), 0, 0},
+        {QStringLiteral("Čep 8 x 35"), QStringLiteral("301"), QStringLiteral("0.60"), QStringLiteral("ks"), QStringLiteral("P"), 0, 0},
+        {QStringLiteral("Úchytka oblouk 128"), QStringLiteral("302"), QStringLiteral("45.50"), QStringLiteral("pár"), QStringLiteral("P"), 0, 0}};
+    Cenik::nahraj(u.cenik(), prompt, polozky);
+    {
+        FrmCenik c(u.cenik(), prompt, &okno, QStringLiteral("EP"));
+        c.resize(900, 560);
+        auto* seznam = c.findChild<QListWidget*>(QStringLiteral("lstCenik"));
+        seznam->setCurrentItem(seznam->findItems(QStringLiteral("DTD dub 'Rustikál' 18"), Qt::MatchExactly).value(0));
+        uloz(&c, vystup, QStringLiteral("frmCenik"));
+        zachytModalni(vystup, QStringLiteral("frmPolozka"));
+        c.prikaz(QStringLiteral("UPoložky"));
+        FrmNahled n(Knihovna::obrazek(u.cenik(), Knihovna::Druh::Obrazky, ide), QStringLiteral("DTD dub 'Rustikál' 18"), prompt, &c);
+        uloz(&n, vystup, QStringLiteral("frmNahled"));
+    }
+    for (auto druh : {Knihovna::Druh::Obrazky, Knihovna::Druh::Schemata}) {
+        FrmObr o(u.cenik(), prompt, druh, 0, true, &okno);
+        o.resize(640, 520);
+        uloz(&o, vystup, druh == Knihovna::Druh::Obrazky ? QStringLiteral("frmObr") : QStringLiteral("frmSchema"));
+    }
+    auto* strom = okno.findChild<QTreeWidget*>(QStringLiteral("tvzakazky"));
+    strom->setCurrentItem(strom->topLevelItem(0)->child(0));
+    emit strom->itemClicked(strom->topLevelItem(0)->child(0), 0);
+    zachytModalni(vystup, QStringLiteral("frmNovy-fraPris"));
+    okno.prikaz(QStringLiteral("NoveP"));
+    zachytModalni(vystup, QStringLiteral("frmNovy-fraTyp-schema"));
+    okno.prikaz(QStringLiteral("USestava"));
+    okno.resize(1100, 700);
+    uloz(&okno, vystup, QStringLiteral("frmBorovak-schema"));
 }
 
 } // namespace
@@ -260,5 +333,6 @@ int main(int argc, char** argv)
         vsp.resize(1000, 900);
         uloz(&vsp, vystup, QStringLiteral("frmVSP-sklad"));
     }
+    cenik(u, prompt, okno, vystup);
     return 0;
 }

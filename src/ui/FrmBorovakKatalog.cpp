@@ -79,6 +79,7 @@ void FrmBorovak::NovePrislusenstvi()
     for (const Cenik::Polozka& p : Cenik::NaplnCenik(cenik, QStringLiteral("VSE"), QStringLiteral("Jednotka")))
         jednotkyCeniku << p.jednotka;
     FrmNovy d(this);
+    d.pripojCenik(m_uloziste.cenik(), m_prompt);
     auto zCeniku = [&cenik](const QString& nazev) -> std::optional<Prislusenstvi::Polozka> {
         const auto p = Cenik::nacti(cenik, nazev);
         if (!p)
@@ -108,6 +109,7 @@ void FrmBorovak::UpravitPrislusenstvi()
     Database& cenik = m_uloziste.cenik();
     const Prislusenstvi::Polozka p = Prislusenstvi::UpravitPrislusenstvi(m_uloziste.dataS(), zakazka, sestava, m_GPR->item(r, 0)->text());
     FrmNovy d(this);
+    d.pripojCenik(m_uloziste.cenik(), m_prompt);
     d.prislusenstvi(QLatin1String(Prislusenstvi::TagUprava),
                     Cenik::NaplnitSeznamCeniku(cenik, Cenik::ulozenyVyber(), Cenik::ulozeneRazeni()),
                     Prislusenstvi::jednotky({}), p,

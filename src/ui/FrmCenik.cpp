@@ -6,6 +6,7 @@
 #include "core/Nastaveni.h"
 #include "core/Prompt.h"
 #include "printing/Obrazky.h"
+#include "ui/FrmNahled.h"
 #include "ui/FrmObr.h"
 #include "ui/FrmVSP.h"
 
@@ -33,7 +34,8 @@ const char* const vybery[][2] = {{"PM", "Plošný materiál"}, {"H", "Hrany"}, {
 
 } // namespace
 
-FrmCenik::FrmCenik(Database& cenik, Prompt& prompt, QWidget* rodic) : QDialog(rodic), m_cenik(cenik), m_prompt(prompt)
+FrmCenik::FrmCenik(Database& cenik, Prompt& prompt, QWidget* rodic, const QString& volajici)
+    : QDialog(rodic), m_cenik(cenik), m_prompt(prompt)
 {
     setObjectName(QStringLiteral("frmCenik"));
     setWindowTitle(QStringLiteral("Ceník borováckých materiálů"));
@@ -44,6 +46,16 @@ FrmCenik::FrmCenik(Database& cenik, Prompt& prompt, QWidget* rodic) : QDialog(ro
         a->setObjectName(QString::fromUtf8(klic));
         a->setEnabled(QString::fromUtf8(klic) != QLatin1String("ZD") && QString::fromUtf8(klic) != QLatin1String("OZ"));
         connect(a, &QAction::triggered, this, [this, k = QString::fromUtf8(klic)] { prikaz(k); });
+    }
+    // the choosing keys, on a row of their own: the caller's own, and VM (any material) for every caller
+    auto* volba = new QToolBar;
+    volba->setVisible(!volajici.isEmpty());
+    for (auto [klic, text] : {std::pair{"VM", "Vybrat materiál"}, {"VF", "Vybrat formát"}, {"VH", "Vybrat hranu"},
+                              {"EP", "Vybrat příslušenství"}}) {
+        QAction* a = volba->addAction(QString::fromUtf8(text));
+        a->setObjectName(QLatin1String(klic));
+        a->setEnabled(!volajici.isEmpty() && (volajici == QLatin1String(klic) || QLatin1String(klic) == QLatin1String("VM")));
+        connect(a, &QAction::triggered, this, [this, k = QString::fromLatin1(klic)] { prikaz(k); });
     }
     m_lstCenik = new QListWidget;
     m_lstCenik->setObjectName(QStringLiteral("lstCenik"));
@@ -95,6 +107,7 @@ FrmCenik::FrmCenik(Database& cenik, Prompt& prompt, QWidget* rodic) : QDialog(ro
         m_img[i]->setAlignment(Qt::AlignCenter);
         m_img[i]->setFrameShape(QFrame::StyledPanel);
         m_img[i]->setToolTip(QStringLiteral("kliknutím zobrazíte detail vybraného materiálu"));
+        m_img[i]->setCursor(Qt::PointingHandCursor);
         m_img[i]->installEventFilter(this);
         obrazky->addWidget(m_img[i]);
     }
@@ -117,6 +130,7 @@ FrmCenik::FrmCenik(Database& cenik, Prompt& prompt, QWidget* rodic) : QDialog(ro
     telo->addLayout(vpravo);
     auto* l = new QVBoxLayout(this);
     l->addWidget(nastroje);
+    l->addWidget(volba);
     l->addLayout(telo);
     NaplnCenik();
 }
@@ -150,6 +164,20 @@ void FrmCenik::detail(const QString& nazev)
     }
 }
 
+bool FrmCenik::eventFilter(QObject* o, QEvent* e)
+{
+    for (int i = 0; i < 2; ++i)
+        if (o == m_img[i] && e->type() == QEvent::MouseButtonRelease && m_obr[i]) {
+            const QImage obr = Knihovna::obrazek(m_cenik, Knihovna::Druh::Obrazky, m_obr[i]);
+            if (!obr.isNull()) {
+                FrmNahled nahled(obr, m_lstCenik->currentItem() ? m_lstCenik->currentItem()->text() : QString(), m_prompt, this);
+                nahled.exec();
+            }
+            return true;
+        }
+    return QDialog::eventFilter(o, e);
+}
+
 void FrmCenik::prikaz(const QString& klic)
 {
     const QString nazev = m_lstCenik->currentItem() ? m_lstCenik->currentItem()->text() : QString();
@@ -167,6 +195,11 @@ void FrmCenik::prikaz(const QString& klic)
             Cenik::TiskCeniku(vsp.dokument(), m_cenik, Cenik::ulozenyVyber(), Cenik::ulozeneRazeni());
             vsp.obnov();
             vsp.exec();
+        } else if (QStringList{QStringLiteral("VM"), QStringLiteral("VF"), QStringLiteral("VH"), QStringLiteral("EP")}.contains(klic)) {
+            if (nazev.isEmpty())
+                return;
+            m_vybrano = nazev;
+            accept();
         } else if (klic == QLatin1String("Konec"))
             close();
     } catch (const Error& e) {

@@ -14,12 +14,17 @@ class QListWidget;
 class FrmCenik : public QDialog {
     Q_OBJECT
 public:
-    FrmCenik(Database& cenik, Prompt& prompt, QWidget* rodic);
+    // klic: the calling field's key (VM, VF, VH, EP), which enables the choosing keys; empty
+    // when opened from the menu.
+    FrmCenik(Database& cenik, Prompt& prompt, QWidget* rodic, const QString& klic = QString());
 
     void NaplnCenik();
-    void prikaz(const QString& klic); // NPoložka, UPoložky, OPoložky, TiskPC, Konec
+    void prikaz(const QString& klic); // NPoložka, UPoložky, OPoložky, TiskPC, Konec, VM, VF, VH, EP
     // The item chosen with VM, VF, VH or EP: its name (empty when the window closed otherwise).
     QString vybrano() const { return m_vybrano; }
+
+protected:
+    bool eventFilter(QObject* o, QEvent* e) override; // a click on a picture: frmNahled
 
 private:
     void detail(const QString& nazev);

@@ -16,7 +16,9 @@
 
 #include <QDialog>
 
+class Database;
 class QComboBox;
+class QImage;
 class QLabel;
 class QProgressBar;
 class QPushButton;
@@ -73,6 +75,11 @@ public:
                        const std::function<std::optional<Prislusenstvi::Polozka>(const QString&)>& zCeniku,
                        const std::function<PoUlozeni(const Prislusenstvi::Zadani&)>& ulozit);
 
+    // The price list and the schema library behind the entry frames: the name combos list the
+    // price list's group, a key opens frmCenik (VM, VF, VH, EP) or frmSchema. Without it the
+    // frames offer neither.
+    void pripojCenik(Database& cenik, Prompt& prompt);
+
     // fraKalkulace: the order's assemblies as the tree shows them, all selected, for the report
     // named vypis; the rows chosen, or nothing when the dialog was left by Zpět.
     std::optional<QList<int>> kalkulace(const QString& vypis, const QStringList& sestavy);
@@ -87,6 +94,16 @@ public:
 private:
     void ukaz(QWidget* ramec, const QString& titulek, int navic);
 
+    // The names of a price-list group ("PM", "H", "P") in the saved order; empty without one.
+    QStringList nazvyCeniku(const QString& vyber) const;
+    // A button that opens frmCenik with the caller's key and hands the chosen item to prevezmi.
+    QPushButton* tlacitkoCeniku(const QString& klic, const std::function<void(const QString& nazev, double cena, const QString& jednotka)>& prevezmi);
+    // A button that opens frmSchema on the schema in lblSchema and puts the choice there.
+    QPushButton* tlacitkoSchematu(QLabel* lblSchema, QLabel* imgSchema);
+    void ukazSchema(int ide, QLabel* imgSchema) const;
+
+    Database* m_cenik = nullptr;
+    Prompt* m_prompt = nullptr;
     QStackedWidget* m_ramce;
     QWidget* m_fraVolbaNP;
     QComboBox* m_cmbMaterialNP;

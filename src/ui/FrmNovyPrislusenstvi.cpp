@@ -41,8 +41,15 @@ void FrmNovy::prislusenstvi(const QString& tag, const QStringList& nazvy, const 
     auto* radekCeny = new QHBoxLayout;
     radekCeny->addWidget(cena);
     radekCeny->addWidget(popisek);
+    auto* radekNazvu = new QHBoxLayout;
+    radekNazvu->addWidget(nazev, 1);
+    radekNazvu->addWidget(tlacitkoCeniku(QStringLiteral("EP"), [=](const QString& n, double c, const QString& j) {
+        nazev->setCurrentText(n);
+        cena->setText(Jednotky::cislo(c));
+        jednotka->setCurrentText(j);
+    }));
     auto* formular = new QFormLayout;
-    formular->addRow(QStringLiteral("Název:"), nazev);
+    formular->addRow(QStringLiteral("Název:"), radekNazvu);
     formular->addRow(QStringLiteral("Množství:"), pocet);
     formular->addRow(QStringLiteral("Jednotka:"), jednotka);
     formular->addRow(QStringLiteral("Cena bez DPH:"), radekCeny);

@@ -174,7 +174,19 @@ void FrmNovy::sestava(const QString& tag, const Zakazky::Sestava& s,
     r.formular->addRow(QStringLiteral("Název:"), nazev);
     r.formular->addRow(QStringLiteral("Popis:"), popis);
     r.formular->addRow(QStringLiteral("Počet:"), pocet);
-    r.formular->addRow(QStringLiteral("Schema:"), schema);
+    auto* imgSchema = new QLabel;
+    imgSchema->setObjectName(QStringLiteral("imgSchema"));
+    imgSchema->setFixedSize(160, 120);
+    imgSchema->setAlignment(Qt::AlignCenter);
+    imgSchema->setFrameShape(QFrame::StyledPanel);
+    auto* radekSchematu = new QHBoxLayout;
+    radekSchematu->addWidget(schema);
+    radekSchematu->addWidget(tlacitkoSchematu(schema, imgSchema));
+    radekSchematu->addStretch();
+    r.formular->addRow(QStringLiteral("Schema:"), radekSchematu);
+    r.formular->addRow(QString(), imgSchema);
+    if (!m_cenik)
+        imgSchema->hide();
     auto stav = [=, this] { r.ulozit->setEnabled(Tag != QLatin1String("Najeti") && !nazev->text().trimmed().isEmpty()); };
     Tag = tag;
     connect(nazev, &QLineEdit::textChanged, this, stav);
@@ -206,6 +218,7 @@ void FrmNovy::material(const QString& tag, bool hrana, const Materialy::Material
     nazev->setObjectName(hrana ? QStringLiteral("cmbHrana") : QStringLiteral("txtFormat"));
     nazev->setEditable(true);
     nazev->setMinimumWidth(300);
+    nazev->addItems(nazvyCeniku(hrana ? QStringLiteral("H") : QStringLiteral("PM")));
     auto* fx = pole("txtFX", CiselnePole::Druh::Delka);
     auto* fy = pole("txtFY", CiselnePole::Druh::Delka);
     auto* ov = new QCheckBox(QStringLiteral("Vzor ( neotáčet )"));
@@ -228,7 +241,14 @@ void FrmNovy::material(const QString& tag, bool hrana, const Materialy::Material
     };
     vyplnit(m);
     ukazBarvu();
-    r.formular->addRow(hrana ? QStringLiteral("Název:") : QStringLiteral("Název materiálu:"), nazev);
+    auto* radekNazvu = new QHBoxLayout;
+    radekNazvu->addWidget(nazev, 1);
+    radekNazvu->addWidget(tlacitkoCeniku(hrana ? QStringLiteral("VH") : QStringLiteral("VF"),
+                                         [=](const QString& n, double c, const QString&) {
+                                             nazev->setCurrentText(n);
+                                             cena->setText(Jednotky::cislo(c));
+                                         }));
+    r.formular->addRow(hrana ? QStringLiteral("Název:") : QStringLiteral("Název materiálu:"), radekNazvu);
     if (hrana) {
         r.formular->addRow(QStringLiteral("Cena bez DPH:"), cena);
         r.formular->addRow(QStringLiteral("Barva v NP:"), barva);
