@@ -151,6 +151,8 @@ void cenik(Uloziste& u, Prompt& prompt, FrmBorovak& okno, const QString& vystup)
     zachytModalni(vystup, QStringLiteral("frmNovy-fraTyp-schema"));
     okno.prikaz(QStringLiteral("USestava"));
     okno.resize(1100, 700);
+    emit strom->itemClicked(strom->topLevelItem(0), 0); // the schema was set behind the window's back:
+    emit strom->itemClicked(strom->topLevelItem(0)->child(0), 0); // select the assembly anew
     uloz(&okno, vystup, QStringLiteral("frmBorovak-schema"));
 }
 
