@@ -284,31 +284,43 @@ Hodnoty zobraz()
     return h;
 }
 
-std::optional<Odmitnuti> over(const Hodnoty& hodnoty)
+namespace {
+
+using Zapis = std::vector<std::pair<const Pole*, QString>>;
+
+// Every given text converted for storing, in save order, or the first refusal. Conversions read
+// the unit, so all of them happen before anything is written.
+std::optional<Odmitnuti> preved(const Hodnoty& hodnoty, Zapis& zapis)
 {
     for (auto it = hodnoty.begin(); it != hodnoty.end(); ++it)
         if (!najdi(it.key()))
             return Odmitnuti{it.key(), QStringLiteral("Nastavení „%1“ neexistuje.").arg(it.key())};
     for (const Pole& p : tabulka) {
         const auto it = hodnoty.find(QLatin1String(p.klic));
+        if (it == hodnoty.end())
+            continue;
         QString zprava;
-        if (it != hodnoty.end() && !hodnotaKUlozeni(p, *it, zprava))
+        const std::optional<QString> text = hodnotaKUlozeni(p, *it, zprava);
+        if (!text)
             return Odmitnuti{it.key(), zprava};
+        zapis.emplace_back(&p, *text);
     }
     return std::nullopt;
 }
 
+} // namespace
+
+std::optional<Odmitnuti> over(const Hodnoty& hodnoty)
+{
+    Zapis zapis;
+    return preved(hodnoty, zapis);
+}
+
 void uloz(const Hodnoty& hodnoty)
 {
-    if (const auto o = over(hodnoty))
+    Zapis zapis;
+    if (const auto o = preved(hodnoty, zapis))
         throw Error(Chyba::NeplatnyVstup, o->zprava);
-    // Conversions read the unit, so every text is converted before anything is written.
-    std::vector<std::pair<const Pole*, QString>> zapis;
-    for (const Pole& p : tabulka)
-        if (const auto it = hodnoty.find(QLatin1String(p.klic)); it != hodnoty.end()) {
-            QString zprava;
-            zapis.emplace_back(&p, *hodnotaKUlozeni(p, *it, zprava));
-        }
     for (const auto& [p, text] : zapis)
         Nastaveni::SaveSetting(QLatin1String(p->sekce), QLatin1String(p->klic), text);
 }

@@ -335,12 +335,7 @@ bool FrmOptions::Pouzit()
             e->selectAll();
         return false;
     }
-    try {
-        Moznosti::uloz(h);
-    } catch (const Error& e) {
-        m_prompt.zprava(e.text(), Moznosti::TitulekOdmitnuti, Prompt::Ikona::Vykricnik);
-        return false;
-    }
+    Moznosti::uloz(h); // checked above: it stores
     if (m_obnov)
         m_obnov();
     m_cmdPouzit->setEnabled(false);

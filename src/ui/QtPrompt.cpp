@@ -1,6 +1,7 @@
 #include "ui/QtPrompt.h"
 
 #include "core/Error.h"
+#include "printing/Operace.h"
 
 #include <QApplication>
 #include <QColorDialog>
@@ -66,17 +67,12 @@ QString QtPrompt::soubor(bool ulozit, const QString& titulek, const QString& slo
     return vybrany;
 }
 
-namespace {
-QColor zBgr(quint32 bgr) { return QColor(int(bgr & 0xff), int(bgr >> 8 & 0xff), int(bgr >> 16 & 0xff)); }
-quint32 doBgr(const QColor& c) { return quint32(c.red()) | quint32(c.green()) << 8 | quint32(c.blue()) << 16; }
-}
-
 quint32 QtPrompt::barva(quint32 bgr, const QString& titulek)
 {
-    const QColor c = QColorDialog::getColor(zBgr(bgr), m_rodic, titulek);
+    const QColor c = QColorDialog::getColor(Barva::zVB(bgr), m_rodic, titulek);
     if (!c.isValid())
         throw Error(Chyba::Zruseno, QStringLiteral("Zrušeno"));
-    return doBgr(c);
+    return quint32(Barva::doVB(c));
 }
 
 // Qt's font dialog has no colour; the colour is asked right after, and a cancel there keeps
@@ -94,8 +90,8 @@ VolbaPisma QtPrompt::pismo(const VolbaPisma& puvodni, const QString& titulek)
         throw Error(Chyba::Zruseno, QStringLiteral("Zrušeno"));
     VolbaPisma p{vybrany.family(), qMax(1, vybrany.pointSize()), vybrany.bold(), vybrany.italic(),
                  vybrany.underline(), vybrany.strikeOut(), puvodni.barva};
-    const QColor c = QColorDialog::getColor(zBgr(puvodni.barva), m_rodic, titulek + QStringLiteral(" – barva"));
+    const QColor c = QColorDialog::getColor(Barva::zVB(puvodni.barva), m_rodic, titulek + QStringLiteral(" – barva"));
     if (c.isValid())
-        p.barva = doBgr(c);
+        p.barva = quint32(Barva::doVB(c));
     return p;
 }
