@@ -83,13 +83,29 @@ QString createTable(const Tabulka& t)
     return QStringLiteral("CREATE TABLE %1 (%2);").arg(QLatin1String(t.nazev), sloupce.join(QStringLiteral(", ")));
 }
 
-// Lookups that every edit and every plan step makes; they change no result, only its speed.
-const char* indexy_[] = {
-    "CREATE INDEX ixZakazky ON Zakazky (Zakazka, Sestava, Oznaceni);",
-    "CREATE INDEX ixZakazkyMaterialy ON ZakazkyMaterialy (Zakazka);",
+// Lookups that every edit, every plan step and every price-list check makes; they change no
+// result, only its speed.
+struct Index {
+    Soubor soubor;
+    const char* sql;
+};
+const Index indexy_[] = {
+    {Soubor::Data, "CREATE INDEX IF NOT EXISTS ixZakazky ON Zakazky (Zakazka, Sestava, Oznaceni);"},
+    {Soubor::Data, "CREATE INDEX IF NOT EXISTS ixZakazkyMaterialy ON ZakazkyMaterialy (Zakazka);"},
+    {Soubor::Cenik, "CREATE INDEX IF NOT EXISTS ixCenikNazev ON Cenik (nazev);"},
+    {Soubor::Cenik, "CREATE INDEX IF NOT EXISTS ixCenikKod ON Cenik (kod);"},
 };
 
 } // namespace
+
+QString vytvorIndexy(Soubor soubor)
+{
+    QString sql;
+    for (const Index& i : indexy_)
+        if (i.soubor == soubor)
+            sql += QLatin1String(i.sql);
+    return sql;
+}
 
 QStringList tabulky(Soubor soubor)
 {
@@ -103,9 +119,9 @@ QStringList tabulky(Soubor soubor)
 QStringList indexy(Soubor soubor)
 {
     QStringList nazvy;
-    if (soubor == Soubor::Data)
-        for (const char* i : indexy_)
-            nazvy << QString::fromLatin1(i).section(QLatin1Char(' '), 2, 2);
+    for (const Index& i : indexy_)
+        if (i.soubor == soubor)
+            nazvy << QString::fromLatin1(i.sql).section(QLatin1Char(' '), 5, 5);
     return nazvy;
 }
 
@@ -129,9 +145,7 @@ void vytvor(const QString& cesta, Soubor soubor)
     for (const Tabulka& t : tabulkyDef)
         if (t.soubor == soubor)
             sql += createTable(t);
-    if (soubor == Soubor::Data)
-        for (const char* i : indexy_)
-            sql += QLatin1String(i);
+    sql += vytvorIndexy(soubor);
     sql += QStringLiteral("COMMIT;");
 
     const QString docasny = cesta + QStringLiteral(".tmp-vytvor");

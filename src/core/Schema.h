@@ -15,6 +15,9 @@ enum class Soubor { Data, Cenik };
 QStringList tabulky(Soubor soubor);
 QStringList sloupce(const QString& tabulka);
 QStringList indexy(Soubor soubor); // the indexes our files carry
+// Their creation, harmless on a file that has them: a file made before an index was added
+// gets it when it is opened for writing.
+QString vytvorIndexy(Soubor soubor);
 
 // Creates the file with every table, empty, through a temporary file renamed into place, so a
 // crash leaves no half-made database. Throws Error (75, 3051, 3799) when it cannot be written.

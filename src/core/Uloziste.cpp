@@ -2,6 +2,7 @@
 
 #include "core/Aplikace.h"
 #include "core/Error.h"
+#include "core/Schema.h"
 #include "core/SqliteChyba.h"
 
 #include <QDir>
@@ -77,6 +78,13 @@ void Uloziste::otevriData()
 {
     m_dataS = std::make_unique<Database>(Aplikace::dataS(), Database::Rezim::Data);
     m_cenik = std::make_unique<Database>(Aplikace::cenik(), Database::Rezim::Data);
+    for (auto [db, druh] : {std::pair{m_dataS.get(), Schema::Soubor::Data}, {m_cenik.get(), Schema::Soubor::Cenik}}) {
+        try {
+            db->executeSqlite(Schema::vytvorIndexy(druh));
+        } catch (const Error&) {
+            // only speed is lost; a file that cannot be written says so at the first real write
+        }
+    }
 }
 
 Uloziste::Vyhradne::Vyhradne(Uloziste& u) : m_u(u)

@@ -195,3 +195,17 @@ TEST_F(Uloziste_, DrzeneUlozisteHlasi3356)
     ::close(fd);
     EXPECT_EQ(cisloChyby([&] { Uloziste u(false); }), 0);
 }
+
+TEST_F(Uloziste_, SouborBezIndexuHoDostanePriOtevreni)
+{
+    // a price list written before its lookups were indexed: the checks of a bulk load would
+    // scan the whole table once per item
+    uloziste().cenik().executeSqlite(QStringLiteral("DROP INDEX ixCenikNazev; DROP INDEX ixCenikKod;"));
+    uloziste().zavriData();
+    uloziste().otevriData();
+    const auto p = uloziste().cenik().prikaz(QStringLiteral("SELECT name FROM sqlite_master WHERE type = 'index' ORDER BY name DESC"));
+    QStringList nalezene;
+    while (p->krok())
+        nalezene << p->sloupec(0).toString();
+    EXPECT_EQ(nalezene, Schema::indexy(Schema::Soubor::Cenik));
+}
