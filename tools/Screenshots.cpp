@@ -17,6 +17,8 @@
 #include "ui/FrmObr.h"
 #include "catalogues/Cenik.h"
 #include "catalogues/Knihovna.h"
+#include "printing/Dokument.h"
+#include "printing/Vykresleni.h"
 #include "optimiser/PlanRun.h"
 #include "planoutput/Stitky.h"
 #include "costing/Vypisy.h"
@@ -127,6 +129,11 @@ void cenik(Uloziste& u, Prompt& prompt, FrmBorovak& okno, const QString& vystup)
         {QStringLiteral("Čep 8 x 35"), QStringLiteral("301"), QStringLiteral("0.60"), QStringLiteral("ks"), QStringLiteral("P"), 0, 0},
         {QStringLiteral("Úchytka oblouk 128"), QStringLiteral("302"), QStringLiteral("45.50"), QStringLiteral("pár"), QStringLiteral("P"), 0, 0}};
     Cenik::nahraj(u.cenik(), prompt, polozky);
+    {
+        Dokument d; // the printed list as a page; the script turns every PDF here into PNG
+        Cenik::TiskCeniku(d, u.cenik(), Cenik::ulozenyVyber(), Cenik::ulozeneRazeni());
+        Vykresleni::pdf(d, vystup + QStringLiteral("/TiskCeniku.pdf"), QString::fromUtf8(Cenik::TitulekVypisu));
+    }
     {
         FrmCenik c(u.cenik(), prompt, &okno, QStringLiteral("EP"));
         c.resize(900, 560);
