@@ -19,6 +19,7 @@ constexpr double MaxKod = 100000;
 constexpr double MaxCena = 10000;
 inline const char* const NazvyJednotek[] = {"ks", "pár", "balení", "m2", "bm"};
 inline const char* const Skupiny[] = {"PM", "H", "P"};
+inline const char* const NazvySkupin[] = {"Plošný materiál", "Hrany", "Příslušenství"};
 inline const char* const TitulekVypisu = "Výpis z ceníku";
 
 struct Polozka {

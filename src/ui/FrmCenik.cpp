@@ -7,13 +7,10 @@
 #include "core/Prompt.h"
 #include "printing/Obrazky.h"
 #include "ui/FrmNahled.h"
-#include "ui/FrmObr.h"
+#include "ui/FrmPolozka.h"
 #include "ui/FrmVSP.h"
 
-#include <QButtonGroup>
 #include <QCheckBox>
-#include <QComboBox>
-#include <QDialogButtonBox>
 #include <QEvent>
 #include <QFormLayout>
 #include <QGroupBox>
@@ -21,16 +18,17 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QPushButton>
 #include <QRadioButton>
-#include <QScrollArea>
 #include <QToolBar>
 #include <QVBoxLayout>
 
 namespace {
 
 const char* const razeni[][2] = {{"nazev", "Název"}, {"Kod", "Kód"}, {"Cena", "Cena"}, {"Jednotka", "Jednotka"}};
-const char* const vybery[][2] = {{"PM", "Plošný materiál"}, {"H", "Hrany"}, {"P", "Příslušenství"}, {"VSE", "Vše"}};
+const char* const vybery[][2] = {{Cenik::Skupiny[0], Cenik::NazvySkupin[0]},
+                                 {Cenik::Skupiny[1], Cenik::NazvySkupin[1]},
+                                 {Cenik::Skupiny[2], Cenik::NazvySkupin[2]},
+                                 {"VSE", "Vše"}};
 
 } // namespace
 
@@ -209,88 +207,11 @@ void FrmCenik::prikaz(const QString& klic)
 
 bool FrmCenik::polozka(const QString& staryNazev)
 {
-    QDialog d(this);
-    d.setObjectName(QStringLiteral("frmPolozka"));
-    d.setWindowTitle(staryNazev.isNull() ? QStringLiteral(" Přidání nové položky ...") : QStringLiteral(" Upravení položky ..."));
-    const Cenik::Polozka p = staryNazev.isNull() ? Cenik::Polozka{} : Cenik::nacti(m_cenik, staryNazev).value_or(Cenik::Polozka{});
-    auto* nazev = new QLineEdit(p.nazev);
-    nazev->setObjectName(QStringLiteral("txtNazev"));
-    nazev->setMaxLength(Cenik::MaxNazev + 1);
-    nazev->setMinimumWidth(300);
-    auto* kod = new QLineEdit(p.kod ? QString::number(p.kod) : QString());
-    kod->setObjectName(QStringLiteral("txtKod"));
-    auto* cena = new QLineEdit(staryNazev.isNull() ? QString() : QString::number(p.cena, 'f', 2));
-    cena->setObjectName(QStringLiteral("txtCena"));
-    auto* sDph = new QLabel;
-    sDph->setObjectName(QStringLiteral("lblCenaDPH"));
-    auto* jednotka = new QComboBox;
-    jednotka->setObjectName(QStringLiteral("txtJednotka"));
-    for (const char* j : Cenik::NazvyJednotek)
-        jednotka->addItem(QString::fromUtf8(j));
-    jednotka->setEditable(true);
-    jednotka->setCurrentText(p.jednotka.isEmpty() ? QStringLiteral("ks") : p.jednotka);
-    auto* skupiny = new QButtonGroup(&d);
-    auto* radia = new QHBoxLayout;
-    for (int i = 0; i < 3; ++i) {
-        auto* r = new QRadioButton(QString::fromUtf8(vybery[i][1]));
-        r->setObjectName(QStringLiteral("opt") + QLatin1String(vybery[i][0]));
-        r->setChecked(p.skupina == QLatin1String(vybery[i][0]) || (p.skupina.isEmpty() && i == 0));
-        skupiny->addButton(r, i);
-        radia->addWidget(r);
-    }
-    int obr[2] = {p.obr1, p.obr2};
-    QLabel* lblO[2];
-    auto* obrazky = new QHBoxLayout;
-    for (int i = 0; i < 2; ++i) {
-        lblO[i] = new QLabel(obr[i] ? QString::number(obr[i]) : QString());
-        lblO[i]->setObjectName(QStringLiteral("lblO%1").arg(i + 1));
-        auto* b = new QPushButton(QStringLiteral("Obrázek %1...").arg(i + 1));
-        connect(b, &QPushButton::clicked, &d, [&, i] {
-            // the caller's mark: "N" for the first picture, "D" for the second
-            FrmObr okno(m_cenik, m_prompt, Knihovna::Druh::Obrazky, obr[i], true, &d);
-            okno.setProperty("Tag", i == 0 ? QStringLiteral("N") : QStringLiteral("D"));
-            if (okno.exec() == QDialog::Accepted && okno.volba()) {
-                obr[i] = *okno.volba();
-                lblO[i]->setText(obr[i] ? QString::number(obr[i]) : QString());
-            }
-        });
-        obrazky->addWidget(b);
-        obrazky->addWidget(lblO[i]);
-    }
-    auto ukazDph = [&] {
-        bool ok = false;
-        const double c = QString(cena->text()).replace(QLatin1Char(','), QLatin1Char('.')).toDouble(&ok);
-        sDph->setText(ok ? QString::number(Cenik::cenaSDPH(c, Nastaveni::cislo(QStringLiteral("Setting2"), QStringLiteral("DPH"))), 'f', 2)
-                         : QString());
-    };
-    ukazDph();
-    connect(cena, &QLineEdit::textChanged, &d, ukazDph);
-    auto* f = new QFormLayout;
-    f->addRow(QStringLiteral("Název:"), nazev);
-    f->addRow(QStringLiteral("Kód:"), kod);
-    f->addRow(QStringLiteral("Cena bez DPH:"), cena);
-    f->addRow(QStringLiteral("Cena položky s DPH"), sDph);
-    f->addRow(QStringLiteral("Jednotka:"), jednotka);
-    f->addRow(QStringLiteral("Zařazení:"), radia);
-    f->addRow(QStringLiteral("Obrázky:"), obrazky);
-    auto* tlacitka = new QDialogButtonBox(QDialogButtonBox::Save | QDialogButtonBox::Cancel);
-    tlacitka->button(QDialogButtonBox::Save)->setText(QStringLiteral("Uložit"));
-    tlacitka->button(QDialogButtonBox::Cancel)->setText(QStringLiteral("Zpět"));
-    connect(tlacitka, &QDialogButtonBox::rejected, &d, &QDialog::reject);
-    connect(tlacitka, &QDialogButtonBox::accepted, &d, [&] {
-        const Cenik::Zadani z{nazev->text(), kod->text(), cena->text(), jednotka->currentText(),
-                              QLatin1String(vybery[qMax(0, skupiny->checkedId())][0]), obr[0], obr[1]};
-        if (Cenik::UlozitPolozku(m_cenik, m_prompt, staryNazev, z))
-            d.accept();
-    });
-    auto* l = new QVBoxLayout(&d);
-    l->addLayout(f);
-    l->addWidget(tlacitka);
-    const bool ulozeno = d.exec() == QDialog::Accepted;
-    if (ulozeno) {
-        NaplnCenik();
-        if (const auto n = m_lstCenik->findItems(nazev->text(), Qt::MatchFixedString); !n.isEmpty())
-            m_lstCenik->setCurrentItem(n.first());
-    }
-    return ulozeno;
+    FrmPolozka d(m_cenik, m_prompt, staryNazev, this);
+    if (d.exec() != QDialog::Accepted)
+        return false;
+    NaplnCenik();
+    if (const auto n = m_lstCenik->findItems(d.nazev(), Qt::MatchFixedString); !n.isEmpty())
+        m_lstCenik->setCurrentItem(n.first());
+    return true;
 }

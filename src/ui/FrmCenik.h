@@ -1,7 +1,7 @@
 #pragma once
 // frmCenik: the price list lstCenik in the chosen group and order (both saved at once), the
 // search, the chosen item's detail with its two pictures, and the keys for a new item, an edit
-// (frmPolozka), deletion and the printed list. frmPolozka is the small item form inside.
+// (frmPolozka), deletion and the printed list.
 #include <QDialog>
 
 class Database;

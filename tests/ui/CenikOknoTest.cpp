@@ -1,0 +1,271 @@
+// The price list's windows as a joiner uses them: a new item refused and corrected without
+// losing what was typed, its pictures chosen in the library under the marks "N" and "D"; and
+// the choosing keys handing an item to the format, edge and accessory frames of an order.
+#include "OknoTest.h"
+#include "SkriptovanyPrompt.h"
+#include "catalogues/Cenik.h"
+#include "catalogues/Knihovna.h"
+#include "ui/FrmCenik.h"
+#include "ui/FrmNovy.h"
+#include "ui/FrmObr.h"
+#include "ui/FrmPolozka.h"
+
+#include <QApplication>
+#include <QBuffer>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTimer>
+#include <deque>
+#include <functional>
+
+namespace {
+
+// Works through the modal windows in turn: each step acts on the window it waits for and says
+// so; message boxes are read and closed between the steps. With no step left, any window is
+// closed, so an unexpected one fails the test instead of hanging it.
+class Kroky {
+public:
+    using Krok = std::function<bool(QWidget*)>;
+    explicit Kroky(std::deque<Krok> kroky) : m_kroky(std::move(kroky))
+    {
+        QObject::connect(&m_casovac, &QTimer::timeout, [this] { dalsi(); });
+        m_casovac.start(5);
+    }
+    QStringList zpravy;
+    bool hotovo() const { return m_kroky.empty(); }
+
+private:
+    void dalsi()
+    {
+        QWidget* w = QApplication::activeModalWidget();
+        if (auto* b = qobject_cast<QMessageBox*>(w)) {
+            zpravy << b->text();
+            b->accept();
+        } else if (w && m_kroky.empty()) {
+            if (auto* d = qobject_cast<QDialog*>(w))
+                d->reject();
+        } else if (w && m_kroky.front()(w))
+            m_kroky.pop_front();
+    }
+    std::deque<Krok> m_kroky;
+    QTimer m_casovac;
+};
+
+// A click that may open a modal window: queued, so that the step returns first.
+void klikni(QWidget* okno, const char* tlacitko)
+{
+    QMetaObject::invokeMethod(okno->findChild<QPushButton*>(QLatin1String(tlacitko)), "click", Qt::QueuedConnection);
+}
+
+QString text(QWidget* okno, const char* pole)
+{
+    return okno->findChild<QLineEdit*>(QLatin1String(pole))->text();
+}
+
+void napis(QWidget* okno, const char* pole, const QString& t)
+{
+    okno->findChild<QLineEdit*>(QLatin1String(pole))->setText(t);
+}
+
+const QString Dub = QStringLiteral("DTD dub 'Rustikál' 18");
+const QString Hrana = QStringLiteral("ABS bílá 2 mm");
+const QString Cep = QStringLiteral("Čep 8 x 35");
+
+class CenikOkno : public OknoTest {
+protected:
+    void SetUp() override
+    {
+        OknoTest::SetUp();
+        Nastaveni::SaveSetting(QStringLiteral("Setting2"), QStringLiteral("DPH"), QStringLiteral("21"));
+        SkriptovanyPrompt tichy;
+        for (const char* nazev : {"dub.png", "buk.png"}) {
+            QImage obr(40, 30, QImage::Format_RGB32);
+            obr.fill(Qt::darkYellow);
+            QByteArray png;
+            QBuffer b(&png);
+            b.open(QIODevice::WriteOnly);
+            obr.save(&b, "PNG");
+            ide << Knihovna::pridej(uloziste().cenik(), tichy, Knihovna::Druh::Obrazky, QLatin1String(nazev), png);
+        }
+        ASSERT_EQ(Cenik::nahraj(uloziste().cenik(), tichy,
+                                {{Dub, QStringLiteral("101"), QStringLiteral("412.50"), QStringLiteral("m2"), QStringLiteral("PM"), ide[0], 0},
+                                 {Hrana, QStringLiteral("201"), QStringLiteral("14.90"), QStringLiteral("bm"), QStringLiteral("H"), 0, 0},
+                                 {Cep, QStringLiteral("301"), QStringLiteral("0.60"), QStringLiteral("ks"), QStringLiteral("P"), 0, 0}}),
+                  -1);
+    }
+
+    QList<int> ide; // the two pictures
+};
+
+} // namespace
+
+TEST_F(CenikOkno, NovaPolozkaOdmitnutaOpravenaASObrazkemZKnihovny)
+{
+    const QString nazev = QStringLiteral("Dub 'Rustikál' masiv");
+    FrmCenik cenik(uloziste().cenik(), prompt, okno.get());
+    QString znacka, nazevPoOdmitnuti, sDph;
+    bool nahled = false;
+    Kroky k({[&](QWidget* w) {
+                 auto* d = qobject_cast<FrmPolozka*>(w);
+                 if (!d)
+                     return false;
+                 napis(d, "txtNazev", nazev);
+                 napis(d, "txtKod", QStringLiteral("12"));
+                 napis(d, "txtCena", QStringLiteral("10000,01")); // a cent over the limit
+                 sDph = d->findChild<QLabel*>(QStringLiteral("lblCenaDPH"))->text();
+                 klikni(d, "cmdUlozit");
+                 return true;
+             },
+             [&](QWidget* w) {
+                 auto* d = qobject_cast<FrmPolozka*>(w);
+                 if (!d)
+                     return false;
+                 nazevPoOdmitnuti = text(d, "txtNazev");
+                 napis(d, "txtCena", QStringLiteral("10000"));
+                 klikni(d, "cmdObr1");
+                 return true;
+             },
+             [&](QWidget* w) {
+                 auto* o = qobject_cast<FrmObr*>(w);
+                 if (!o)
+                     return false;
+                 znacka = o->parentWidget()->findChild<QGroupBox*>(QStringLiteral("fraNCenik"))->property("Tag").toString();
+                 o->findChild<QScrollBar*>(QStringLiteral("HScroll1"))->setValue(1);
+                 o->findChild<QPushButton*>(QStringLiteral("cmdV"))->click();
+                 return true;
+             },
+             [&](QWidget* w) {
+                 auto* d = qobject_cast<FrmPolozka*>(w);
+                 if (!d)
+                     return false;
+                 nahled = !d->findChild<QLabel*>(QStringLiteral("lblO1"))->pixmap().isNull();
+                 klikni(d, "cmdUlozit");
+                 return true;
+             }});
+    cenik.prikaz(QStringLiteral("NPoložka"));
+
+    EXPECT_TRUE(k.hotovo());
+    EXPECT_EQ(sDph, QStringLiteral("12100.01")); // live, before any save
+    EXPECT_EQ(k.zpravy, QStringList{QStringLiteral("Do pole CENA zadejte číselnou nenulovou hodnotu v intervalu do 10 000")});
+    EXPECT_EQ(nazevPoOdmitnuti, nazev);
+    EXPECT_EQ(znacka, QStringLiteral("N"));
+    EXPECT_TRUE(nahled);
+    const auto p = Cenik::nacti(uloziste().cenik(), nazev);
+    ASSERT_TRUE(p);
+    EXPECT_EQ(p->kod, 12);
+    EXPECT_DOUBLE_EQ(p->cena, 10000);
+    EXPECT_EQ(p->obr1, ide[1]);
+    EXPECT_EQ(p->obr2, 0);
+    EXPECT_EQ(cenik.findChild<QListWidget*>(QStringLiteral("lstCenik"))->currentItem()->text(), nazev);
+}
+
+TEST_F(CenikOkno, UpravaSvehoNazvuDruhyObrazekAOdebraniPrvniho)
+{
+    FrmCenik cenik(uloziste().cenik(), prompt, okno.get());
+    auto* seznam = cenik.findChild<QListWidget*>(QStringLiteral("lstCenik"));
+    seznam->setCurrentItem(seznam->findItems(Dub, Qt::MatchExactly).value(0));
+    QString znacka, cenaVeFormulari;
+    Kroky k({[&](QWidget* w) {
+                 auto* d = qobject_cast<FrmPolozka*>(w);
+                 if (!d)
+                     return false;
+                 cenaVeFormulari = text(d, "txtCena");
+                 napis(d, "txtCena", QStringLiteral("420"));
+                 d->findChild<QPushButton*>(QStringLiteral("cmdBezObr1"))->click();
+                 klikni(d, "cmdObr2");
+                 return true;
+             },
+             [&](QWidget* w) {
+                 auto* o = qobject_cast<FrmObr*>(w);
+                 if (!o)
+                     return false;
+                 znacka = o->parentWidget()->findChild<QGroupBox*>(QStringLiteral("fraNCenik"))->property("Tag").toString();
+                 o->findChild<QPushButton*>(QStringLiteral("cmdV"))->click(); // the first record
+                 return true;
+             },
+             [&](QWidget* w) {
+                 auto* d = qobject_cast<FrmPolozka*>(w);
+                 if (!d)
+                     return false;
+                 klikni(d, "cmdUlozit");
+                 return true;
+             }});
+    cenik.prikaz(QStringLiteral("UPoložky"));
+
+    EXPECT_TRUE(k.hotovo());
+    EXPECT_TRUE(k.zpravy.isEmpty()) << k.zpravy.join(QLatin1Char('|')).toStdString(); // its own name is no duplicate
+    EXPECT_EQ(cenaVeFormulari, QStringLiteral("412.50"));
+    EXPECT_EQ(znacka, QStringLiteral("D"));
+    const auto p = Cenik::nacti(uloziste().cenik(), Dub);
+    ASSERT_TRUE(p);
+    EXPECT_DOUBLE_EQ(p->cena, 420);
+    EXPECT_EQ(p->obr1, 0);
+    EXPECT_EQ(p->obr2, ide[0]);
+    EXPECT_EQ(cenik.findChild<QLabel*>(QStringLiteral("lblCenaDPH"))->text(), QStringLiteral("508.20 Kč/m2"));
+}
+
+// Each entry frame's "Z ceníku..." opens the price list with its own key and VM on, the others
+// off; the key hands the chosen item's name and price to the frame's fields.
+TEST_F(CenikOkno, KlavesyVolbyPredajiPolozkuPolimZaznamu)
+{
+    struct Pripad {
+        const char* prikaz;
+        bool sestava; // the command needs an assembly selected, not only the order
+        const char* tlacitko;
+        const char* klic; // the key pressed in the price list
+        QString polozka;
+        const char* poleNazvu;
+        const char* poleCeny;
+    };
+    const Pripad pripady[] = {{"NF", false, "cmdVF", "VF", Dub, "txtFormat", "txtFCena"},
+                              {"NH", false, "cmdVH", "VM", Hrana, "cmbHrana", "txtCenaHrany"},
+                              {"NoveP", true, "cmdEP", "EP", Cep, "txtNPrislusenstvi", "txtCena"}};
+    for (const Pripad& p : pripady) {
+        SCOPED_TRACE(p.prikaz);
+        klik(p.sestava ? strom->topLevelItem(0)->child(0) : strom->topLevelItem(0));
+        QStringList zapnute, nazevACena;
+        Kroky k({[&](QWidget* w) {
+                     auto* d = qobject_cast<FrmNovy*>(w);
+                     if (!d || !d->findChild<QPushButton*>(QLatin1String(p.tlacitko)))
+                         return false;
+                     klikni(d, p.tlacitko);
+                     return true;
+                 },
+                 [&](QWidget* w) {
+                     auto* c = qobject_cast<FrmCenik*>(w);
+                     if (!c)
+                         return false;
+                     for (const char* klic : {"VM", "VF", "VH", "EP"})
+                         if (c->findChild<QAction*>(QLatin1String(klic))->isEnabled())
+                             zapnute << QLatin1String(klic);
+                     Cenik::VyberRazeniCeniku(QStringLiteral("VSE"), QStringLiteral("nazev"));
+                     c->NaplnCenik();
+                     auto* seznam = c->findChild<QListWidget*>(QStringLiteral("lstCenik"));
+                     seznam->setCurrentItem(seznam->findItems(p.polozka, Qt::MatchExactly).value(0));
+                     c->findChild<QAction*>(QLatin1String(p.klic))->trigger();
+                     return true;
+                 },
+                 [&](QWidget* w) {
+                     auto* d = qobject_cast<FrmNovy*>(w);
+                     if (!d)
+                         return false;
+                     nazevACena << d->findChild<QComboBox*>(QLatin1String(p.poleNazvu))->currentText() << text(d, p.poleCeny).replace(QLatin1Char(','), QLatin1Char('.'));
+                     d->reject();
+                     return true;
+                 }});
+        okno->prikaz(QLatin1String(p.prikaz));
+        EXPECT_TRUE(k.hotovo());
+        EXPECT_TRUE(k.zpravy.isEmpty()) << k.zpravy.join(QLatin1Char('|')).toStdString();
+        const QString vlastni = QString::fromLatin1(p.tlacitko).mid(3);
+        EXPECT_EQ(zapnute, vlastni == QLatin1String("VM") ? QStringList{vlastni} : QStringList({QStringLiteral("VM"), vlastni}));
+        ASSERT_EQ(nazevACena.size(), 2);
+        EXPECT_EQ(nazevACena[0], p.polozka);
+        EXPECT_DOUBLE_EQ(nazevACena[1].toDouble(), Cenik::nacti(uloziste().cenik(), p.polozka)->cena);
+    }
+}
