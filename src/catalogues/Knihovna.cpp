@@ -33,6 +33,12 @@ std::optional<QByteArray> data(Database& db, Druh druh, int ide)
     return r.value(QStringLiteral("OBR")).toByteArray();
 }
 
+QString nazev(Database& db, Druh druh, int ide)
+{
+    return db.hodnota(QStringLiteral("SELECT nazev FROM ") + tabulka(druh) + QStringLiteral(" WHERE IDE = ") + Dotaz::cislo(ide))
+        .toString();
+}
+
 QImage obrazek(Database& db, Druh druh, int ide)
 {
     const auto bajty = data(db, druh, ide);

@@ -13,6 +13,7 @@
 #include <QCheckBox>
 #include <QEvent>
 #include <QFormLayout>
+#include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -97,8 +98,12 @@ FrmCenik::FrmCenik(Database& cenik, Prompt& prompt, QWidget* rodic, const QStrin
     f->addRow(QStringLiteral("Kód:"), m_lblKod);
     f->addRow(QStringLiteral("Cena bez DPH:"), m_lblCena);
     f->addRow(m_lblDPH, m_lblCenaDPH);
-    auto* obrazky = new QHBoxLayout;
+    auto* obrazky = new QGridLayout;
     for (int i = 0; i < 2; ++i) {
+        m_lblObr[i] = new QLabel;
+        m_lblObr[i]->setObjectName(QStringLiteral("lblObr%1").arg(i + 1));
+        m_lblObr[i]->setAlignment(Qt::AlignCenter);
+        obrazky->addWidget(m_lblObr[i], 1, i);
         m_img[i] = new QLabel;
         m_img[i]->setObjectName(QStringLiteral("img1_%1").arg(i));
         m_img[i]->setFixedSize(160, 120);
@@ -107,7 +112,7 @@ FrmCenik::FrmCenik(Database& cenik, Prompt& prompt, QWidget* rodic, const QStrin
         m_img[i]->setToolTip(QStringLiteral("kliknutím zobrazíte detail vybraného materiálu"));
         m_img[i]->setCursor(Qt::PointingHandCursor);
         m_img[i]->installEventFilter(this);
-        obrazky->addWidget(m_img[i]);
+        obrazky->addWidget(m_img[i], 0, i);
     }
     f->addRow(obrazky);
     auto* hledani = new QHBoxLayout;
@@ -154,6 +159,7 @@ void FrmCenik::detail(const QString& nazev)
     m_obr[0] = p ? p->obr1 : 0;
     m_obr[1] = p ? p->obr2 : 0;
     for (int i = 0; i < 2; ++i) {
+        m_lblObr[i]->setText(m_obr[i] ? Knihovna::nazev(m_cenik, Knihovna::Druh::Obrazky, m_obr[i]) : QString());
         const QImage obr = m_obr[i] ? Knihovna::obrazek(m_cenik, Knihovna::Druh::Obrazky, m_obr[i]) : QImage();
         if (obr.isNull())
             m_img[i]->clear();

@@ -39,7 +39,8 @@ private:
     QLabel* m_lblCena;
     QLabel* m_lblCenaDPH;
     QLabel* m_lblDPH;
-    QLabel* m_img[2];
+    QLabel* m_img[2];    // img1: the item's two pictures, fitted
+    QLabel* m_lblObr[2]; // their names in the library
     int m_obr[2] = {0, 0};
     QString m_vybrano;
 };

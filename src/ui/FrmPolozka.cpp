@@ -136,12 +136,7 @@ void FrmPolozka::ukazObrazek(int i)
 {
     // a picture deleted in the library meanwhile, or one that does not decode: an empty frame
     const QImage obr = m_obr[i] ? Knihovna::obrazek(m_cenik, Knihovna::Druh::Obrazky, m_obr[i]) : QImage();
-    QString nazev;
-    if (m_obr[i])
-        for (const auto& z : Knihovna::seznam(m_cenik, Knihovna::Druh::Obrazky))
-            if (z.ide == m_obr[i])
-                nazev = z.nazev;
-    m_lblO[i]->setToolTip(nazev);
+    m_lblO[i]->setToolTip(m_obr[i] ? Knihovna::nazev(m_cenik, Knihovna::Druh::Obrazky, m_obr[i]) : QString());
     if (obr.isNull())
         m_lblO[i]->setText(m_obr[i] ? QStringLiteral("(nelze zobrazit)") : QStringLiteral("bez obrázku"));
     else

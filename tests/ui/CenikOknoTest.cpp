@@ -208,6 +208,8 @@ TEST_F(CenikOkno, UpravaSvehoNazvuDruhyObrazekAOdebraniPrvniho)
     EXPECT_EQ(p->obr1, 0);
     EXPECT_EQ(p->obr2, ide[0]);
     EXPECT_EQ(cenik.findChild<QLabel*>(QStringLiteral("lblCenaDPH"))->text(), QStringLiteral("508.20 Kč/m2"));
+    EXPECT_EQ(cenik.findChild<QLabel*>(QStringLiteral("lblObr1"))->text(), QString());
+    EXPECT_EQ(cenik.findChild<QLabel*>(QStringLiteral("lblObr2"))->text(), QStringLiteral("dub.png"));
 }
 
 // Each entry frame's "Z ceníku..." opens the price list with its own key and VM on, the others
