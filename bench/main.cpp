@@ -33,6 +33,31 @@
 
 namespace {
 
+// One line of figures; padded by characters, not bytes, so that Czech captions line up.
+void vypis(const QString& popis, const QString& hodnota, const QString& dodatek = {})
+{
+    std::fputs((popis.leftJustified(40) + QLatin1Char(' ') + hodnota.rightJustified(10) + dodatek + QLatin1Char('\n')).toUtf8().constData(),
+               stdout);
+    std::fflush(stdout);
+}
+
+void radekPlanu(const QString& zakazka, const QString& rezim, const QString& desek, const QString& tabuli, const QString& sekund)
+{
+    vypis(zakazka.leftJustified(10) + QLatin1Char(' ') + rezim.leftJustified(12) + QLatin1Char(' ') + desek.rightJustified(7) +
+              QLatin1Char(' ') + tabuli.rightJustified(7),
+          sekund);
+}
+
+void radek(const char* popis, double sekund, const QString& dodatek = {})
+{
+    vypis(QString::fromUtf8(popis), QString::number(sekund, 'f', 3), dodatek);
+}
+
+void nadpis(const char* popis, const char* sloupec)
+{
+    vypis(QString::fromUtf8(popis), QString::fromUtf8(sloupec));
+}
+
 class BezOtazek : public Prompt {
 public:
     Odpoved zprava(const QString&, const QString&, Ikona, Tlacitka) override { return Odpoved::Ano; }
@@ -91,9 +116,9 @@ void zalohaAImport(Uloziste& u)
     }
     const QString soubor = Aplikace::cesta(QStringLiteral("Zálohy dat/bench.bvk"));
     BezOtazek ano;
-    std::printf("%-40s %10s\n", "záloha a obnova (1000 zakázek po 50 deskách)", "sekund");
-    std::printf("%-40s %10.3f\n", "záloha", sekundy([&] { Zaloha::zalohuj(u, Schema::Soubor::Data, soubor); }));
-    std::printf("%-40s %10.3f\n", "obnova", sekundy([&] { Zaloha::obnov(u, Schema::Soubor::Data, soubor, ano); }));
+    nadpis("záloha a obnova (1000 zakázek po 50 deskách)", "sekund");
+    radek("záloha", sekundy([&] { Zaloha::zalohuj(u, Schema::Soubor::Data, soubor); }));
+    radek("obnova", sekundy([&] { Zaloha::obnov(u, Schema::Soubor::Data, soubor, ano); }));
     for (bool stejne : {false, true}) {
         QString text;
         for (int i = 0; i < 10000; ++i)
@@ -101,7 +126,7 @@ void zalohaAImport(Uloziste& u)
         const QString sestava = stejne ? QStringLiteral("Boky") : QStringLiteral("Desky");
         ZakazkaJson::nacti(u.dataS(), QStringLiteral(R"({"zakazka": "import %1", "formaty": [{"material": "DTD", "x": 2800,
                                        "y": 2070}], "sestavy": [{"nazev": "%1"}]})").arg(sestava).toUtf8());
-        std::printf("%-40s %10.3f\n", stejne ? "import 10 000 řádků \"Bok\"" : "import 10 000 řádků, různé názvy",
+        radek(stejne ? "import 10 000 řádků \"Bok\"" : "import 10 000 řádků, různé názvy",
                     sekundy([&] { Import::importuj(u.dataS(), QStringLiteral("import ") + sestava, sestava, text); }));
     }
     std::fflush(stdout);
@@ -116,16 +141,16 @@ void cenik(Uloziste& u, const QString& pdf)
     for (int i = 1; i <= 10000; ++i)
         polozky.push_back({QStringLiteral("Materiál č. %1 dub").arg(i * 7919 % 10007), QString::number(i),
                            QString::number(1 + i % 997), QStringLiteral("ks"), QStringLiteral("P")});
-    std::printf("%-40s %10.3f\n", "ceník: 10 000 položek uloženo", sekundy([&] { Cenik::nahraj(u.cenik(), ano, polozky); }));
+    radek("ceník: 10 000 položek uloženo", sekundy([&] { Cenik::nahraj(u.cenik(), ano, polozky); }));
     for (const char* r : {"nazev", "Kod", "Cena", "Jednotka"})
-        std::printf("%-40s %10.3f\n", (QStringLiteral("ceník: naplnění podle ") + QLatin1String(r)).toUtf8().constData(),
+        radek((QStringLiteral("ceník: naplnění podle ") + QLatin1String(r)).toUtf8().constData(),
                     sekundy([&] { Cenik::NaplnitSeznamCeniku(u.cenik(), QStringLiteral("VSE"), QLatin1String(r)); }));
     const QString hledat = QStringLiteral("č. 12 dub");
     double nejdele = 0;
     for (int i = 1; i <= hledat.size(); ++i)
         nejdele = std::max(nejdele, sekundy([&] { Cenik::hledej(u.cenik(), hledat.left(i)); }));
-    std::printf("%-40s %10.3f\n", "ceník: nejdelší úhoz hledání", nejdele);
-    std::printf("%-40s %10.3f\n", "ceník: tisk do PDF", sekundy([&] {
+    radek("ceník: nejdelší úhoz hledání", nejdele);
+    radek("ceník: tisk do PDF", sekundy([&] {
                     Dokument d;
                     Cenik::TiskCeniku(d, u.cenik(), QStringLiteral("VSE"), QStringLiteral("nazev"));
                     Vykresleni::pdf(d, pdf);
@@ -139,13 +164,13 @@ void cenik(Uloziste& u, const QString& pdf)
     b.open(QIODevice::WriteOnly);
     velky.save(&b, "JPG", 100);
     int ide = 0;
-    std::printf("%-40s %10.3f (%.1f MB)\n", "obrázek: uložení JPEG", sekundy([&] {
-                    ide = Knihovna::pridej(u.cenik(), ano, Knihovna::Druh::Obrazky, QStringLiteral("velky.jpg"), jpg);
-                }), jpg.size() / 1048576.0);
+    radek("obrázek: uložení JPEG", sekundy([&] {
+              ide = Knihovna::pridej(u.cenik(), ano, Knihovna::Druh::Obrazky, QStringLiteral("velky.jpg"), jpg);
+          }), QStringLiteral(" (%1 MB)").arg(jpg.size() / 1048576.0, 0, 'f', 1));
     QImage cely;
-    std::printf("%-40s %10.3f\n", "obrázek: načtení a dekódování celého",
+    radek("obrázek: načtení a dekódování celého",
                 sekundy([&] { cely = Knihovna::obrazek(u.cenik(), Knihovna::Druh::Obrazky, ide); }));
-    std::printf("%-40s %10.3f\n", "obrázek: načtení a vepsání do 640x480", sekundy([&] {
+    radek("obrázek: načtení a vepsání do 640x480", sekundy([&] {
                     Obrazky::vepsany(Knihovna::obrazek(u.cenik(), Knihovna::Druh::Obrazky, ide), {640, 480});
                 }));
     const QByteArray maly = [] {
@@ -159,7 +184,7 @@ void cenik(Uloziste& u, const QString& pdf)
     }();
     for (int i = 0; i < 199; ++i)
         Knihovna::pridej(u.cenik(), ano, Knihovna::Druh::Obrazky, QStringLiteral("m%1.jpg").arg(i), maly);
-    std::printf("%-40s %10.3f\n", "obrázky: krokování 200 záznamů", sekundy([&] {
+    radek("obrázky: krokování 200 záznamů", sekundy([&] {
                     for (const Knihovna::Zaznam& z : Knihovna::seznam(u.cenik(), Knihovna::Druh::Obrazky))
                         Obrazky::vepsany(Knihovna::obrazek(u.cenik(), Knihovna::Druh::Obrazky, z.ide), {640, 480});
                 }));
@@ -172,7 +197,7 @@ void vypisy(const QString& domov)
 {
     Aplikace::nastavDomov(domov);
     Uloziste u(true);
-    std::printf("%-40s %10s\n", "výpisy (PDF, vyplnění tabulek včetně)", "sekund");
+    nadpis("výpisy (PDF, vyplnění tabulek včetně)", "sekund");
     for (int desek : {50, 200, 500}) {
         const QString z = ZakazkaJson::nacti(u.dataS(), vygeneruj(desek, 10));
         for (const auto& [druh, nazev] : {std::pair{DruhVypisu::Zakazka, "calc"}, std::pair{DruhVypisu::DilnaSeSchematy, "workshop"}}) {
@@ -183,7 +208,7 @@ void vypisy(const QString& domov)
                 Vykresleni::pdf(d, QDir(domov).filePath(QStringLiteral("vypis.pdf")), QStringLiteral("bench"));
                 u.zavriDataK();
             });
-            std::printf("%-40s %10.3f\n", qPrintable(QStringLiteral("%1 --pdf, %2 desek").arg(QLatin1String(nazev)).arg(desek)), t);
+            radek(qPrintable(QStringLiteral("%1 --pdf, %2 desek").arg(QLatin1String(nazev)).arg(desek)), t);
         }
     }
     const QByteArray vzor = vygeneruj(50, 10);
@@ -191,7 +216,7 @@ void vypisy(const QString& domov)
         QByteArray json = vzor;
         ZakazkaJson::nacti(u.dataS(), json.replace("\"kalk50\"", QStringLiteral("\"zakázka %1\"").arg(i).toUtf8()));
     }
-    std::printf("%-40s %10.3f\n", "totals, 200 zakázek po 50 deskách", sekundy([&] {
+    radek("totals, 200 zakázek po 50 deskách", sekundy([&] {
                     Kalkulace::ZobrazCeny(u, QStringLiteral("zakázka 100"), QStringLiteral("S3"));
                 }));
     std::fflush(stdout);
@@ -246,7 +271,7 @@ int main(int argc, char** argv)
     if (app.arguments().contains(QStringLiteral("jenzaloha")))
         return 0;
 
-    std::printf("%-10s %-12s %7s %7s %10s\n", "zakázka", "režim", "desek", "tabulí", "sekund");
+    radekPlanu(QStringLiteral("zakázka"), QStringLiteral("režim"), QStringLiteral("desek"), QStringLiteral("tabulí"), QStringLiteral("sekund"));
     BezOtazek prompt;
     TichyPrubeh prubeh;
     for (const QString& z : zakazky) {
@@ -260,8 +285,7 @@ int main(int argc, char** argv)
             const double sekund = cas.nsecsElapsed() / 1e9;
             const int desek = Recordset(u.dataK(), QStringLiteral("SoupisDesek")).recordCount();
             const int tabuli = Recordset(u.dataK(), QStringLiteral("SoupisTabuli")).recordCount();
-            std::printf("%-10s %-12s %7d %7d %10.3f\n", qPrintable(z), nazev, desek, tabuli, sekund);
-            std::fflush(stdout);
+            radekPlanu(z, QString::fromUtf8(nazev), QString::number(desek), QString::number(tabuli), QString::number(sekund, 'f', 3));
         }
     }
     return 0;
