@@ -73,6 +73,21 @@ void napis(QWidget* okno, const char* pole, const QString& t)
     okno->findChild<QLineEdit*>(QLatin1String(pole))->setText(t);
 }
 
+// The step in the picture library opened from the item form: notes the mark the form left
+// for it ("N" or "D") and chooses the record at `zaznam` (0 the first).
+Kroky::Krok vyberVKnihovne(QString& znacka, int zaznam)
+{
+    return [&znacka, zaznam](QWidget* w) {
+        auto* o = qobject_cast<FrmObr*>(w);
+        if (!o)
+            return false;
+        znacka = o->parentWidget()->findChild<QGroupBox*>(QStringLiteral("fraNCenik"))->property("Tag").toString();
+        o->findChild<QScrollBar*>(QStringLiteral("HScroll1"))->setValue(zaznam);
+        o->findChild<QPushButton*>(QStringLiteral("cmdV"))->click();
+        return true;
+    };
+}
+
 const QString Dub = QStringLiteral("DTD dub 'Rustikál' 18");
 const QString Hrana = QStringLiteral("ABS bílá 2 mm");
 const QString Cep = QStringLiteral("Čep 8 x 35");
@@ -131,15 +146,7 @@ TEST_F(CenikOkno, NovaPolozkaOdmitnutaOpravenaASObrazkemZKnihovny)
                  klikni(d, "cmdObr1");
                  return true;
              },
-             [&](QWidget* w) {
-                 auto* o = qobject_cast<FrmObr*>(w);
-                 if (!o)
-                     return false;
-                 znacka = o->parentWidget()->findChild<QGroupBox*>(QStringLiteral("fraNCenik"))->property("Tag").toString();
-                 o->findChild<QScrollBar*>(QStringLiteral("HScroll1"))->setValue(1);
-                 o->findChild<QPushButton*>(QStringLiteral("cmdV"))->click();
-                 return true;
-             },
+             vyberVKnihovne(znacka, 1),
              [&](QWidget* w) {
                  auto* d = qobject_cast<FrmPolozka*>(w);
                  if (!d)
@@ -181,14 +188,7 @@ TEST_F(CenikOkno, UpravaSvehoNazvuDruhyObrazekAOdebraniPrvniho)
                  klikni(d, "cmdObr2");
                  return true;
              },
-             [&](QWidget* w) {
-                 auto* o = qobject_cast<FrmObr*>(w);
-                 if (!o)
-                     return false;
-                 znacka = o->parentWidget()->findChild<QGroupBox*>(QStringLiteral("fraNCenik"))->property("Tag").toString();
-                 o->findChild<QPushButton*>(QStringLiteral("cmdV"))->click(); // the first record
-                 return true;
-             },
+             vyberVKnihovne(znacka, 0),
              [&](QWidget* w) {
                  auto* d = qobject_cast<FrmPolozka*>(w);
                  if (!d)
