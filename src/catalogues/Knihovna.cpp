@@ -33,6 +33,12 @@ std::optional<QByteArray> data(Database& db, Druh druh, int ide)
     return r.value(QStringLiteral("OBR")).toByteArray();
 }
 
+bool existuje(Database& db, Druh druh, int ide)
+{
+    return db.hodnota(QStringLiteral("SELECT IDE FROM ") + tabulka(druh) + QStringLiteral(" WHERE IDE = ") + Dotaz::cislo(ide))
+        .isValid();
+}
+
 QString nazev(Database& db, Druh druh, int ide)
 {
     return db.hodnota(QStringLiteral("SELECT nazev FROM ") + tabulka(druh) + QStringLiteral(" WHERE IDE = ") + Dotaz::cislo(ide))

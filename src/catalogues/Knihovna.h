@@ -27,6 +27,8 @@ struct Zaznam {
 std::vector<Zaznam> seznam(Database& cenik, Druh druh);
 // The stored bytes of one record; nullopt when there is none such.
 std::optional<QByteArray> data(Database& cenik, Druh druh, int ide);
+// Whether the record is (still) there.
+bool existuje(Database& cenik, Druh druh, int ide);
 // The name of one record; empty when there is none such.
 QString nazev(Database& cenik, Druh druh, int ide);
 // The decoded picture of one record; null when missing or undecodable (an empty frame).

@@ -118,9 +118,14 @@ void FrmPolozka::vyberObrazek(int i)
     m_fraNCenik->setProperty("Tag", QString::fromLatin1(Znacka[i]));
     try {
         FrmObr okno(m_cenik, m_prompt, Knihovna::Druh::Obrazky, m_obr[i], true, this);
-        if (okno.exec() == QDialog::Accepted && okno.volba()) {
+        if (okno.exec() == QDialog::Accepted && okno.volba())
             m_obr[i] = *okno.volba();
-            ukazObrazek(i);
+        // a picture of this form deleted in the library must not be saved back: its IDE
+        // would come to name the next picture added
+        for (int j : {0, 1}) {
+            if (m_obr[j] && !Knihovna::existuje(m_cenik, Knihovna::Druh::Obrazky, m_obr[j]))
+                m_obr[j] = 0;
+            ukazObrazek(j);
         }
     } catch (const Error& e) {
         chyba(e);
@@ -134,7 +139,7 @@ void FrmPolozka::chyba(const Error& e)
 
 void FrmPolozka::ukazObrazek(int i)
 {
-    // a picture deleted in the library meanwhile, or one that does not decode: an empty frame
+    // a stored picture that does not decode: an empty frame
     const QImage obr = m_obr[i] ? Knihovna::obrazek(m_cenik, Knihovna::Druh::Obrazky, m_obr[i]) : QImage();
     m_lblO[i]->setToolTip(m_obr[i] ? Knihovna::nazev(m_cenik, Knihovna::Druh::Obrazky, m_obr[i]) : QString());
     if (obr.isNull())

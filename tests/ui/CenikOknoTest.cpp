@@ -27,7 +27,7 @@
 namespace {
 
 // Works through the modal windows in turn: each step acts on the window it waits for and says
-// so; message boxes are read and closed between the steps. With no step left, any window is
+// so; message boxes are read and answered with their default button between the steps. With no step left, any window is
 // closed, so an unexpected one fails the test instead of hanging it.
 class Kroky {
 public:
@@ -46,7 +46,7 @@ private:
         QWidget* w = QApplication::activeModalWidget();
         if (auto* b = qobject_cast<QMessageBox*>(w)) {
             zpravy << b->text();
-            b->accept();
+            b->defaultButton()->click(); // "OK", or "Ano" to a question
         } else if (w && m_kroky.empty()) {
             if (auto* d = qobject_cast<QDialog*>(w))
                 d->reject();
@@ -88,6 +88,17 @@ Kroky::Krok vyberVKnihovne(QString& znacka, int zaznam)
     };
 }
 
+QByteArray png(QSize rozmer, Qt::GlobalColor barva)
+{
+    QImage obr(rozmer, QImage::Format_RGB32);
+    obr.fill(barva);
+    QByteArray bajty;
+    QBuffer b(&bajty);
+    b.open(QIODevice::WriteOnly);
+    obr.save(&b, "PNG");
+    return bajty;
+}
+
 const QString Dub = QStringLiteral("DTD dub 'Rustikál' 18");
 const QString Hrana = QStringLiteral("ABS bílá 2 mm");
 const QString Cep = QStringLiteral("Čep 8 x 35");
@@ -99,15 +110,8 @@ protected:
         OknoTest::SetUp();
         Nastaveni::SaveSetting(QStringLiteral("Setting2"), QStringLiteral("DPH"), QStringLiteral("21"));
         SkriptovanyPrompt tichy;
-        for (const char* nazev : {"dub.png", "buk.png"}) {
-            QImage obr(40, 30, QImage::Format_RGB32);
-            obr.fill(Qt::darkYellow);
-            QByteArray png;
-            QBuffer b(&png);
-            b.open(QIODevice::WriteOnly);
-            obr.save(&b, "PNG");
-            ide << Knihovna::pridej(uloziste().cenik(), tichy, Knihovna::Druh::Obrazky, QLatin1String(nazev), png);
-        }
+        for (const char* nazev : {"dub.png", "buk.png"})
+            ide << Knihovna::pridej(uloziste().cenik(), tichy, Knihovna::Druh::Obrazky, QLatin1String(nazev), png({40, 30}, Qt::darkYellow));
         ASSERT_EQ(Cenik::nahraj(uloziste().cenik(), tichy,
                                 {{Dub, QStringLiteral("101"), QStringLiteral("412.50"), QStringLiteral("m2"), QStringLiteral("PM"), ide[0], 0},
                                  {Hrana, QStringLiteral("201"), QStringLiteral("14.90"), QStringLiteral("bm"), QStringLiteral("H"), 0, 0},
@@ -210,6 +214,62 @@ TEST_F(CenikOkno, UpravaSvehoNazvuDruhyObrazekAOdebraniPrvniho)
     EXPECT_EQ(cenik.findChild<QLabel*>(QStringLiteral("lblCenaDPH"))->text(), QStringLiteral("508.20 Kč/m2"));
     EXPECT_EQ(cenik.findChild<QLabel*>(QStringLiteral("lblObr1"))->text(), QString());
     EXPECT_EQ(cenik.findChild<QLabel*>(QStringLiteral("lblObr2"))->text(), QStringLiteral("dub.png"));
+}
+
+// A picture the form had chosen, deleted in the library before the form is saved, is not
+// saved back: the next picture added takes its IDE and must not appear in the item.
+TEST_F(CenikOkno, ObrazekSmazanyZFormulareSeDoPolozkyNeulozi)
+{
+    FrmCenik cenik(uloziste().cenik(), prompt, okno.get());
+    auto* seznam = cenik.findChild<QListWidget*>(QStringLiteral("lstCenik"));
+    seznam->setCurrentItem(seznam->findItems(Dub, Qt::MatchExactly).value(0));
+    QString znacka, popisek;
+    Kroky k({[&](QWidget* w) {
+                 auto* d = qobject_cast<FrmPolozka*>(w);
+                 if (!d)
+                     return false;
+                 klikni(d, "cmdObr1");
+                 return true;
+             },
+             vyberVKnihovne(znacka, 1), // buk.png, the highest IDE
+             [&](QWidget* w) {
+                 auto* d = qobject_cast<FrmPolozka*>(w);
+                 if (!d)
+                     return false;
+                 klikni(d, "cmdObr2");
+                 return true;
+             },
+             [&](QWidget* w) {
+                 auto* o = qobject_cast<FrmObr*>(w);
+                 if (!o)
+                     return false;
+                 o->findChild<QScrollBar*>(QStringLiteral("HScroll1"))->setValue(1);
+                 klikni(o, "Command2");
+                 return true;
+             },
+             [&](QWidget* w) {
+                 auto* o = qobject_cast<FrmObr*>(w);
+                 if (!o || Knihovna::existuje(uloziste().cenik(), Knihovna::Druh::Obrazky, ide[1]))
+                     return false;
+                 o->findChild<QPushButton*>(QStringLiteral("cmdS"))->click();
+                 return true;
+             },
+             [&](QWidget* w) {
+                 auto* d = qobject_cast<FrmPolozka*>(w);
+                 if (!d)
+                     return false;
+                 popisek = d->findChild<QLabel*>(QStringLiteral("lblO1"))->text();
+                 klikni(d, "cmdUlozit");
+                 return true;
+             }});
+    cenik.prikaz(QStringLiteral("UPoložky"));
+
+    EXPECT_TRUE(k.hotovo());
+    EXPECT_EQ(k.zpravy, QStringList{QStringLiteral("Chcete opravdu obrázek smazat z databáze? ")});
+    EXPECT_EQ(popisek, QStringLiteral("bez obrázku"));
+    SkriptovanyPrompt tichy;
+    EXPECT_EQ(Knihovna::pridej(uloziste().cenik(), tichy, Knihovna::Druh::Obrazky, QStringLiteral("novy.png"), png({10, 10}, Qt::red)), ide[1]);
+    EXPECT_EQ(Cenik::nacti(uloziste().cenik(), Dub)->obr1, 0);
 }
 
 // Each entry frame's "Z ceníku..." opens the price list with its own key and VM on, the others
