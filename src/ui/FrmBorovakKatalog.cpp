@@ -78,8 +78,7 @@ void FrmBorovak::NovePrislusenstvi()
     QStringList jednotkyCeniku;
     for (const Cenik::Polozka& p : Cenik::NaplnCenik(cenik, QStringLiteral("VSE"), QStringLiteral("Jednotka")))
         jednotkyCeniku << p.jednotka;
-    FrmNovy d(this);
-    d.pripojCenik(m_uloziste.cenik(), m_prompt);
+    FrmNovy d(this, m_uloziste.cenik(), m_prompt);
     auto zCeniku = [&cenik](const QString& nazev) -> std::optional<Prislusenstvi::Polozka> {
         const auto p = Cenik::nacti(cenik, nazev);
         if (!p)
@@ -108,8 +107,7 @@ void FrmBorovak::UpravitPrislusenstvi()
     const QString zakazka = m_vyber.txtzakazka(), sestava = m_vyber.txtSestava();
     Database& cenik = m_uloziste.cenik();
     const Prislusenstvi::Polozka p = Prislusenstvi::UpravitPrislusenstvi(m_uloziste.dataS(), zakazka, sestava, m_GPR->item(r, 0)->text());
-    FrmNovy d(this);
-    d.pripojCenik(m_uloziste.cenik(), m_prompt);
+    FrmNovy d(this, m_uloziste.cenik(), m_prompt);
     d.prislusenstvi(QLatin1String(Prislusenstvi::TagUprava),
                     Cenik::NaplnitSeznamCeniku(cenik, Cenik::ulozenyVyber(), Cenik::ulozeneRazeni()),
                     Prislusenstvi::jednotky({}), p,

@@ -79,8 +79,7 @@ void FrmBorovak::vyberUzel(QString zakazka, QString sestava)
 
 void FrmBorovak::NovaZakazka()
 {
-    FrmNovy d(this);
-    d.pripojCenik(m_uloziste.cenik(), m_prompt);
+    FrmNovy d(this, m_uloziste.cenik(), m_prompt);
     QString ulozena;
     d.zakazka(QStringLiteral("NovaZakazka"), QString(), QString(), [&](const QString& nazev, const QString& poznamka) {
         if (!Zakazky::UlozitNovouZakazku(m_uloziste.dataS(), m_prompt, nazev, poznamka))
@@ -96,8 +95,7 @@ void FrmBorovak::NovaZakazka()
 
 void FrmBorovak::UpravitZakazku()
 {
-    FrmNovy d(this);
-    d.pripojCenik(m_uloziste.cenik(), m_prompt);
+    FrmNovy d(this, m_uloziste.cenik(), m_prompt);
     const QString stara = m_vyber.txtzakazka();
     QString nova;
     d.zakazka(QStringLiteral("UpraveniZakazky"), stara, Zakazky::poznamka(m_uloziste.dataS(), stara),
@@ -122,8 +120,7 @@ void FrmBorovak::SmazatZakazku()
 
 void FrmBorovak::NovaSestava()
 {
-    FrmNovy d(this);
-    d.pripojCenik(m_uloziste.cenik(), m_prompt);
+    FrmNovy d(this, m_uloziste.cenik(), m_prompt);
     QString ulozena;
     d.sestava(QStringLiteral("NovaSestava"), {QString(), QString(), 1, 0}, [&](const Zakazky::Sestava& s) {
         if (!Zakazky::UlozitNovouSestavu(m_uloziste.dataS(), m_prompt, m_vyber.txtzakazka(), s))
@@ -140,8 +137,7 @@ void FrmBorovak::NovaSestava()
 
 void FrmBorovak::UpravitSestavu()
 {
-    FrmNovy d(this);
-    d.pripojCenik(m_uloziste.cenik(), m_prompt);
+    FrmNovy d(this, m_uloziste.cenik(), m_prompt);
     const QString stara = m_vyber.txtSestava();
     Nastaveni::SaveSetting(QStringLiteral("Editor"), QStringLiteral("Sestava"), stara);
     QString nova;
@@ -212,8 +208,7 @@ void nastavRadek(QTableWidget* grid, const QString& akce, int predtim)
 void FrmBorovak::NovyMaterial(bool hrana)
 {
     m_stZakazky->setCurrentIndex(0);
-    FrmNovy d(this);
-    d.pripojCenik(m_uloziste.cenik(), m_prompt);
+    FrmNovy d(this, m_uloziste.cenik(), m_prompt);
     d.material(hrana ? QStringLiteral("NovaHrana") : QStringLiteral("NovyFormat"), hrana, {}, [&](const Materialy::Material& m) {
         const bool ok = hrana ? Materialy::UlozitNovouHranu(m_uloziste.dataS(), m_vyber.txtzakazka(), m)
                               : Materialy::UlozitNovyFormat(m_uloziste.dataS(), m_vyber.txtzakazka(), m);
@@ -237,8 +232,7 @@ void FrmBorovak::UpravitMaterial(bool hrana)
     const auto m = vybranyMaterial(hrana);
     if (!m)
         return;
-    FrmNovy d(this);
-    d.pripojCenik(m_uloziste.cenik(), m_prompt);
+    FrmNovy d(this, m_uloziste.cenik(), m_prompt);
     d.material(hrana ? QStringLiteral("UpraveniHrany") : QStringLiteral("UpraveniFormatu"), hrana, *m,
                [&](const Materialy::Material& z) {
                    if (hrana) {
@@ -333,8 +327,7 @@ void FrmBorovak::NovyPM()
 {
     const QString zakazka = m_vyber.txtzakazka(), sestava = m_vyber.txtSestava();
     const Nabidka n = nabidka(m_uloziste.dataS(), zakazka);
-    FrmNovy d(this);
-    d.pripojCenik(m_uloziste.cenik(), m_prompt);
+    FrmNovy d(this, m_uloziste.cenik(), m_prompt);
     d.deska(QStringLiteral("NovyPM"), n.textyFormatu, n.textyHran, n.hrany, {QString(), 0, 0, 1}, {},
             [&](const Desky::Deska& z, const FrmNovy::TextyDesky& t) {
                 if (Desky::UlozitNovyPM(m_uloziste.dataS(), m_prompt, zakazka, sestava,
@@ -365,8 +358,7 @@ void FrmBorovak::UpravitPM()
         for (size_t i = 0; i < n.hrany.size(); ++i)
             if (n.hrany[i].ID == deska.hrany[s])
                 texty.hrany[s] = n.textyHran[int(i)];
-    FrmNovy d(this);
-    d.pripojCenik(m_uloziste.cenik(), m_prompt);
+    FrmNovy d(this, m_uloziste.cenik(), m_prompt);
     d.deska(QStringLiteral("UpraveniPM"), n.textyFormatu, n.textyHran, n.hrany, deska, texty,
             [&](const Desky::Deska& z, const FrmNovy::TextyDesky& t) {
                 const QString puvodni = Nastaveni::GetSetting(QStringLiteral("Editor"), QStringLiteral("PM"));

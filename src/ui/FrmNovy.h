@@ -30,6 +30,10 @@ class FrmNovy : public QDialog, public Prubeh {
     Q_OBJECT
 public:
     explicit FrmNovy(QWidget* rodic = nullptr);
+    // With the price list and the schema library behind the entry frames: the name combos list
+    // the price list's group, a key opens frmCenik (VM, VF, VH, EP) or frmSchema. Without them
+    // the frames offer neither.
+    FrmNovy(QWidget* rodic, Database& cenik, Prompt& prompt);
 
     QString Tag;
 
@@ -74,11 +78,6 @@ public:
                        const Prislusenstvi::Polozka& p,
                        const std::function<std::optional<Prislusenstvi::Polozka>(const QString&)>& zCeniku,
                        const std::function<PoUlozeni(const Prislusenstvi::Zadani&)>& ulozit);
-
-    // The price list and the schema library behind the entry frames: the name combos list the
-    // price list's group, a key opens frmCenik (VM, VF, VH, EP) or frmSchema. Without it the
-    // frames offer neither.
-    void pripojCenik(Database& cenik, Prompt& prompt);
 
     // fraKalkulace: the order's assemblies as the tree shows them, all selected, for the report
     // named vypis; the rows chosen, or nothing when the dialog was left by Zpět.

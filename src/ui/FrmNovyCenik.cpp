@@ -11,7 +11,7 @@
 #include <QLabel>
 #include <QPushButton>
 
-void FrmNovy::pripojCenik(Database& cenik, Prompt& prompt)
+FrmNovy::FrmNovy(QWidget* rodic, Database& cenik, Prompt& prompt) : FrmNovy(rodic)
 {
     m_cenik = &cenik;
     m_prompt = &prompt;

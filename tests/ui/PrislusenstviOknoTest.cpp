@@ -1,95 +1,76 @@
 // An accessory entered from the main window: a price-list item chosen in fraPřís brings its
 // price and unit, the save lands in GPR and in the store; a second item of the same name is
 // refused and the store keeps one row.
-#include "DomovTest.h"
+#include "Kroky.h"
+#include "OknoTest.h"
 #include "SkriptovanyPrompt.h"
 #include "catalogues/Cenik.h"
-#include "core/Nastaveni.h"
-#include "core/Recordset.h"
-#include "exchange/ZakazkaJson.h"
 #include "orders/Prislusenstvi.h"
-#include "ui/FrmBorovak.h"
 #include "ui/FrmNovy.h"
-#include "ui/QtPrompt.h"
 
-#include <QApplication>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMessageBox>
-#include <QPushButton>
 #include <QTableWidget>
-#include <QTimer>
-#include <QTreeWidget>
 
 namespace {
 
 const QString Uchytka = QStringLiteral("Úchytka 'Oblouk' 128");
 
-class PrislusenstviOkno : public DomovTest {
+// The accessory frame of a form, or null for any other window.
+FrmNovy* fraPris(QWidget* w)
+{
+    auto* d = qobject_cast<FrmNovy*>(w);
+    return d && d->findChild<QWidget*>(QStringLiteral("fraPřís")) ? d : nullptr;
+}
+
+class PrislusenstviOkno : public OknoTest {
 protected:
     void SetUp() override
     {
-        DomovTest::SetUp();
-        Nastaveni::ZapisVychoziNastaveni(1000, 1000, 13500, 9000);
-        ZakazkaJson::nacti(uloziste().dataS(), demoJson());
+        OknoTest::SetUp();
         SkriptovanyPrompt tichy;
         ASSERT_TRUE(Cenik::UlozitPolozku(uloziste().cenik(), tichy, QString(),
                                          {Uchytka, QStringLiteral("4711"), QStringLiteral("45.5"), QStringLiteral("pár"),
                                           QStringLiteral("P"), 0, 0}));
-        okno = std::make_unique<FrmBorovak>(uloziste(), prompt);
-        auto* strom = okno->findChild<QTreeWidget*>(QStringLiteral("tvzakazky"));
-        emit strom->itemClicked(strom->topLevelItem(0)->child(0), 0); // Dřez80
+        klik(strom->topLevelItem(0)->child(0)); // Dřez80
         gpr = okno->findChild<QTableWidget*>(QStringLiteral("GPR"));
-    }
-    void TearDown() override
-    {
-        okno.reset();
-        DomovTest::TearDown();
     }
 
     // Opens fraPřís by the window's key, chooses the price-list item, types the quantity and
     // saves; then closes the frame. Returns the messages shown on the way.
     QStringList zadejZCeniku(const QString& mnozstvi)
     {
-        QStringList zpravy;
-        bool ulozeno = false;
-        QTimer ruka;
-        QObject::connect(&ruka, &QTimer::timeout, [&] {
-            QWidget* w = QApplication::activeModalWidget();
-            if (auto* box = qobject_cast<QMessageBox*>(w)) {
-                zpravy << box->text();
-                box->accept();
-                return;
-            }
-            auto* d = qobject_cast<FrmNovy*>(w);
-            if (!d || !d->findChild<QWidget*>(QStringLiteral("fraPřís")))
-                return;
-            if (ulozeno) {
-                d->findChild<QPushButton*>(QStringLiteral("cmdZavrit"))->click();
-                return;
-            }
-            auto* nazev = d->findChild<QComboBox*>(QStringLiteral("txtNPrislusenstvi"));
-            const int i = nazev->findText(Uchytka);
-            if (i < 0) { // not offered: close so that the test fails instead of hanging
-                zpravy << QStringLiteral("nenabízeno");
-                d->reject();
-                return;
-            }
-            nazev->setCurrentIndex(i);
-            emit nazev->textActivated(Uchytka); // as a click in the drop-down list
-            prevzato = {d->findChild<QLineEdit*>(QStringLiteral("txtCena"))->text(),
-                        d->findChild<QComboBox*>(QStringLiteral("txtJednotka"))->currentText(),
-                        d->findChild<QLabel*>(QStringLiteral("lblCenaJednotka"))->text()};
-            d->findChild<QLineEdit*>(QStringLiteral("txtPocetPrislusenstvi"))->setText(mnozstvi);
-            // queued: a refusal's message box must find this hand free to answer it
-            QMetaObject::invokeMethod(d->findChild<QPushButton*>(QStringLiteral("cmdUlozitPrislusenstvi")), "click",
-                                      Qt::QueuedConnection);
-            ulozeno = true;
-        });
-        ruka.start(5);
+        QStringList nenabizeno;
+        Kroky k({[&](QWidget* w) {
+                     FrmNovy* d = fraPris(w);
+                     if (!d)
+                         return false;
+                     auto* nazev = d->findChild<QComboBox*>(QStringLiteral("txtNPrislusenstvi"));
+                     const int i = nazev->findText(Uchytka);
+                     if (i < 0) { // not offered: close so that the test fails instead of hanging
+                         nenabizeno << QStringLiteral("nenabízeno");
+                         d->reject();
+                         return true;
+                     }
+                     nazev->setCurrentIndex(i);
+                     emit nazev->textActivated(Uchytka); // as a click in the drop-down list
+                     prevzato = {d->findChild<QLineEdit*>(QStringLiteral("txtCena"))->text(),
+                                 d->findChild<QComboBox*>(QStringLiteral("txtJednotka"))->currentText(),
+                                 d->findChild<QLabel*>(QStringLiteral("lblCenaJednotka"))->text()};
+                     d->findChild<QLineEdit*>(QStringLiteral("txtPocetPrislusenstvi"))->setText(mnozstvi);
+                     klikni(d, "cmdUlozitPrislusenstvi");
+                     return true;
+                 },
+                 [&](QWidget* w) {
+                     FrmNovy* d = fraPris(w);
+                     if (!d)
+                         return false;
+                     d->findChild<QPushButton*>(QStringLiteral("cmdZavrit"))->click();
+                     return true;
+                 }});
         okno->prikaz(QStringLiteral("NoveP"));
-        return zpravy;
+        return nenabizeno + k.zpravy;
     }
 
     // The stored accessory rows of that name in the assembly.
@@ -102,8 +83,6 @@ protected:
         return v;
     }
 
-    QtPrompt prompt;
-    std::unique_ptr<FrmBorovak> okno;
     QTableWidget* gpr = nullptr;
     QStringList prevzato; // price, unit and price label after the choice
 };
