@@ -1,6 +1,7 @@
 #include "optimiser/Umisteni.h"
 
 #include "core/Dotaz.h"
+#include "optimiser/Dotazy.h"
 #include "optimiser/Zkouska.h"
 
 namespace {
