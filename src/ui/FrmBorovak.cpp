@@ -1,22 +1,22 @@
 #include "ui/FrmBorovak.h"
 
-#include "core/Dotaz.h"
 #include "core/Error.h"
 #include "core/Nastaveni.h"
 #include "core/Razitko.h"
-#include "core/Recordset.h"
 #include "core/Uloziste.h"
 #include "costing/Kalkulace.h"
 #include "costing/Vypisy.h"
-#include "orders/Kopirovani.h"
 #include "exchange/Zaloha.h"
 #include "optimiser/PlanRun.h"
+#include "optimiser/StartNP.h"
+#include "orders/Kopirovani.h"
 #include "orders/Strom.h"
+#include "orders/Zakazky.h"
 #include "ui/FrmNP.h"
-#include "ui/FrmVSP.h"
 #include "ui/FrmNovy.h"
 #include "ui/FrmOptions.h"
 #include "ui/FrmSklad.h"
+#include "ui/FrmVSP.h"
 #include "ui/Ikony.h"
 #include "ui/Nabidka.h"
 #include "ui/QtPrompt.h"
@@ -26,11 +26,11 @@
 #include <QCloseEvent>
 #include <QDir>
 #include <QDropEvent>
-#include <QMenu>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScreen>
@@ -38,45 +38,77 @@
 #include <QStatusBar>
 #include <QTabWidget>
 #include <QTableWidget>
+#include <QTimer>
 #include <QToolBar>
 #include <QTreeWidget>
-#include <QTimer>
 #include <QVBoxLayout>
 
 namespace {
 
 // Commands whose routines are in place; every other entry stands disabled until its own arrives.
-const QStringList hotove = {
-    QStringLiteral("NP"), QStringLiteral("Vz"), QStringLiteral("OD"), QStringLiteral("Konec"),
-    QStringLiteral("NapovedaObsah"), QStringLiteral("OProgramu"), QStringLiteral("NZakazka"),
-    QStringLiteral("UpraveniZakazky"), QStringLiteral("SmazaniZakazky"), QStringLiteral("NSestava"),
-    QStringLiteral("USestava"), QStringLiteral("SmazaniSestavy"), QStringLiteral("NF"), QStringLiteral("UF"),
-    QStringLiteral("SF"), QStringLiteral("NH"), QStringLiteral("UH"), QStringLiteral("SH"), QStringLiteral("NovyPloM"),
-    QStringLiteral("UpraveniPM"), QStringLiteral("SmazaniPM"), QStringLiteral("cmdNovyFormat"),
-    QStringLiteral("cmdUpravitFormat"), QStringLiteral("cmdSmazatFormat"), QStringLiteral("cmdNovaHrana"),
-    QStringLiteral("cmdUpravitHrana"), QStringLiteral("cmdSmazatHrana"), QStringLiteral("cmdNovyPM"),
-    QStringLiteral("cmdUpravitPM"), QStringLiteral("cmdSmazatPM"), QStringLiteral("cmdImport"),
-    QStringLiteral("RychlaKalkulace"), QStringLiteral("KS"), QStringLiteral("NM"), QStringLiteral("CN"),
-    QStringLiteral("SMZ"), QStringLiteral("SMDS"), QStringLiteral("Sklad"), QStringLiteral("SO"),
-    QStringLiteral("UlozeniJakoZ"), QStringLiteral("UlozeniSestavyJako"), QStringLiteral("Moznosti"),
-    QStringLiteral("cestina"), QStringLiteral("Anglictina"),
-    QStringLiteral("NoveP"),
-    QStringLiteral("UpraveniP"), QStringLiteral("SmazaniP"), QStringLiteral("cmdNovePrislusenstvi"),
-    QStringLiteral("cmdUpravitPrislusenstvi"), QStringLiteral("cmdSmazatPrislusenstvi"), QStringLiteral("CTM"),
-    QStringLiteral("DSS"), QStringLiteral("DOC")};
+const QStringList hotove = {QStringLiteral("NP"),
+                            QStringLiteral("Vz"),
+                            QStringLiteral("OD"),
+                            QStringLiteral("Konec"),
+                            QStringLiteral("NapovedaObsah"),
+                            QStringLiteral("OProgramu"),
+                            QStringLiteral("NZakazka"),
+                            QStringLiteral("UpraveniZakazky"),
+                            QStringLiteral("SmazaniZakazky"),
+                            QStringLiteral("NSestava"),
+                            QStringLiteral("USestava"),
+                            QStringLiteral("SmazaniSestavy"),
+                            QStringLiteral("NF"),
+                            QStringLiteral("UF"),
+                            QStringLiteral("SF"),
+                            QStringLiteral("NH"),
+                            QStringLiteral("UH"),
+                            QStringLiteral("SH"),
+                            QStringLiteral("NovyPloM"),
+                            QStringLiteral("UpraveniPM"),
+                            QStringLiteral("SmazaniPM"),
+                            QStringLiteral("cmdNovyFormat"),
+                            QStringLiteral("cmdUpravitFormat"),
+                            QStringLiteral("cmdSmazatFormat"),
+                            QStringLiteral("cmdNovaHrana"),
+                            QStringLiteral("cmdUpravitHrana"),
+                            QStringLiteral("cmdSmazatHrana"),
+                            QStringLiteral("cmdNovyPM"),
+                            QStringLiteral("cmdUpravitPM"),
+                            QStringLiteral("cmdSmazatPM"),
+                            QStringLiteral("cmdImport"),
+                            QStringLiteral("RychlaKalkulace"),
+                            QStringLiteral("KS"),
+                            QStringLiteral("NM"),
+                            QStringLiteral("CN"),
+                            QStringLiteral("SMZ"),
+                            QStringLiteral("SMDS"),
+                            QStringLiteral("Sklad"),
+                            QStringLiteral("SO"),
+                            QStringLiteral("UlozeniJakoZ"),
+                            QStringLiteral("UlozeniSestavyJako"),
+                            QStringLiteral("Moznosti"),
+                            QStringLiteral("cestina"),
+                            QStringLiteral("Anglictina"),
+                            QStringLiteral("NoveP"),
+                            QStringLiteral("UpraveniP"),
+                            QStringLiteral("SmazaniP"),
+                            QStringLiteral("cmdNovePrislusenstvi"),
+                            QStringLiteral("cmdUpravitPrislusenstvi"),
+                            QStringLiteral("cmdSmazatPrislusenstvi"),
+                            QStringLiteral("CTM"),
+                            QStringLiteral("DSS"),
+                            QStringLiteral("DOC")};
 
 // The costing reports by the command that opens them.
-const QHash<QString, DruhVypisu> vypisy = {
-    {QStringLiteral("RychlaKalkulace"), DruhVypisu::Zakazka}, {QStringLiteral("KS"), DruhVypisu::Sestavy},
-    {QStringLiteral("NM"), DruhVypisu::Nakup},                {QStringLiteral("CN"), DruhVypisu::Nabidka},
-    {QStringLiteral("SMZ"), DruhVypisu::Dilna},               {QStringLiteral("SMDS"), DruhVypisu::DilnaSeSchematy}};
+const QHash<QString, DruhVypisu> vypisy = {{QStringLiteral("RychlaKalkulace"), DruhVypisu::Zakazka},
+                                           {QStringLiteral("KS"), DruhVypisu::Sestavy},
+                                           {QStringLiteral("NM"), DruhVypisu::Nakup},
+                                           {QStringLiteral("CN"), DruhVypisu::Nabidka},
+                                           {QStringLiteral("SMZ"), DruhVypisu::Dilna},
+                                           {QStringLiteral("SMDS"), DruhVypisu::DilnaSeSchematy}};
 
 constexpr int TwipuNaPixel = 15; // the old window positions were kept in screen twips
-
-QString sqlZakazky(const QString& zakazka)
-{
-    return QStringLiteral("SELECT * FROM Zakazky  WHERE Zakazka = '") + Dotaz::text(zakazka) + QStringLiteral("'");
-}
 
 } // namespace
 
@@ -128,28 +160,27 @@ FrmBorovak::FrmBorovak(Uloziste& uloziste, Prompt& prompt) : m_uloziste(uloziste
 
     m_stZakazky = new QTabWidget;
     m_stZakazky->setObjectName(QStringLiteral("stZakazky"));
-    m_stZakazky->addTab(vytvorStranku("fraFormat", QStringLiteral("Formáty:"), m_GridFormaty,
-                                      {QStringLiteral("Materiál"), QStringLiteral("Délka"), QStringLiteral("Šířka"),
-                                       QStringLiteral("Cena bez DPH"), QStringLiteral("Cena s DPH")},
-                                      "fraHrany", QStringLiteral("Hrany:"), m_GridHrany,
-                                      {QStringLiteral("Materiál"), QStringLiteral("Cena bez DPH"),
-                                       QStringLiteral("Přesah hrany"), QStringLiteral("Barva hrany v NP")},
-                                      {QStringLiteral("cmdNovyFormat"), QStringLiteral("cmdUpravitFormat"),
-                                       QStringLiteral("cmdSmazatFormat")},
-                                      {QStringLiteral("cmdNovaHrana"), QStringLiteral("cmdUpravitHrana"),
-                                       QStringLiteral("cmdSmazatHrana")}),
-                        QStringLiteral("Zakázka"));
-    m_stZakazky->addTab(vytvorStranku("fraPM", QStringLiteral("Plošný materiál:"), m_GPM,
-                                      {QStringLiteral("Název pl. materiálu"), QStringLiteral("Délka"),
-                                       QStringLiteral("Šířka"), QStringLiteral("Počet"), QStringLiteral("Formát")},
-                                      "fraPrislusenstvi", QStringLiteral("Příslušenství:"), m_GPR,
-                                      {QStringLiteral("Název příslušenství"), QStringLiteral("Množství"),
-                                       QStringLiteral("Cena bez DPH")},
-                                      {QStringLiteral("cmdNovyPM"), QStringLiteral("cmdUpravitPM"),
-                                       QStringLiteral("cmdSmazatPM"), QStringLiteral("cmdImport")},
-                                      {QStringLiteral("cmdNovePrislusenstvi"), QStringLiteral("cmdUpravitPrislusenstvi"),
-                                       QStringLiteral("cmdSmazatPrislusenstvi")}),
-                        QStringLiteral("Sestava"));
+    m_stZakazky->addTab(
+        vytvorStranku("fraFormat", QStringLiteral("Formáty:"), m_GridFormaty,
+                      {QStringLiteral("Materiál"), QStringLiteral("Délka"), QStringLiteral("Šířka"),
+                       QStringLiteral("Cena bez DPH"), QStringLiteral("Cena s DPH")},
+                      "fraHrany", QStringLiteral("Hrany:"), m_GridHrany,
+                      {QStringLiteral("Materiál"), QStringLiteral("Cena bez DPH"), QStringLiteral("Přesah hrany"),
+                       QStringLiteral("Barva hrany v NP")},
+                      {QStringLiteral("cmdNovyFormat"), QStringLiteral("cmdUpravitFormat"), QStringLiteral("cmdSmazatFormat")},
+                      {QStringLiteral("cmdNovaHrana"), QStringLiteral("cmdUpravitHrana"), QStringLiteral("cmdSmazatHrana")}),
+        QStringLiteral("Zakázka"));
+    m_stZakazky->addTab(
+        vytvorStranku("fraPM", QStringLiteral("Plošný materiál:"), m_GPM,
+                      {QStringLiteral("Název pl. materiálu"), QStringLiteral("Délka"), QStringLiteral("Šířka"),
+                       QStringLiteral("Počet"), QStringLiteral("Formát")},
+                      "fraPrislusenstvi", QStringLiteral("Příslušenství:"), m_GPR,
+                      {QStringLiteral("Název příslušenství"), QStringLiteral("Množství"), QStringLiteral("Cena bez DPH")},
+                      {QStringLiteral("cmdNovyPM"), QStringLiteral("cmdUpravitPM"), QStringLiteral("cmdSmazatPM"),
+                       QStringLiteral("cmdImport")},
+                      {QStringLiteral("cmdNovePrislusenstvi"), QStringLiteral("cmdUpravitPrislusenstvi"),
+                       QStringLiteral("cmdSmazatPrislusenstvi")}),
+        QStringLiteral("Sestava"));
 
     auto* rozdeleni = new QSplitter(Qt::Horizontal);
     rozdeleni->setObjectName(QStringLiteral("imgSplitter"));
@@ -237,11 +268,16 @@ QWidget* FrmBorovak::vytvorStranku(const char* nazevRamce1, const QString& titul
                                    const QStringList& tlacitka2)
 {
     static const QHash<QString, QString> popisky = {
-        {QStringLiteral("cmdNovyFormat"), QStringLiteral("Nový")},     {QStringLiteral("cmdUpravitFormat"), QStringLiteral("Upravit")},
-        {QStringLiteral("cmdSmazatFormat"), QStringLiteral("Smazat")}, {QStringLiteral("cmdNovaHrana"), QStringLiteral("Nová")},
-        {QStringLiteral("cmdUpravitHrana"), QStringLiteral("Upravit")}, {QStringLiteral("cmdSmazatHrana"), QStringLiteral("Smazat")},
-        {QStringLiteral("cmdNovyPM"), QStringLiteral("Nový")},         {QStringLiteral("cmdUpravitPM"), QStringLiteral("Upravit")},
-        {QStringLiteral("cmdSmazatPM"), QStringLiteral("Smazat")},     {QStringLiteral("cmdImport"), QStringLiteral("Import...")},
+        {QStringLiteral("cmdNovyFormat"), QStringLiteral("Nový")},
+        {QStringLiteral("cmdUpravitFormat"), QStringLiteral("Upravit")},
+        {QStringLiteral("cmdSmazatFormat"), QStringLiteral("Smazat")},
+        {QStringLiteral("cmdNovaHrana"), QStringLiteral("Nová")},
+        {QStringLiteral("cmdUpravitHrana"), QStringLiteral("Upravit")},
+        {QStringLiteral("cmdSmazatHrana"), QStringLiteral("Smazat")},
+        {QStringLiteral("cmdNovyPM"), QStringLiteral("Nový")},
+        {QStringLiteral("cmdUpravitPM"), QStringLiteral("Upravit")},
+        {QStringLiteral("cmdSmazatPM"), QStringLiteral("Smazat")},
+        {QStringLiteral("cmdImport"), QStringLiteral("Import...")},
         {QStringLiteral("cmdNovePrislusenstvi"), QStringLiteral("Nové")},
         {QStringLiteral("cmdUpravitPrislusenstvi"), QStringLiteral("Upravit")},
         {QStringLiteral("cmdSmazatPrislusenstvi"), QStringLiteral("Smazat")},
@@ -293,17 +329,16 @@ QWidget* FrmBorovak::vytvorStranku(const char* nazevRamce1, const QString& titul
     auto* stranka = new QWidget;
     auto* l = new QVBoxLayout(stranka);
     const bool zakazka = QLatin1String(nazevRamce1) == QLatin1String("fraFormat");
-    l->addWidget(ramec(nazevRamce1, titulek1, grid1, sloupce1, tlacitka1,
-                       zakazka ? QStringLiteral("GridFormaty") : QStringLiteral("GPM")), 3);
-    l->addWidget(ramec(nazevRamce2, titulek2, grid2, sloupce2, tlacitka2,
-                       zakazka ? QStringLiteral("GridHrany") : QStringLiteral("GPR")), 2);
+    l->addWidget(
+        ramec(nazevRamce1, titulek1, grid1, sloupce1, tlacitka1, zakazka ? QStringLiteral("GridFormaty") : QStringLiteral("GPM")),
+        3);
+    l->addWidget(
+        ramec(nazevRamce2, titulek2, grid2, sloupce2, tlacitka2, zakazka ? QStringLiteral("GridHrany") : QStringLiteral("GPR")),
+        2);
     return stranka;
 }
 
-QAction* FrmBorovak::akce(const QString& nazev) const
-{
-    return findChild<QAction*>(nazev);
-}
+QAction* FrmBorovak::akce(const QString& nazev) const { return findChild<QAction*>(nazev); }
 
 void FrmBorovak::povol(const QStringList& nazvy, bool ano)
 {
@@ -321,10 +356,21 @@ void FrmBorovak::povol(const QStringList& nazvy, bool ano)
 
 void FrmBorovak::ZakazEditaciZakazky()
 {
-    QStringList vse = {QStringLiteral("UpraveniZakazky"), QStringLiteral("UlozeniJakoZ"), QStringLiteral("SmazaniZakazky"),
-                       QStringLiteral("Sestava"), QStringLiteral("PlMaterial"), QStringLiteral("Format"), QStringLiteral("Hrana"),
-                       QStringLiteral("Vypisy"), QStringLiteral("Prislusenstvi"), QStringLiteral("Vz"), QStringLiteral("NP"),
-                       QStringLiteral("NF"), QStringLiteral("NH"), QStringLiteral("cmdNovyFormat"), QStringLiteral("cmdNovaHrana")};
+    QStringList vse = {QStringLiteral("UpraveniZakazky"),
+                       QStringLiteral("UlozeniJakoZ"),
+                       QStringLiteral("SmazaniZakazky"),
+                       QStringLiteral("Sestava"),
+                       QStringLiteral("PlMaterial"),
+                       QStringLiteral("Format"),
+                       QStringLiteral("Hrana"),
+                       QStringLiteral("Vypisy"),
+                       QStringLiteral("Prislusenstvi"),
+                       QStringLiteral("Vz"),
+                       QStringLiteral("NP"),
+                       QStringLiteral("NF"),
+                       QStringLiteral("NH"),
+                       QStringLiteral("cmdNovyFormat"),
+                       QStringLiteral("cmdNovaHrana")};
     for (const Nabidka::Tlacitko& t : Nabidka::nastroje())
         if (!QStringList({"NZ", "CTM", "Moznosti", "Sklad"}).contains(QLatin1String(t.klic)))
             vse << QStringLiteral("tb") + QLatin1String(t.klic);
@@ -344,10 +390,9 @@ void FrmBorovak::PovolEditaciZakazky()
 void FrmBorovak::ZakazEditaciSestavy()
 {
     povol({QStringLiteral("USestava"), QStringLiteral("UlozeniSestavyJako"), QStringLiteral("SmazaniSestavy"),
-           QStringLiteral("cmdImport"),
-           QStringLiteral("PlMaterial"), QStringLiteral("Prislusenstvi"), QStringLiteral("tbUPZ"), QStringLiteral("tbOPZ"),
-           QStringLiteral("tbNPM"), QStringLiteral("tbUPM"), QStringLiteral("tbOPM"), QStringLiteral("tbNPR"),
-           QStringLiteral("tbUPR"), QStringLiteral("tbOPR")},
+           QStringLiteral("cmdImport"), QStringLiteral("PlMaterial"), QStringLiteral("Prislusenstvi"), QStringLiteral("tbUPZ"),
+           QStringLiteral("tbOPZ"), QStringLiteral("tbNPM"), QStringLiteral("tbUPM"), QStringLiteral("tbOPM"),
+           QStringLiteral("tbNPR"), QStringLiteral("tbUPR"), QStringLiteral("tbOPR")},
           false);
 }
 
@@ -356,8 +401,7 @@ void FrmBorovak::PovolEditaciSestavy()
     povol({QStringLiteral("UlozeniJakoZ"), QStringLiteral("SmazaniZakazky"), QStringLiteral("USestava"),
            QStringLiteral("UlozeniSestavyJako"), QStringLiteral("SmazaniSestavy"), QStringLiteral("PlMaterial"),
            QStringLiteral("NovyPloM"), QStringLiteral("Prislusenstvi"), QStringLiteral("NoveP"), QStringLiteral("tbUPZ"),
-           QStringLiteral("cmdImport"),
-           QStringLiteral("tbOPZ"), QStringLiteral("tbNPM"), QStringLiteral("tbNPR")},
+           QStringLiteral("cmdImport"), QStringLiteral("tbOPZ"), QStringLiteral("tbNPM"), QStringLiteral("tbNPR")},
           true);
 }
 
@@ -399,8 +443,7 @@ void FrmBorovak::klikNaUzel(QTreeWidgetItem* uzel)
 
 void FrmBorovak::obnovZakazku()
 {
-    const Recordset rs(m_uloziste.dataS(), sqlZakazky(m_vyber.txtzakazka()), Recordset::Rozsah::Prvni);
-    m_panel[0]->setText(rs.eof() ? QString() : rs.text(QStringLiteral("Poznamka")));
+    m_panel[0]->setText(Zakazky::poznamka(m_uloziste.dataS(), m_vyber.txtzakazka()));
     m_panel[0]->setToolTip(QStringLiteral("Poznámka k zakázce"));
     NaplnitGridFormaty(QStringLiteral("Novy zaznam"));
     NaplnitGridHrany(QStringLiteral("Novy zaznam"));
@@ -417,16 +460,11 @@ void FrmBorovak::obnovZakazku()
 void FrmBorovak::obnovSestavu()
 {
     if (m_AktSestava.isEmpty()) {
-        const Recordset rs(m_uloziste.dataS(), sqlZakazky(m_vyber.txtzakazka()), Recordset::Rozsah::Prvni);
-        m_panel[0]->setText(rs.eof() ? QString() : rs.text(QStringLiteral("Poznamka")));
+        m_panel[0]->setText(Zakazky::poznamka(m_uloziste.dataS(), m_vyber.txtzakazka()));
         m_panel[0]->setToolTip(QStringLiteral("Poznámka k zakázce"));
         m_panel[2]->clear();
     } else {
-        const Recordset rs(m_uloziste.dataS(),
-                           sqlZakazky(m_vyber.txtzakazka()) + QStringLiteral(" and Sestava = '") + Dotaz::text(m_vyber.txtSestava()) +
-                               QStringLiteral("' ORDER BY Zakazka"),
-                           Recordset::Rozsah::Prvni);
-        m_panel[0]->setText(rs.eof() ? QString() : rs.text(QStringLiteral("popis")));
+        m_panel[0]->setText(Zakazky::nactiSestavu(m_uloziste.dataS(), m_vyber.txtzakazka(), m_vyber.txtSestava()).popis);
         m_panel[0]->setToolTip(QStringLiteral("Poznámka k sestavě"));
     }
     NaplnitGridPM(QStringLiteral("Novy zaznam"));
@@ -502,7 +540,13 @@ void FrmBorovak::prikaz(const QString& nazev)
 
 void FrmBorovak::otevriMoznosti()
 {
-    FrmOptions okno(m_prompt, [this] { obnovZakazku(); obnovSestavu(); }, this);
+    FrmOptions okno(
+        m_prompt,
+        [this] {
+            obnovZakazku();
+            obnovSestavu();
+        },
+        this);
     okno.exec();
 }
 
@@ -516,10 +560,7 @@ void FrmBorovak::ZahajNP()
     }
     std::vector<int> pocty;
     for (const FormatNP& f : formaty)
-        pocty.push_back(Recordset(m_uloziste.dataS(), QStringLiteral("SELECT * FROM Zakazky WHERE Zakazka = '") +
-                                                          Dotaz::text(zakazka) + QStringLiteral("' and IDFormat =") +
-                                                          Dotaz::cislo(f.ID) + QStringLiteral(" ORDER BY Oznaceni"))
-                            .recordCount());
+        pocty.push_back(StartNP::pocetVariant(m_uloziste.dataS(), zakazka, f.ID));
     FrmNovy dialog(this);
     FrmNovy::VolbaNP volba;
     if (!dialog.zvolNP(formaty, pocty, volba))
@@ -536,10 +577,7 @@ void FrmBorovak::ZahajNP()
     });
     if (chyba) {
         m_uloziste.zavriDataK();
-        const bool porucha = chyba->cislo() == Chyba::PristupKSouboru;
-        m_prompt.zprava(porucha ? QStringLiteral("Porucha databáze - restartujte PC!")
-                                : QStringLiteral("Databáze programu je používána jiným programem!\rUkončete toto používání!!!"),
-                        QString(), Prompt::Ikona::Kriticka);
+        m_prompt.zprava(StartNP::chybaPracovniDatabaze(*chyba).text(), QString(), Prompt::Ikona::Kriticka);
         QApplication::exit(1);
         return;
     }
@@ -549,8 +587,7 @@ void FrmBorovak::ZahajNP()
         const bool vykresleno = np.vykresli();
         QApplication::restoreOverrideCursor();
         if (!vykresleno)
-            m_prompt.zprava(QString::fromUtf8(RozmerovaChyba), QString::fromUtf8(RozmerovaChybaTitulek),
-                            Prompt::Ikona::Kriticka);
+            m_prompt.zprava(QString::fromUtf8(RozmerovaChyba), QString::fromUtf8(RozmerovaChybaTitulek), Prompt::Ikona::Kriticka);
         else
             np.exec();
     }
@@ -582,7 +619,8 @@ void FrmBorovak::Vypis(DruhVypisu druh, const QString& nazev)
     FrmVSP vsp(m_prompt, this);
     try {
         m_uloziste.ObnovPracovniDatabazi();
-        vsp.setWindowTitle(SestavVypis(druh, vsp.dokument(), m_uloziste.dataK(), m_uloziste.cenik(), zakazka, vNazvy, vTexty).titulek);
+        vsp.setWindowTitle(
+            SestavVypis(druh, vsp.dokument(), m_uloziste.dataK(), m_uloziste.cenik(), zakazka, vNazvy, vTexty).titulek);
     } catch (...) {
         m_uloziste.zavriDataK();
         QApplication::restoreOverrideCursor();
@@ -598,14 +636,14 @@ void FrmBorovak::ZalohaDat()
 {
     try {
         QDir().mkpath(Zaloha::slozka());
-        const QString soubor = m_prompt.soubor(true, QStringLiteral("Vytvoření zálohy..."), Zaloha::slozka(),
-                                               Zaloha::navrh(Schema::Soubor::Data, Razitko::ted().date()),
-                                               Zaloha::filtr(Schema::Soubor::Data));
-        const QString cil = soubor.endsWith(QLatin1String(".bvk"), Qt::CaseInsensitive) ? soubor : soubor + QStringLiteral(".bvk");
-        if (QFile::exists(cil) &&
-            m_prompt.zprava(QStringLiteral("Soubor pod tímto názvem již existuje, chcete ho přepsat ?"),
-                            QStringLiteral("Upozornění !!!"), Prompt::Ikona::Vykricnik,
-                            Prompt::Tlacitka::AnoNe) != Prompt::Odpoved::Ano)
+        const QString soubor =
+            m_prompt.soubor(true, QStringLiteral("Vytvoření zálohy..."), Zaloha::slozka(),
+                            Zaloha::navrh(Schema::Soubor::Data, Razitko::ted().date()), Zaloha::filtr(Schema::Soubor::Data));
+        const QString cil =
+            soubor.endsWith(QLatin1String(".bvk"), Qt::CaseInsensitive) ? soubor : soubor + QStringLiteral(".bvk");
+        if (QFile::exists(cil) && m_prompt.zprava(QStringLiteral("Soubor pod tímto názvem již existuje, chcete ho přepsat ?"),
+                                                  QStringLiteral("Upozornění !!!"), Prompt::Ikona::Vykricnik,
+                                                  Prompt::Tlacitka::AnoNe) != Prompt::Odpoved::Ano)
             return;
         Zaloha::zalohuj(m_uloziste, Schema::Soubor::Data, cil);
         m_prompt.zprava(QStringLiteral("Zálohování bylo úspěšně dokončeno"), QStringLiteral("Uloženo.."),
@@ -621,8 +659,8 @@ void FrmBorovak::ObnovaDat()
 {
     try {
         QDir().mkpath(Zaloha::slozka());
-        const QString soubor = m_prompt.soubor(false, QStringLiteral("Vložení zálohovaných dat..."), Zaloha::slozka(),
-                                               QString(), Zaloha::filtr(Schema::Soubor::Data));
+        const QString soubor = m_prompt.soubor(false, QStringLiteral("Vložení zálohovaných dat..."), Zaloha::slozka(), QString(),
+                                               Zaloha::filtr(Schema::Soubor::Data));
         if (!Zaloha::obnov(m_uloziste, Schema::Soubor::Data, soubor, m_prompt))
             return;
         NaplnitStrom();
@@ -654,8 +692,8 @@ void FrmBorovak::obnovGeometrii()
 void FrmBorovak::ulozGeometrii()
 {
     const QRect r = geometry();
-    for (auto [klic, hodnota] : {std::pair{"MainLeft", r.x()}, {"MainTop", r.y()}, {"MainWidth", r.width()},
-                                 {"MainHeight", r.height()}})
+    for (auto [klic, hodnota] :
+         {std::pair{"MainLeft", r.x()}, {"MainTop", r.y()}, {"MainWidth", r.width()}, {"MainHeight", r.height()}})
         Nastaveni::SaveSetting(QStringLiteral("Settings"), QLatin1String(klic), QString::number(hodnota * TwipuNaPixel));
 }
 

@@ -7,6 +7,7 @@
 #include "core/Nastaveni.h"
 #include "core/Uloziste.h"
 #include "orders/Prislusenstvi.h"
+#include "orders/Zakazky.h"
 #include "printing/Obrazky.h"
 #include "ui/FrmCenik.h"
 #include "ui/FrmNovy.h"
@@ -106,27 +107,28 @@ void FrmBorovak::UpravitPrislusenstvi()
         return;
     const QString zakazka = m_vyber.txtzakazka(), sestava = m_vyber.txtSestava();
     Database& cenik = m_uloziste.cenik();
-    const Prislusenstvi::Polozka p = Prislusenstvi::UpravitPrislusenstvi(m_uloziste.dataS(), zakazka, sestava, m_GPR->item(r, 0)->text());
+    const Prislusenstvi::Polozka p =
+        Prislusenstvi::UpravitPrislusenstvi(m_uloziste.dataS(), zakazka, sestava, m_GPR->item(r, 0)->text());
     FrmNovy d(this, m_uloziste.cenik(), m_prompt);
-    d.prislusenstvi(QLatin1String(Prislusenstvi::TagUprava),
-                    Cenik::NaplnitSeznamCeniku(cenik, Cenik::ulozenyVyber(), Cenik::ulozeneRazeni()),
-                    Prislusenstvi::jednotky({}), p,
-                    [&cenik](const QString& nazev) -> std::optional<Prislusenstvi::Polozka> {
-                        const auto c = Cenik::nacti(cenik, nazev);
-                        if (!c)
-                            return std::nullopt;
-                        Prislusenstvi::Polozka v;
-                        v.jednotka = c->jednotka;
-                        v.cena = c->cena;
-                        return v;
-                    },
-                    [&](const Prislusenstvi::Zadani& z) {
-                        if (!Prislusenstvi::UlozitPrislusenstvi(m_uloziste.dataS(), m_prompt, d.Tag, zakazka, sestava, z))
-                            return FrmNovy::PoUlozeni::Odmitnuto;
-                        NaplnitGridPR(QStringLiteral("Upravení záznamu"));
-                        obnovCeny();
-                        return FrmNovy::PoUlozeni::Zavrit;
-                    });
+    d.prislusenstvi(
+        QLatin1String(Prislusenstvi::TagUprava), Cenik::NaplnitSeznamCeniku(cenik, Cenik::ulozenyVyber(), Cenik::ulozeneRazeni()),
+        Prislusenstvi::jednotky({}), p,
+        [&cenik](const QString& nazev) -> std::optional<Prislusenstvi::Polozka> {
+            const auto c = Cenik::nacti(cenik, nazev);
+            if (!c)
+                return std::nullopt;
+            Prislusenstvi::Polozka v;
+            v.jednotka = c->jednotka;
+            v.cena = c->cena;
+            return v;
+        },
+        [&](const Prislusenstvi::Zadani& z) {
+            if (!Prislusenstvi::UlozitPrislusenstvi(m_uloziste.dataS(), m_prompt, d.Tag, zakazka, sestava, z))
+                return FrmNovy::PoUlozeni::Odmitnuto;
+            NaplnitGridPR(QStringLiteral("Upravení záznamu"));
+            obnovCeny();
+            return FrmNovy::PoUlozeni::Zavrit;
+        });
 }
 
 void FrmBorovak::SmazatPrislusenstvi()
@@ -143,7 +145,9 @@ void FrmBorovak::SmazatPrislusenstvi()
 
 void FrmBorovak::NactiSchema()
 {
-    const QImage obr = Knihovna::NactiSchema(m_uloziste.dataS(), m_uloziste.cenik(), m_vyber.txtzakazka(), m_AktSestava);
+    const int schema =
+        m_AktSestava.isEmpty() ? 0 : Zakazky::nactiSestavu(m_uloziste.dataS(), m_vyber.txtzakazka(), m_AktSestava).schema;
+    const QImage obr = Knihovna::obrazek(m_uloziste.cenik(), Knihovna::Druh::Schemata, schema);
     if (obr.isNull()) {
         m_img1->clear();
         return;
