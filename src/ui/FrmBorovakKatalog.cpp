@@ -1,5 +1,4 @@
-// The main window's accessories (GPR and fraPřís), its schema picture img1, and the price list
-// and library windows of the Doplňky menu.
+// The main window's accessories (GPR and fraPřís) and its schema picture img1.
 #include "ui/FrmBorovak.h"
 
 #include "catalogues/Cenik.h"
@@ -9,34 +8,19 @@
 #include "orders/Prislusenstvi.h"
 #include "orders/Zakazky.h"
 #include "printing/Obrazky.h"
-#include "ui/FrmCenik.h"
 #include "ui/FrmNovy.h"
-#include "ui/FrmObr.h"
 
 #include <QAction>
 #include <QLabel>
 #include <QSplitter>
 #include <QTableWidget>
 
-bool FrmBorovak::katalog(const QString& n)
+void FrmBorovak::pridejPrikazyPrislusenstvi()
 {
-    if (n == QLatin1String("NoveP") || n == QLatin1String("cmdNovePrislusenstvi"))
-        NovePrislusenstvi();
-    else if (n == QLatin1String("UpraveniP") || n == QLatin1String("cmdUpravitPrislusenstvi"))
-        UpravitPrislusenstvi();
-    else if (n == QLatin1String("SmazaniP") || n == QLatin1String("cmdSmazatPrislusenstvi"))
-        SmazatPrislusenstvi();
-    else if (n == QLatin1String("CTM")) {
-        FrmCenik cenik(m_uloziste.cenik(), m_prompt, this);
-        cenik.exec();
-    } else if (n == QLatin1String("DSS") || n == QLatin1String("DOC")) {
-        FrmObr okno(m_uloziste.cenik(), m_prompt, n == QLatin1String("DSS") ? Knihovna::Druh::Schemata : Knihovna::Druh::Obrazky,
-                    0, false, this);
-        okno.exec();
-        NactiSchema();
-    } else
-        return false;
-    return true;
+    m_prikazy.pridej({QStringLiteral("NoveP"), QStringLiteral("cmdNovePrislusenstvi")}, [this] { NovePrislusenstvi(); });
+    m_prikazy.pridej({QStringLiteral("UpraveniP"), QStringLiteral("cmdUpravitPrislusenstvi")},
+                     [this] { UpravitPrislusenstvi(); });
+    m_prikazy.pridej({QStringLiteral("SmazaniP"), QStringLiteral("cmdSmazatPrislusenstvi")}, [this] { SmazatPrislusenstvi(); });
 }
 
 void FrmBorovak::pripojKatalog()

@@ -5,9 +5,9 @@
 
 #include "printing/Operace.h"
 
+#include "core/Database.h"
 #include "core/Jednotky.h"
 #include "core/Nastaveni.h"
-#include "core/Database.h"
 #include "core/Uloziste.h"
 #include "orders/Desky.h"
 #include "orders/Materialy.h"
@@ -23,9 +23,9 @@
 
 using PoUlozeni = FrmNovy::PoUlozeni;
 
-bool FrmBorovak::zaznam(const QString& n)
+void FrmBorovak::pridejPrikazyZaznamu()
 {
-    static const std::vector<std::pair<QStringList, void (FrmBorovak::*)()>> prikazy = {
+    const std::pair<QStringList, void (FrmBorovak::*)()> prikazy[] = {
         {{"NZakazka"}, &FrmBorovak::NovaZakazka},
         {{"UpraveniZakazky"}, &FrmBorovak::UpravitZakazku},
         {{"SmazaniZakazky"}, &FrmBorovak::SmazatZakazku},
@@ -38,24 +38,17 @@ bool FrmBorovak::zaznam(const QString& n)
         {{"cmdImport"}, &FrmBorovak::ImportDesek},
     };
     for (const auto& [nazvy, f] : prikazy)
-        if (nazvy.contains(n)) {
-            (this->*f)();
-            return true;
-        }
-    const bool hrana = n == QLatin1String("NH") || n == QLatin1String("UH") || n == QLatin1String("SH") ||
-                       n.endsWith(QLatin1String("Hrana"));
-    if (n == QLatin1String("NF") || n == QLatin1String("NH") || n == QLatin1String("cmdNovyFormat") ||
-        n == QLatin1String("cmdNovaHrana"))
-        NovyMaterial(hrana);
-    else if (n == QLatin1String("UF") || n == QLatin1String("UH") || n == QLatin1String("cmdUpravitFormat") ||
-             n == QLatin1String("cmdUpravitHrana"))
-        UpravitMaterial(hrana);
-    else if (n == QLatin1String("SF") || n == QLatin1String("SH") || n == QLatin1String("cmdSmazatFormat") ||
-             n == QLatin1String("cmdSmazatHrana"))
-        SmazatMaterial(hrana);
-    else
-        return false;
-    return true;
+        m_prikazy.pridej(nazvy, [this, f = f] { (this->*f)(); });
+    // formats and bands share their routines; the table says which is which
+    const std::pair<QStringList, void (FrmBorovak::*)(bool)> materialy[] = {
+        {{"NF", "cmdNovyFormat", "NH", "cmdNovaHrana"}, &FrmBorovak::NovyMaterial},
+        {{"UF", "cmdUpravitFormat", "UH", "cmdUpravitHrana"}, &FrmBorovak::UpravitMaterial},
+        {{"SF", "cmdSmazatFormat", "SH", "cmdSmazatHrana"}, &FrmBorovak::SmazatMaterial},
+    };
+    for (const auto& [nazvy, f] : materialy) {
+        m_prikazy.pridej(nazvy.mid(0, 2), [this, f = f] { (this->*f)(false); });
+        m_prikazy.pridej(nazvy.mid(2, 2), [this, f = f] { (this->*f)(true); });
+    }
 }
 
 void FrmBorovak::vyberUzel(QString zakazka, QString sestava)
@@ -245,7 +238,7 @@ void FrmBorovak::UpravitMaterial(bool hrana)
                    if (u == Materialy::Uprava::Odmitnuto)
                        return PoUlozeni::Odmitnuto;
                    NaplnitGridFormaty(u == Materialy::Uprava::Slouceno ? QStringLiteral("Odstraneni zaznamu")
-                                                                        : QStringLiteral("Upraveni zaznamu"));
+                                                                       : QStringLiteral("Upraveni zaznamu"));
                    NaplnitGridPM(QStringLiteral("Upravení záznamu"));
                    return PoUlozeni::Zavrit;
                });
@@ -270,8 +263,8 @@ void FrmBorovak::NaplnitGridFormaty(const QString& akce)
     for (int i = 0; i < int(vse.size()); ++i) {
         const auto& m = vse[i];
         const QString cena = Jednotky::cislo(m.cena);
-        const QStringList bunky = {m.nazev, Jednotky::ZMilimetru(m.x), Jednotky::ZMilimetru(m.y),
-                                   Jednotky::CenaZaPlochu(cena), Jednotky::CenaZaPlochuSDPH(cena)};
+        const QStringList bunky = {m.nazev, Jednotky::ZMilimetru(m.x), Jednotky::ZMilimetru(m.y), Jednotky::CenaZaPlochu(cena),
+                                   Jednotky::CenaZaPlochuSDPH(cena)};
         for (int j = 0; j < bunky.size(); ++j)
             m_GridFormaty->setItem(i, j, new QTableWidgetItem(bunky[j]));
     }
@@ -305,8 +298,9 @@ void FrmBorovak::NaplnitGridHrany(const QString& akce)
 void FrmBorovak::NaplnitGridPM(const QString& akce)
 {
     const int predtim = m_GPM->currentRow();
-    const auto radky = m_AktSestava.isEmpty() ? std::vector<Desky::RadekGridu>{}
-                                              : Desky::NaplnitGridPM(m_uloziste.dataS(), m_vyber.txtzakazka(), m_vyber.txtSestava());
+    const auto radky = m_AktSestava.isEmpty()
+                           ? std::vector<Desky::RadekGridu>{}
+                           : Desky::NaplnitGridPM(m_uloziste.dataS(), m_vyber.txtzakazka(), m_vyber.txtSestava());
     m_GPM->setRowCount(int(radky.size()));
     for (int i = 0; i < int(radky.size()); ++i) {
         const auto& d = radky[i].deska;
@@ -330,8 +324,7 @@ void FrmBorovak::NovyPM()
     FrmNovy d(this, m_uloziste.cenik(), m_prompt);
     d.deska(QStringLiteral("NovyPM"), n.textyFormatu, n.textyHran, n.hrany, {QString(), 0, 0, 1}, {},
             [&](const Desky::Deska& z, const FrmNovy::TextyDesky& t) {
-                if (Desky::UlozitNovyPM(m_uloziste.dataS(), m_prompt, zakazka, sestava,
-                                        sIdy(m_uloziste.dataS(), zakazka, z, t))
+                if (Desky::UlozitNovyPM(m_uloziste.dataS(), m_prompt, zakazka, sestava, sIdy(m_uloziste.dataS(), zakazka, z, t))
                         .isNull())
                     return PoUlozeni::Odmitnuto;
                 NaplnitGridPM(QStringLiteral("Novy zaznam"));
