@@ -135,13 +135,12 @@ Polozka UpravitPrislusenstvi(Database& db, const QString& zakazka, const QString
     return p;
 }
 
-bool UlozitPrislusenstvi(Database& db, Prompt& prompt, const QString& tag, const QString& zakazka, const QString& sestava,
+bool UlozitPrislusenstvi(Database& db, Prompt& prompt, bool upravit, const QString& zakazka, const QString& sestava,
                          const Zadani& z)
 {
     const auto p = platne(prompt, z);
     if (!p)
         return false;
-    const bool upravit = tag == QLatin1String(TagUprava);
     const QString stary = upravit ? Nastaveni::GetSetting(QStringLiteral("Editor"), QStringLiteral("Prislusenstvi")) : QString();
     // refusals come before the transaction: no lock is held while a message stands
     if ((!upravit || p->oznaceni != stary) && polozka(db, zakazka, sestava, p->oznaceni))

@@ -74,14 +74,16 @@ void FrmBorovak::NovePrislusenstvi()
         v.cena = p->cena;
         return v;
     };
-    d.prislusenstvi(QString(), Cenik::NaplnitSeznamCeniku(cenik, Cenik::ulozenyVyber(), Cenik::ulozeneRazeni()),
-                    Prislusenstvi::jednotky(jednotkyCeniku), {}, zCeniku, [&](const Prislusenstvi::Zadani& z) {
-                        if (!Prislusenstvi::UlozitPrislusenstvi(m_uloziste.dataS(), m_prompt, d.Tag, zakazka, sestava, z))
-                            return FrmNovy::PoUlozeni::Odmitnuto;
-                        NaplnitGridPR(QStringLiteral("Novy zaznam"));
-                        obnovCeny();
-                        return FrmNovy::PoUlozeni::Dalsi;
-                    });
+    d.prislusenstvi(
+        FrmNovy::Stav::NovePrislusenstvi, Cenik::NaplnitSeznamCeniku(cenik, Cenik::ulozenyVyber(), Cenik::ulozeneRazeni()),
+        Prislusenstvi::jednotky(jednotkyCeniku), {}, zCeniku, [&](const Prislusenstvi::Zadani& z) {
+            if (!Prislusenstvi::UlozitPrislusenstvi(m_uloziste.dataS(), m_prompt,
+                                                    d.stav() == FrmNovy::Stav::UpraveniPrislusenstvi, zakazka, sestava, z))
+                return FrmNovy::PoUlozeni::Odmitnuto;
+            NaplnitGridPR(QStringLiteral("Novy zaznam"));
+            obnovCeny();
+            return FrmNovy::PoUlozeni::Dalsi;
+        });
 }
 
 void FrmBorovak::UpravitPrislusenstvi()
@@ -95,7 +97,7 @@ void FrmBorovak::UpravitPrislusenstvi()
         Prislusenstvi::UpravitPrislusenstvi(m_uloziste.dataS(), zakazka, sestava, m_GPR->item(r, 0)->text());
     FrmNovy d(this, m_uloziste.cenik(), m_prompt);
     d.prislusenstvi(
-        QLatin1String(Prislusenstvi::TagUprava), Cenik::NaplnitSeznamCeniku(cenik, Cenik::ulozenyVyber(), Cenik::ulozeneRazeni()),
+        FrmNovy::Stav::UpraveniPrislusenstvi, Cenik::NaplnitSeznamCeniku(cenik, Cenik::ulozenyVyber(), Cenik::ulozeneRazeni()),
         Prislusenstvi::jednotky({}), p,
         [&cenik](const QString& nazev) -> std::optional<Prislusenstvi::Polozka> {
             const auto c = Cenik::nacti(cenik, nazev);
@@ -107,7 +109,8 @@ void FrmBorovak::UpravitPrislusenstvi()
             return v;
         },
         [&](const Prislusenstvi::Zadani& z) {
-            if (!Prislusenstvi::UlozitPrislusenstvi(m_uloziste.dataS(), m_prompt, d.Tag, zakazka, sestava, z))
+            if (!Prislusenstvi::UlozitPrislusenstvi(m_uloziste.dataS(), m_prompt,
+                                                    d.stav() == FrmNovy::Stav::UpraveniPrislusenstvi, zakazka, sestava, z))
                 return FrmNovy::PoUlozeni::Odmitnuto;
             NaplnitGridPR(QStringLiteral("Upravení záznamu"));
             obnovCeny();

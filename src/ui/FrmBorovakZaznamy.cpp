@@ -74,7 +74,7 @@ void FrmBorovak::NovaZakazka()
 {
     FrmNovy d(this, m_uloziste.cenik(), m_prompt);
     QString ulozena;
-    d.zakazka(QStringLiteral("NovaZakazka"), QString(), QString(), [&](const QString& nazev, const QString& poznamka) {
+    d.zakazka(FrmNovy::Stav::NovaZakazka, QString(), QString(), [&](const QString& nazev, const QString& poznamka) {
         if (!Zakazky::UlozitNovouZakazku(m_uloziste.dataS(), m_prompt, nazev, poznamka))
             return PoUlozeni::Odmitnuto;
         ulozena = nazev;
@@ -91,7 +91,7 @@ void FrmBorovak::UpravitZakazku()
     FrmNovy d(this, m_uloziste.cenik(), m_prompt);
     const QString stara = m_vyber.txtzakazka();
     QString nova;
-    d.zakazka(QStringLiteral("UpraveniZakazky"), stara, Zakazky::poznamka(m_uloziste.dataS(), stara),
+    d.zakazka(FrmNovy::Stav::UpraveniZakazky, stara, Zakazky::poznamka(m_uloziste.dataS(), stara),
               [&](const QString& nazev, const QString& poznamka) {
                   if (!Zakazky::UlozitUpravuZakazky(m_uloziste.dataS(), m_prompt, stara, nazev, poznamka))
                       return PoUlozeni::Odmitnuto;
@@ -115,7 +115,7 @@ void FrmBorovak::NovaSestava()
 {
     FrmNovy d(this, m_uloziste.cenik(), m_prompt);
     QString ulozena;
-    d.sestava(QStringLiteral("NovaSestava"), {QString(), QString(), 1, 0}, [&](const Zakazky::Sestava& s) {
+    d.sestava(FrmNovy::Stav::NovaSestava, {QString(), QString(), 1, 0}, [&](const Zakazky::Sestava& s) {
         if (!Zakazky::UlozitNovouSestavu(m_uloziste.dataS(), m_prompt, m_vyber.txtzakazka(), s))
             return PoUlozeni::Odmitnuto;
         ulozena = s.nazev;
@@ -134,7 +134,7 @@ void FrmBorovak::UpravitSestavu()
     const QString stara = m_vyber.txtSestava();
     Nastaveni::SaveSetting(QStringLiteral("Editor"), QStringLiteral("Sestava"), stara);
     QString nova;
-    d.sestava(QStringLiteral("UpraveniSestavy"), Zakazky::nactiSestavu(m_uloziste.dataS(), m_vyber.txtzakazka(), stara),
+    d.sestava(FrmNovy::Stav::UpraveniSestavy, Zakazky::nactiSestavu(m_uloziste.dataS(), m_vyber.txtzakazka(), stara),
               [&](const Zakazky::Sestava& s) {
                   if (!Zakazky::UlozitUpravuSestavy(m_uloziste.dataS(), m_prompt, m_vyber.txtzakazka(), stara, s))
                       return PoUlozeni::Odmitnuto;
@@ -202,7 +202,7 @@ void FrmBorovak::NovyMaterial(bool hrana)
 {
     m_stZakazky->setCurrentIndex(0);
     FrmNovy d(this, m_uloziste.cenik(), m_prompt);
-    d.material(hrana ? QStringLiteral("NovaHrana") : QStringLiteral("NovyFormat"), hrana, {}, [&](const Materialy::Material& m) {
+    d.material(hrana ? FrmNovy::Stav::NovaHrana : FrmNovy::Stav::NovyFormat, {}, [&](const Materialy::Material& m) {
         const bool ok = hrana ? Materialy::UlozitNovouHranu(m_uloziste.dataS(), m_vyber.txtzakazka(), m)
                               : Materialy::UlozitNovyFormat(m_uloziste.dataS(), m_vyber.txtzakazka(), m);
         if (!ok)
@@ -226,22 +226,21 @@ void FrmBorovak::UpravitMaterial(bool hrana)
     if (!m)
         return;
     FrmNovy d(this, m_uloziste.cenik(), m_prompt);
-    d.material(hrana ? QStringLiteral("UpraveniHrany") : QStringLiteral("UpraveniFormatu"), hrana, *m,
-               [&](const Materialy::Material& z) {
-                   if (hrana) {
-                       if (!Materialy::UlozitUpravuHrany(m_uloziste.dataS(), m_vyber.txtzakazka(), z))
-                           return PoUlozeni::Odmitnuto;
-                       NaplnitGridHrany(QStringLiteral("Upraveni zaznamu"));
-                       return PoUlozeni::Zavrit;
-                   }
-                   const auto u = Materialy::UlozitUpravuFormatu(m_uloziste.dataS(), m_prompt, m_vyber.txtzakazka(), z);
-                   if (u == Materialy::Uprava::Odmitnuto)
-                       return PoUlozeni::Odmitnuto;
-                   NaplnitGridFormaty(u == Materialy::Uprava::Slouceno ? QStringLiteral("Odstraneni zaznamu")
-                                                                       : QStringLiteral("Upraveni zaznamu"));
-                   NaplnitGridPM(QStringLiteral("Upravení záznamu"));
-                   return PoUlozeni::Zavrit;
-               });
+    d.material(hrana ? FrmNovy::Stav::UpraveniHrany : FrmNovy::Stav::UpraveniFormatu, *m, [&](const Materialy::Material& z) {
+        if (hrana) {
+            if (!Materialy::UlozitUpravuHrany(m_uloziste.dataS(), m_vyber.txtzakazka(), z))
+                return PoUlozeni::Odmitnuto;
+            NaplnitGridHrany(QStringLiteral("Upraveni zaznamu"));
+            return PoUlozeni::Zavrit;
+        }
+        const auto u = Materialy::UlozitUpravuFormatu(m_uloziste.dataS(), m_prompt, m_vyber.txtzakazka(), z);
+        if (u == Materialy::Uprava::Odmitnuto)
+            return PoUlozeni::Odmitnuto;
+        NaplnitGridFormaty(u == Materialy::Uprava::Slouceno ? QStringLiteral("Odstraneni zaznamu")
+                                                            : QStringLiteral("Upraveni zaznamu"));
+        NaplnitGridPM(QStringLiteral("Upravení záznamu"));
+        return PoUlozeni::Zavrit;
+    });
 }
 
 void FrmBorovak::SmazatMaterial(bool hrana)
@@ -322,7 +321,7 @@ void FrmBorovak::NovyPM()
     const QString zakazka = m_vyber.txtzakazka(), sestava = m_vyber.txtSestava();
     const Nabidka n = nabidka(m_uloziste.dataS(), zakazka);
     FrmNovy d(this, m_uloziste.cenik(), m_prompt);
-    d.deska(QStringLiteral("NovyPM"), n.textyFormatu, n.textyHran, n.hrany, {QString(), 0, 0, 1}, {},
+    d.deska(FrmNovy::Stav::NovyPM, n.textyFormatu, n.textyHran, n.hrany, {QString(), 0, 0, 1}, {},
             [&](const Desky::Deska& z, const FrmNovy::TextyDesky& t) {
                 if (Desky::UlozitNovyPM(m_uloziste.dataS(), m_prompt, zakazka, sestava, sIdy(m_uloziste.dataS(), zakazka, z, t))
                         .isNull())
@@ -352,7 +351,7 @@ void FrmBorovak::UpravitPM()
             if (n.hrany[i].ID == deska.hrany[s])
                 texty.hrany[s] = n.textyHran[int(i)];
     FrmNovy d(this, m_uloziste.cenik(), m_prompt);
-    d.deska(QStringLiteral("UpraveniPM"), n.textyFormatu, n.textyHran, n.hrany, deska, texty,
+    d.deska(FrmNovy::Stav::UpraveniPM, n.textyFormatu, n.textyHran, n.hrany, deska, texty,
             [&](const Desky::Deska& z, const FrmNovy::TextyDesky& t) {
                 const QString puvodni = Nastaveni::GetSetting(QStringLiteral("Editor"), QStringLiteral("PM"));
                 if (Desky::UlozitUpravuPM(m_uloziste.dataS(), m_prompt, zakazka, sestava, puvodni,

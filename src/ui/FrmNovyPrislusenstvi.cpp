@@ -13,13 +13,13 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
-void FrmNovy::prislusenstvi(const QString& tag, const QStringList& nazvy, const QStringList& jednotky,
+void FrmNovy::prislusenstvi(Stav stavRamce, const QStringList& nazvy, const QStringList& jednotky,
                             const Prislusenstvi::Polozka& p,
                             const std::function<std::optional<Prislusenstvi::Polozka>(const QString&)>& zCeniku,
                             const std::function<PoUlozeni(const Prislusenstvi::Zadani&)>& ulozit)
 {
-    const bool nove = tag != QLatin1String(Prislusenstvi::TagUprava);
-    Tag = QStringLiteral("Najeti");
+    const bool nove = stavRamce != Stav::UpraveniPrislusenstvi;
+    m_stav = Stav::Najeti;
     auto* w = new QWidget;
     w->setObjectName(QStringLiteral("fraPřís"));
     auto* nazev = new QComboBox;
@@ -77,7 +77,7 @@ void FrmNovy::prislusenstvi(const QString& tag, const QStringList& nazvy, const 
     vypln(p);
     auto stav = [=, this] {
         popisek->setText(Prislusenstvi::popisekCeny(jednotka->currentText()));
-        uloz->setEnabled(Tag != QLatin1String("Najeti") && !nazev->currentText().trimmed().isEmpty() &&
+        uloz->setEnabled(m_stav != Stav::Najeti && !nazev->currentText().trimmed().isEmpty() &&
                          !pocet->text().trimmed().isEmpty());
     };
     connect(nazev, &QComboBox::textActivated, this, [=, this](const QString& t) {
@@ -101,7 +101,7 @@ void FrmNovy::prislusenstvi(const QString& tag, const QStringList& nazvy, const 
             nazev->setFocus();
         }
     });
-    Tag = tag;
+    m_stav = stavRamce;
     stav();
     ukaz(w, nove ? QStringLiteral("Přidání nového příslušenství") : QStringLiteral("Upravení příslušenstvi"), 20);
     exec();

@@ -5,11 +5,11 @@
 
 #include "printing/Operace.h"
 
+#include "core/Error.h"
 #include "core/Jednotky.h"
 #include "ui/CiselnePole.h"
 
 #include <QCheckBox>
-#include <QColorDialog>
 #include <QComboBox>
 #include <QFormLayout>
 #include <QGroupBox>
@@ -100,8 +100,10 @@ protected:
         g.setPen(Qt::black);
         g.setBrush(vzor ? QBrush(QColor(0xd9, 0xb3, 0x82), Qt::HorPattern) : QBrush(QColor(0xf3, 0xe6, 0xcf)));
         g.drawRect(r);
-        const QLineF strany[4] = {{r.topLeft(), r.topRight()}, {r.bottomLeft(), r.bottomRight()},
-                                  {r.topLeft(), r.bottomLeft()}, {r.topRight(), r.bottomRight()}};
+        const QLineF strany[4] = {{r.topLeft(), r.topRight()},
+                                  {r.bottomLeft(), r.bottomRight()},
+                                  {r.topLeft(), r.bottomLeft()},
+                                  {r.topRight(), r.bottomRight()}};
         for (int i = 0; i < 4; ++i)
             if (hrany[i]) {
                 g.setPen(QPen(*hrany[i], 5));
@@ -119,11 +121,11 @@ protected:
 
 } // namespace
 
-void FrmNovy::zakazka(const QString& tag, const QString& nazev, const QString& poznamka,
+void FrmNovy::zakazka(Stav stavRamce, const QString& nazev, const QString& poznamka,
                       const std::function<PoUlozeni(const QString&, const QString&)>& ulozit)
 {
-    Tag = tag;
-    const bool nova = tag == QLatin1String("NovaZakazka");
+    m_stav = stavRamce;
+    const bool nova = stavRamce == Stav::NovaZakazka;
     Ramec r = novyRamec(m_ramce, "fraZakázka", "cmdZakazkaPouzit",
                         nova ? QStringLiteral("Uložení nové zakázky") : QStringLiteral("Uložení úprav v zakázce"));
     // a copy may carry a longer name than can be typed: editing its note must not cut it
@@ -152,13 +154,12 @@ void FrmNovy::zakazka(const QString& tag, const QString& nazev, const QString& p
     r.w->deleteLater();
 }
 
-void FrmNovy::sestava(const QString& tag, const Zakazky::Sestava& s,
-                      const std::function<PoUlozeni(const Zakazky::Sestava&)>& ulozit)
+void FrmNovy::sestava(Stav stavRamce, const Zakazky::Sestava& s, const std::function<PoUlozeni(const Zakazky::Sestava&)>& ulozit)
 {
-    Tag = QStringLiteral("Najeti");
-    const bool nova = tag == QLatin1String("NovaSestava");
-    Ramec r = novyRamec(m_ramce, "fraTyp", "cmdUlozitP", nova ? QStringLiteral("Uložení nové sestavy")
-                                                              : QStringLiteral("Uložení úprav sestavy"));
+    m_stav = Stav::Najeti;
+    const bool nova = stavRamce == Stav::NovaSestava;
+    Ramec r = novyRamec(m_ramce, "fraTyp", "cmdUlozitP",
+                        nova ? QStringLiteral("Uložení nové sestavy") : QStringLiteral("Uložení úprav sestavy"));
     auto* nazev = text("txtNT", Zakazky::MaxNazevSestavy);
     auto* popis = text("txtP");
     auto* pocet = new QSpinBox;
@@ -187,8 +188,8 @@ void FrmNovy::sestava(const QString& tag, const Zakazky::Sestava& s,
     r.formular->addRow(QString(), imgSchema);
     if (!m_cenik)
         imgSchema->hide();
-    auto stav = [=, this] { r.ulozit->setEnabled(Tag != QLatin1String("Najeti") && !nazev->text().trimmed().isEmpty()); };
-    Tag = tag;
+    auto stav = [=, this] { r.ulozit->setEnabled(m_stav != Stav::Najeti && !nazev->text().trimmed().isEmpty()); };
+    m_stav = stavRamce;
     connect(nazev, &QLineEdit::textChanged, this, stav);
     connect(popis, &QLineEdit::textChanged, this, stav);
     connect(pocet, &QSpinBox::valueChanged, this, stav);
@@ -207,11 +208,12 @@ void FrmNovy::sestava(const QString& tag, const Zakazky::Sestava& s,
     r.w->deleteLater();
 }
 
-void FrmNovy::material(const QString& tag, bool hrana, const Materialy::Material& m,
+void FrmNovy::material(Stav stavRamce, const Materialy::Material& m,
                        const std::function<PoUlozeni(const Materialy::Material&)>& ulozit)
 {
-    const bool novy = tag.startsWith(QLatin1String("Nov"));
-    Tag = QStringLiteral("Najeti");
+    const bool novy = stavRamce == Stav::NovyFormat || stavRamce == Stav::NovaHrana;
+    const bool hrana = stavRamce == Stav::NovaHrana || stavRamce == Stav::UpraveniHrany;
+    m_stav = Stav::Najeti;
     Ramec r = hrana ? novyRamec(m_ramce, "fraHrana", "cmdUlozeniHrany", QStringLiteral("Uložení hrany"))
                     : novyRamec(m_ramce, "fraMaterial", "cmdFormatUlozit", QStringLiteral("Uložení formátu"));
     auto* nazev = new QComboBox;
@@ -243,11 +245,11 @@ void FrmNovy::material(const QString& tag, bool hrana, const Materialy::Material
     ukazBarvu();
     auto* radekNazvu = new QHBoxLayout;
     radekNazvu->addWidget(nazev, 1);
-    radekNazvu->addWidget(tlacitkoCeniku(hrana ? QStringLiteral("VH") : QStringLiteral("VF"),
-                                         [=](const QString& n, double c, const QString&) {
-                                             nazev->setCurrentText(n);
-                                             cena->setText(Jednotky::cislo(c));
-                                         }));
+    radekNazvu->addWidget(
+        tlacitkoCeniku(hrana ? QStringLiteral("VH") : QStringLiteral("VF"), [=](const QString& n, double c, const QString&) {
+            nazev->setCurrentText(n);
+            cena->setText(Jednotky::cislo(c));
+        }));
     r.formular->addRow(hrana ? QStringLiteral("Název:") : QStringLiteral("Název materiálu:"), radekNazvu);
     if (hrana) {
         r.formular->addRow(QStringLiteral("Cena bez DPH:"), cena);
@@ -264,22 +266,25 @@ void FrmNovy::material(const QString& tag, bool hrana, const Materialy::Material
         r.formular->addRow(nahled);
     }
     connect(barva, &QPushButton::clicked, this, [=, this, &vybrana] {
-        const QColor c = QColorDialog::getColor(vybrana, this, QStringLiteral("Barva hrany v NP"));
-        if (c.isValid()) {
-            vybrana = c;
+        if (!m_prompt)
+            return;
+        try {
+            vybrana = Barva::zVB(m_prompt->barva(quint32(Barva::doVB(vybrana)), QStringLiteral("Barva hrany v NP")));
             ukazBarvu();
+        } catch (const Error&) {
+            // a cancelled chooser keeps the colour
         }
     });
     auto stav = [=, this] {
         const bool mameRozmery = hrana || (!fx->text().isEmpty() && !fy->text().isEmpty());
-        r.ulozit->setEnabled(Tag != QLatin1String("Najeti") && !nazev->currentText().trimmed().isEmpty() &&
-                             !cena->text().isEmpty() && cena->hodnota() != 0 && mameRozmery);
+        r.ulozit->setEnabled(m_stav != Stav::Najeti && !nazev->currentText().trimmed().isEmpty() && !cena->text().isEmpty() &&
+                             cena->hodnota() != 0 && mameRozmery);
         nahled->x = nazev->currentText().isEmpty() ? 0 : fx->mm();
         nahled->y = fy->mm();
         nahled->vzor = ov->isChecked();
         nahled->update();
     };
-    Tag = novy ? tag : (hrana ? QStringLiteral("UpraveniHrany") : QStringLiteral("UpraveniFormatu"));
+    m_stav = stavRamce;
     for (QLineEdit* e : {static_cast<QLineEdit*>(fx), static_cast<QLineEdit*>(fy), static_cast<QLineEdit*>(cena),
                          static_cast<QLineEdit*>(presah)})
         connect(e, &QLineEdit::textChanged, this, stav);
@@ -312,12 +317,12 @@ void FrmNovy::material(const QString& tag, bool hrana, const Materialy::Material
     r.w->deleteLater();
 }
 
-void FrmNovy::deska(const QString& tag, const QStringList& formaty, const QStringList& hrany,
+void FrmNovy::deska(Stav stavRamce, const QStringList& formaty, const QStringList& hrany,
                     const std::vector<Materialy::Material>& pasky, const Desky::Deska& d, const TextyDesky& texty,
                     const std::function<PoUlozeni(const Desky::Deska&, const TextyDesky&)>& ulozit)
 {
-    const bool nova = tag == QLatin1String("NovyPM");
-    Tag = QStringLiteral("Najeti");
+    const bool nova = stavRamce == Stav::NovyPM;
+    m_stav = Stav::Najeti;
     Ramec r = novyRamec(m_ramce, "fraPlMat", "cmdUPM", QStringLiteral("Uložení plošného materiálu"));
     auto* nazev = new QComboBox;
     nazev->setObjectName(QStringLiteral("txtPM"));
@@ -364,9 +369,8 @@ void FrmNovy::deska(const QString& tag, const QStringList& formaty, const QStrin
     vyplnit(d, texty);
     auto stav = [=, this] {
         const QString texty[4] = {h[0]->currentText(), h[1]->currentText(), h[2]->currentText(), h[3]->currentText()};
-        const Desky::Nahled n =
-            Desky::NahledDesky(x->text(), y->text(), pocet->text(), format->currentText(), texty, pasky);
-        r.ulozit->setEnabled(Tag != QLatin1String("Najeti") && n.ulozit);
+        const Desky::Nahled n = Desky::NahledDesky(x->text(), y->text(), pocet->text(), format->currentText(), texty, pasky);
+        r.ulozit->setEnabled(m_stav != Stav::Najeti && n.ulozit);
         nahled->x = n.vykreslit ? x->mm() : 0;
         nahled->y = n.vykreslit ? y->mm() : 0;
         nahled->vzor = ov->isChecked();
@@ -374,7 +378,7 @@ void FrmNovy::deska(const QString& tag, const QStringList& formaty, const QStrin
             nahled->hrany[i] = n.barvy[i] ? std::optional<QColor>(Barva::zVB(*n.barvy[i])) : std::nullopt;
         nahled->update();
     };
-    Tag = nova ? tag : QStringLiteral("UpraveniPM");
+    m_stav = stavRamce;
     for (QLineEdit* e : {static_cast<QLineEdit*>(x), static_cast<QLineEdit*>(y), static_cast<QLineEdit*>(pocet)})
         connect(e, &QLineEdit::textChanged, this, stav);
     for (QComboBox* c : {format, h[0], h[1], h[2], h[3]})
@@ -408,11 +412,12 @@ void FrmNovy::deska(const QString& tag, const QStringList& formaty, const QStrin
     r.w->deleteLater();
 }
 
-void FrmNovy::odrezek(const QString& tag, const Sklad::Odrezek& o, const std::function<PoUlozeni(const Sklad::Odrezek&)>& ulozit)
+void FrmNovy::odrezek(Stav stavRamce, const Sklad::Odrezek& o, const std::function<PoUlozeni(const Sklad::Odrezek&)>& ulozit)
 {
-    Tag = tag;
-    const bool novy = tag == QLatin1String("NovyOdrezek");
-    Ramec r = novyRamec(m_ramce, "fraNSklad", "cmdUSklad", novy ? QStringLiteral("Uložení odřezku") : QStringLiteral("Uložení úprav odřezku"));
+    m_stav = stavRamce;
+    const bool novy = stavRamce == Stav::NovyOdrezek;
+    Ramec r = novyRamec(m_ramce, "fraNSklad", "cmdUSklad",
+                        novy ? QStringLiteral("Uložení odřezku") : QStringLiteral("Uložení úprav odřezku"));
     auto* material = text("txtMaterialSklad", Sklad::MaxNazev + 1);
     material->setMinimumWidth(300);
     auto* x = pole("txtXSklad", CiselnePole::Druh::Delka);
@@ -439,7 +444,7 @@ void FrmNovy::odrezek(const QString& tag, const Sklad::Odrezek& o, const std::fu
         if (po == PoUlozeni::Zavrit)
             accept();
         else if (po == PoUlozeni::Dalsi) {
-            vyplnit({});  // empty for the next piece
+            vyplnit({}); // empty for the next piece
             material->setFocus();
         }
     });

@@ -73,10 +73,8 @@ TEST_F(RadkyZakazkyTest, OtazkyAOdmitnutiPredTransakci)
     ASSERT_FALSE(Desky::UlozitNovyPM(db(), p, zakazka, sestava, {QStringLiteral("bok"), 720, 560, 1, false, format}).isNull());
     // a refused board name, a refused accessory name, the twin question of a format
     EXPECT_TRUE(Desky::UlozitNovyPM(db(), p, zakazka, sestava, {QStringLiteral("bok"), 1, 1, 1, false, format}).isNull());
-    ASSERT_TRUE(
-        Prislusenstvi::UlozitPrislusenstvi(db(), p, QString(), zakazka, sestava, {QStringLiteral("pant"), "4", "ks", "25"}));
-    EXPECT_FALSE(
-        Prislusenstvi::UlozitPrislusenstvi(db(), p, QString(), zakazka, sestava, {QStringLiteral("pant"), "1", "ks", "1"}));
+    ASSERT_TRUE(Prislusenstvi::UlozitPrislusenstvi(db(), p, false, zakazka, sestava, {QStringLiteral("pant"), "4", "ks", "25"}));
+    EXPECT_FALSE(Prislusenstvi::UlozitPrislusenstvi(db(), p, false, zakazka, sestava, {QStringLiteral("pant"), "1", "ks", "1"}));
     Materialy::Material druhy = Materialy::formaty(db(), zakazka).at(1);
     druhy.nazev = QStringLiteral("DTD 'bílá'");
     p.odpovez(Prompt::Odpoved::Ne);
