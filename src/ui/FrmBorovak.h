@@ -7,6 +7,7 @@
 // writing them refreshes the page, exactly as the hidden text boxes of the old window did.
 #include "core/Jazyk.h"
 #include "orders/Materialy.h"
+#include "orders/Prislusenstvi.h"
 #include "orders/Vyber.h"
 #include "ui/OvladacDat.h"
 #include "ui/OvladacKatalogu.h"
@@ -100,6 +101,7 @@ private:
     void NovePrislusenstvi();
     void UpravitPrislusenstvi();
     void SmazatPrislusenstvi();
+    void otevriPrislusenstvi(bool uprava, const QStringList& jednotkyCeniku, const Prislusenstvi::Polozka& p);
     void NaplnitGridPR(const QString& akce);
     void NactiSchema();
     void vyberUzel(QString zakazka, QString sestava); // by value: callers pass the selection itself

@@ -56,34 +56,12 @@ void FrmBorovak::NaplnitGridPR(const QString& akce)
 
 void FrmBorovak::NovePrislusenstvi()
 {
-    const QString zakazka = m_vyber.txtzakazka(), sestava = m_vyber.txtSestava();
-    if (sestava.isEmpty())
+    if (m_vyber.txtSestava().isEmpty())
         return;
-    Database& cenik = m_uloziste.cenik();
     QStringList jednotkyCeniku;
-    for (const Cenik::Polozka& p : Cenik::NaplnCenik(cenik, QStringLiteral("VSE"), QStringLiteral("Jednotka")))
+    for (const Cenik::Polozka& p : Cenik::NaplnCenik(m_uloziste.cenik(), QStringLiteral("VSE"), QStringLiteral("Jednotka")))
         jednotkyCeniku << p.jednotka;
-    FrmNovy d(this, m_uloziste.cenik(), m_prompt);
-    auto zCeniku = [&cenik](const QString& nazev) -> std::optional<Prislusenstvi::Polozka> {
-        const auto p = Cenik::nacti(cenik, nazev);
-        if (!p)
-            return std::nullopt;
-        Prislusenstvi::Polozka v;
-        v.oznaceni = p->nazev;
-        v.jednotka = p->jednotka;
-        v.cena = p->cena;
-        return v;
-    };
-    d.prislusenstvi(
-        FrmNovy::Stav::NovePrislusenstvi, Cenik::NaplnitSeznamCeniku(cenik, Cenik::ulozenyVyber(), Cenik::ulozeneRazeni()),
-        Prislusenstvi::jednotky(jednotkyCeniku), {}, zCeniku, [&](const Prislusenstvi::Zadani& z) {
-            if (!Prislusenstvi::UlozitPrislusenstvi(m_uloziste.dataS(), m_prompt,
-                                                    d.stav() == FrmNovy::Stav::UpraveniPrislusenstvi, zakazka, sestava, z))
-                return FrmNovy::PoUlozeni::Odmitnuto;
-            NaplnitGridPR(QStringLiteral("Novy zaznam"));
-            obnovCeny();
-            return FrmNovy::PoUlozeni::Dalsi;
-        });
+    otevriPrislusenstvi(false, jednotkyCeniku, {});
 }
 
 void FrmBorovak::UpravitPrislusenstvi()
@@ -91,31 +69,33 @@ void FrmBorovak::UpravitPrislusenstvi()
     const int r = m_GPR->currentRow();
     if (r < 0 || !m_GPR->item(r, 0))
         return;
+    otevriPrislusenstvi(true, {},
+                        Prislusenstvi::UpravitPrislusenstvi(m_uloziste.dataS(), m_vyber.txtzakazka(), m_vyber.txtSestava(),
+                                                            m_GPR->item(r, 0)->text()));
+}
+
+void FrmBorovak::otevriPrislusenstvi(bool uprava, const QStringList& jednotkyCeniku, const Prislusenstvi::Polozka& p)
+{
     const QString zakazka = m_vyber.txtzakazka(), sestava = m_vyber.txtSestava();
     Database& cenik = m_uloziste.cenik();
-    const Prislusenstvi::Polozka p =
-        Prislusenstvi::UpravitPrislusenstvi(m_uloziste.dataS(), zakazka, sestava, m_GPR->item(r, 0)->text());
-    FrmNovy d(this, m_uloziste.cenik(), m_prompt);
-    d.prislusenstvi(
-        FrmNovy::Stav::UpraveniPrislusenstvi, Cenik::NaplnitSeznamCeniku(cenik, Cenik::ulozenyVyber(), Cenik::ulozeneRazeni()),
-        Prislusenstvi::jednotky({}), p,
-        [&cenik](const QString& nazev) -> std::optional<Prislusenstvi::Polozka> {
-            const auto c = Cenik::nacti(cenik, nazev);
-            if (!c)
-                return std::nullopt;
-            Prislusenstvi::Polozka v;
-            v.jednotka = c->jednotka;
-            v.cena = c->cena;
-            return v;
-        },
-        [&](const Prislusenstvi::Zadani& z) {
-            if (!Prislusenstvi::UlozitPrislusenstvi(m_uloziste.dataS(), m_prompt,
-                                                    d.stav() == FrmNovy::Stav::UpraveniPrislusenstvi, zakazka, sestava, z))
-                return FrmNovy::PoUlozeni::Odmitnuto;
-            NaplnitGridPR(QStringLiteral("Upravení záznamu"));
-            obnovCeny();
-            return FrmNovy::PoUlozeni::Zavrit;
-        });
+    // a name chosen from the price list brings its price and unit
+    auto zCeniku = [&cenik](const QString& nazev) -> std::optional<Prislusenstvi::Polozka> {
+        const auto c = Cenik::nacti(cenik, nazev);
+        if (!c)
+            return std::nullopt;
+        return Prislusenstvi::Polozka{c->nazev, 0, c->jednotka, c->cena};
+    };
+    FrmNovy d(this, cenik, m_prompt);
+    d.prislusenstvi(uprava ? FrmNovy::Stav::UpraveniPrislusenstvi : FrmNovy::Stav::NovePrislusenstvi,
+                    Cenik::NaplnitSeznamCeniku(cenik, Cenik::ulozenyVyber(), Cenik::ulozeneRazeni()),
+                    Prislusenstvi::jednotky(jednotkyCeniku), p, zCeniku, [&](const Prislusenstvi::Zadani& z) {
+                        if (!Prislusenstvi::UlozitPrislusenstvi(m_uloziste.dataS(), m_prompt, uprava, zakazka, sestava, z))
+                            return FrmNovy::PoUlozeni::Odmitnuto;
+                        NaplnitGridPR(uprava ? QStringLiteral("Upravení záznamu") : QStringLiteral("Novy zaznam"));
+                        obnovCeny();
+                        // a new item keeps the frame open for the next one
+                        return uprava ? FrmNovy::PoUlozeni::Zavrit : FrmNovy::PoUlozeni::Dalsi;
+                    });
 }
 
 void FrmBorovak::SmazatPrislusenstvi()
