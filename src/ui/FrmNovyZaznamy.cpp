@@ -20,6 +20,7 @@
 #include <QPushButton>
 #include <QSpinBox>
 #include <QStackedWidget>
+#include <memory>
 
 namespace {
 
@@ -208,6 +209,91 @@ void FrmNovy::sestava(Stav stavRamce, const Zakazky::Sestava& s, const std::func
     r.w->deleteLater();
 }
 
+namespace {
+
+// The fields of fraMaterial and fraHrana: filled from a record, read back into one.
+struct PoleMaterialu {
+    explicit PoleMaterialu(bool hrana)
+        : hrana(hrana), nazev(new QComboBox), fx(pole("txtFX", CiselnePole::Druh::Delka)),
+          fy(pole("txtFY", CiselnePole::Druh::Delka)), ov(new QCheckBox(QStringLiteral("Vzor ( neotáčet )"))),
+          cena(pole(hrana ? "txtCenaHrany" : "txtFCena", CiselnePole::Druh::Desetinne, 2)),
+          presah(pole("txtPresahHrany", CiselnePole::Druh::Delka)), barva(new QPushButton), nahled(new Nahled("pctDF"))
+    {
+        nazev->setObjectName(hrana ? QStringLiteral("cmbHrana") : QStringLiteral("txtFormat"));
+        nazev->setEditable(true);
+        nazev->setMinimumWidth(300);
+        ov->setObjectName(QStringLiteral("chOVFormat"));
+        barva->setObjectName(QStringLiteral("pctBarvaHrany"));
+        barva->setFixedSize(60, 22);
+    }
+    void vyplnit(const Materialy::Material& z)
+    {
+        nazev->setCurrentText(z.nazev);
+        fx->nastavMm(z.x);
+        fy->nastavMm(z.y);
+        ov->setChecked(z.ov);
+        cena->setText(z.cena ? Jednotky::cislo(z.cena) : QString());
+        presah->nastavMm(z.presah);
+    }
+    void ukazBarvu(const QColor& c) const
+    {
+        vybrana = c;
+        barva->setStyleSheet(QStringLiteral("background-color: %1").arg(c.name()));
+    }
+    Materialy::Material hodnota(Materialy::Material z) const
+    {
+        z.nazev = nazev->currentText().trimmed();
+        z.x = fx->mm();
+        z.y = fy->mm();
+        z.ov = ov->isChecked();
+        z.cena = cena->hodnota();
+        z.presah = presah->mm();
+        z.barva = Barva::doVB(vybrana);
+        return z;
+    }
+    bool lzeUlozit() const
+    {
+        const bool mameRozmery = hrana || (!fx->text().isEmpty() && !fy->text().isEmpty());
+        return !nazev->currentText().trimmed().isEmpty() && !cena->text().isEmpty() && cena->hodnota() != 0 && mameRozmery;
+    }
+    void obnovNahled() const
+    {
+        nahled->x = nazev->currentText().isEmpty() ? 0 : fx->mm();
+        nahled->y = fy->mm();
+        nahled->vzor = ov->isChecked();
+        nahled->update();
+    }
+    void rozloz(QFormLayout* formular, QLayout* radekNazvu) const
+    {
+        formular->addRow(hrana ? QStringLiteral("Název:") : QStringLiteral("Název materiálu:"), radekNazvu);
+        if (hrana) {
+            formular->addRow(QStringLiteral("Cena bez DPH:"), cena);
+            formular->addRow(QStringLiteral("Barva v NP:"), barva);
+            auto* skupina = new QGroupBox(QStringLiteral("Přesah hranovací pásky "));
+            auto* l = new QHBoxLayout(skupina);
+            l->addWidget(presah);
+            formular->addRow(skupina);
+        } else {
+            formular->addRow(QStringLiteral("Délka"), fx);
+            formular->addRow(QStringLiteral("Šířka"), fy);
+            formular->addRow(QString(), ov);
+            formular->addRow(QStringLiteral("Cena bez DPH:"), cena);
+            formular->addRow(nahled);
+        }
+    }
+
+    bool hrana;
+    QComboBox* nazev;
+    CiselnePole *fx, *fy;
+    QCheckBox* ov;
+    CiselnePole *cena, *presah;
+    QPushButton* barva;
+    Nahled* nahled;
+    mutable QColor vybrana;
+};
+
+} // namespace
+
 void FrmNovy::material(Stav stavRamce, const Materialy::Material& m,
                        const std::function<PoUlozeni(const Materialy::Material&)>& ulozit)
 {
@@ -216,97 +302,45 @@ void FrmNovy::material(Stav stavRamce, const Materialy::Material& m,
     m_stav = Stav::Najeti;
     Ramec r = hrana ? novyRamec(m_ramce, "fraHrana", "cmdUlozeniHrany", QStringLiteral("Uložení hrany"))
                     : novyRamec(m_ramce, "fraMaterial", "cmdFormatUlozit", QStringLiteral("Uložení formátu"));
-    auto* nazev = new QComboBox;
-    nazev->setObjectName(hrana ? QStringLiteral("cmbHrana") : QStringLiteral("txtFormat"));
-    nazev->setEditable(true);
-    nazev->setMinimumWidth(300);
-    nazev->addItems(nazvyCeniku(hrana ? QStringLiteral("H") : QStringLiteral("PM")));
-    auto* fx = pole("txtFX", CiselnePole::Druh::Delka);
-    auto* fy = pole("txtFY", CiselnePole::Druh::Delka);
-    auto* ov = new QCheckBox(QStringLiteral("Vzor ( neotáčet )"));
-    ov->setObjectName(QStringLiteral("chOVFormat"));
-    auto* cena = pole(hrana ? "txtCenaHrany" : "txtFCena", CiselnePole::Druh::Desetinne, 2);
-    auto* presah = pole("txtPresahHrany", CiselnePole::Druh::Delka);
-    auto* barva = new QPushButton;
-    barva->setObjectName(QStringLiteral("pctBarvaHrany"));
-    barva->setFixedSize(60, 22);
-    auto* nahled = new Nahled("pctDF");
-    QColor vybrana = Barva::zVB(m.barva);
-    auto ukazBarvu = [=, this, &vybrana] { barva->setStyleSheet(QStringLiteral("background-color: %1").arg(vybrana.name())); };
-    auto vyplnit = [=](const Materialy::Material& z) {
-        nazev->setCurrentText(z.nazev);
-        fx->nastavMm(z.x);
-        fy->nastavMm(z.y);
-        ov->setChecked(z.ov);
-        cena->setText(z.cena ? Jednotky::cislo(z.cena) : QString());
-        presah->nastavMm(z.presah);
-    };
-    vyplnit(m);
-    ukazBarvu();
+    auto p = std::make_shared<PoleMaterialu>(hrana);
+    p->nazev->addItems(nazvyCeniku(hrana ? QStringLiteral("H") : QStringLiteral("PM")));
+    p->vyplnit(m);
+    p->ukazBarvu(Barva::zVB(m.barva));
     auto* radekNazvu = new QHBoxLayout;
-    radekNazvu->addWidget(nazev, 1);
+    radekNazvu->addWidget(p->nazev, 1);
     radekNazvu->addWidget(
-        tlacitkoCeniku(hrana ? QStringLiteral("VH") : QStringLiteral("VF"), [=](const QString& n, double c, const QString&) {
-            nazev->setCurrentText(n);
-            cena->setText(Jednotky::cislo(c));
+        tlacitkoCeniku(hrana ? QStringLiteral("VH") : QStringLiteral("VF"), [p](const QString& n, double c, const QString&) {
+            p->nazev->setCurrentText(n);
+            p->cena->setText(Jednotky::cislo(c));
         }));
-    r.formular->addRow(hrana ? QStringLiteral("Název:") : QStringLiteral("Název materiálu:"), radekNazvu);
-    if (hrana) {
-        r.formular->addRow(QStringLiteral("Cena bez DPH:"), cena);
-        r.formular->addRow(QStringLiteral("Barva v NP:"), barva);
-        auto* skupina = new QGroupBox(QStringLiteral("Přesah hranovací pásky "));
-        auto* l = new QHBoxLayout(skupina);
-        l->addWidget(presah);
-        r.formular->addRow(skupina);
-    } else {
-        r.formular->addRow(QStringLiteral("Délka"), fx);
-        r.formular->addRow(QStringLiteral("Šířka"), fy);
-        r.formular->addRow(QString(), ov);
-        r.formular->addRow(QStringLiteral("Cena bez DPH:"), cena);
-        r.formular->addRow(nahled);
-    }
-    connect(barva, &QPushButton::clicked, this, [=, this, &vybrana] {
+    p->rozloz(r.formular, radekNazvu);
+    connect(p->barva, &QPushButton::clicked, this, [p, this] {
         if (!m_prompt)
             return;
         try {
-            vybrana = Barva::zVB(m_prompt->barva(quint32(Barva::doVB(vybrana)), QStringLiteral("Barva hrany v NP")));
-            ukazBarvu();
+            p->ukazBarvu(Barva::zVB(m_prompt->barva(quint32(Barva::doVB(p->vybrana)), QStringLiteral("Barva hrany v NP"))));
         } catch (const Error&) {
             // a cancelled chooser keeps the colour
         }
     });
-    auto stav = [=, this] {
-        const bool mameRozmery = hrana || (!fx->text().isEmpty() && !fy->text().isEmpty());
-        r.ulozit->setEnabled(m_stav != Stav::Najeti && !nazev->currentText().trimmed().isEmpty() && !cena->text().isEmpty() &&
-                             cena->hodnota() != 0 && mameRozmery);
-        nahled->x = nazev->currentText().isEmpty() ? 0 : fx->mm();
-        nahled->y = fy->mm();
-        nahled->vzor = ov->isChecked();
-        nahled->update();
+    auto stav = [p, r, this] {
+        r.ulozit->setEnabled(m_stav != Stav::Najeti && p->lzeUlozit());
+        p->obnovNahled();
     };
     m_stav = stavRamce;
-    for (QLineEdit* e : {static_cast<QLineEdit*>(fx), static_cast<QLineEdit*>(fy), static_cast<QLineEdit*>(cena),
-                         static_cast<QLineEdit*>(presah)})
+    for (CiselnePole* e : {p->fx, p->fy, p->cena, p->presah})
         connect(e, &QLineEdit::textChanged, this, stav);
-    connect(nazev, &QComboBox::currentTextChanged, this, stav);
-    connect(ov, &QCheckBox::toggled, this, stav);
+    connect(p->nazev, &QComboBox::currentTextChanged, this, stav);
+    connect(p->ov, &QCheckBox::toggled, this, stav);
     stav();
-    connect(r.ulozit, &QPushButton::clicked, this, [=, this, &vybrana] {
-        Materialy::Material z = m;
-        z.nazev = nazev->currentText().trimmed();
-        z.x = fx->mm();
-        z.y = fy->mm();
-        z.ov = ov->isChecked();
-        z.cena = cena->hodnota();
-        z.presah = presah->mm();
-        z.barva = Barva::doVB(vybrana);
-        const PoUlozeni po = ulozit(z);
+    connect(r.ulozit, &QPushButton::clicked, this, [=, this] {
+        const PoUlozeni po = ulozit(p->hodnota(m));
         if (po == PoUlozeni::Zavrit)
             accept();
         else if (po == PoUlozeni::Dalsi) {
-            vyplnit({});
+            p->vyplnit({});
             r.ulozit->setEnabled(false);
-            (hrana ? static_cast<QWidget*>(nazev) : fx)->setFocus();
+            (hrana ? static_cast<QWidget*>(p->nazev) : p->fx)->setFocus();
         }
     });
     ukaz(r.w,
