@@ -13,6 +13,29 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
+namespace {
+
+// The frame's form over its two keys, Uložit and Zavřít (which leaves the dialog); returns Uložit.
+QPushButton* sTlacitky(QWidget* w, QFormLayout* formular, QDialog* dialog)
+{
+    auto* uloz = new QPushButton(QStringLiteral("Uložit"));
+    uloz->setObjectName(QStringLiteral("cmdUlozitPrislusenstvi"));
+    uloz->setDefault(true);
+    auto* zavrit = new QPushButton(QStringLiteral("Zavřít"));
+    zavrit->setObjectName(QStringLiteral("cmdZavrit"));
+    QObject::connect(zavrit, &QPushButton::clicked, dialog, &QDialog::reject);
+    auto* tlacitka = new QHBoxLayout;
+    tlacitka->addStretch();
+    tlacitka->addWidget(uloz);
+    tlacitka->addWidget(zavrit);
+    auto* l = new QVBoxLayout(w);
+    l->addLayout(formular);
+    l->addLayout(tlacitka);
+    return uloz;
+}
+
+} // namespace
+
 void FrmNovy::prislusenstvi(Stav stavRamce, const QStringList& nazvy, const QStringList& jednotky,
                             const Prislusenstvi::Polozka& p,
                             const std::function<std::optional<Prislusenstvi::Polozka>(const QString&)>& zCeniku,
@@ -53,18 +76,7 @@ void FrmNovy::prislusenstvi(Stav stavRamce, const QStringList& nazvy, const QStr
     formular->addRow(QStringLiteral("Množství:"), pocet);
     formular->addRow(QStringLiteral("Jednotka:"), jednotka);
     formular->addRow(QStringLiteral("Cena bez DPH:"), radekCeny);
-    auto* uloz = new QPushButton(QStringLiteral("Uložit"));
-    uloz->setObjectName(QStringLiteral("cmdUlozitPrislusenstvi"));
-    uloz->setDefault(true);
-    auto* zavrit = new QPushButton(QStringLiteral("Zavřít"));
-    zavrit->setObjectName(QStringLiteral("cmdZavrit"));
-    auto* tlacitka = new QHBoxLayout;
-    tlacitka->addStretch();
-    tlacitka->addWidget(uloz);
-    tlacitka->addWidget(zavrit);
-    auto* l = new QVBoxLayout(w);
-    l->addLayout(formular);
-    l->addLayout(tlacitka);
+    auto* uloz = sTlacitky(w, formular, this);
     m_ramce->addWidget(w);
 
     auto vypln = [=](const Prislusenstvi::Polozka& z) {
@@ -91,7 +103,6 @@ void FrmNovy::prislusenstvi(Stav stavRamce, const QStringList& nazvy, const QStr
     connect(pocet, &QLineEdit::textChanged, this, stav);
     connect(cena, &QLineEdit::textChanged, this, stav);
     connect(jednotka, &QComboBox::currentTextChanged, this, stav);
-    connect(zavrit, &QPushButton::clicked, this, &QDialog::reject);
     connect(uloz, &QPushButton::clicked, this, [=, this] {
         const PoUlozeni po = ulozit({nazev->currentText().trimmed(), pocet->text(), jednotka->currentText(), cena->text()});
         if (po == PoUlozeni::Zavrit)

@@ -8,6 +8,7 @@
 #include "core/Error.h"
 #include "core/Jednotky.h"
 #include "ui/CiselnePole.h"
+#include "ui/RamecNovy.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -24,58 +25,9 @@
 
 namespace {
 
-// A frame shown alone in the dialog, deleted when the dialog is done with it.
-struct Ramec {
-    QWidget* w;
-    QFormLayout* formular;
-    QPushButton* ulozit;
-};
-
-Ramec novyRamec(QStackedWidget* ramce, const char* nazev, const char* tlacitko, const QString& tip)
-{
-    auto* w = new QWidget;
-    w->setObjectName(QString::fromUtf8(nazev));
-    auto* formular = new QFormLayout;
-    auto* ulozit = new QPushButton(QStringLiteral("Uložit"), w);
-    ulozit->setObjectName(QLatin1String(tlacitko));
-    ulozit->setToolTip(tip);
-    ulozit->setDefault(true);
-    ulozit->setEnabled(false);
-    auto* zavrit = new QPushButton(QStringLiteral("Zavřít"), w);
-    zavrit->setObjectName(QStringLiteral("cmdZavrit"));
-    auto* tlacitka = new QHBoxLayout;
-    tlacitka->addStretch();
-    tlacitka->addWidget(ulozit);
-    tlacitka->addWidget(zavrit);
-    auto* l = new QVBoxLayout(w);
-    l->addLayout(formular);
-    l->addLayout(tlacitka);
-    QObject::connect(zavrit, &QPushButton::clicked, w->window(), [w] { w->window()->close(); });
-    ramce->addWidget(w);
-    ramce->setCurrentWidget(w);
-    return {w, formular, ulozit};
-}
-
-QLineEdit* text(const char* nazev, int max = 0)
-{
-    auto* e = new QLineEdit;
-    e->setObjectName(QLatin1String(nazev));
-    if (max > 0) // cut while typing, the caret at the end
-        QObject::connect(e, &QLineEdit::textEdited, e, [e, max](const QString& t) {
-            if (t.size() > max) {
-                e->setText(t.left(max));
-                e->setCursorPosition(max);
-            }
-        });
-    return e;
-}
-
-CiselnePole* pole(const char* nazev, CiselnePole::Druh druh, int mist = 2)
-{
-    auto* p = new CiselnePole(druh, mist);
-    p->setObjectName(QLatin1String(nazev));
-    return p;
-}
+using RamecNovy::pole;
+using RamecNovy::Ramec;
+using RamecNovy::text;
 
 // The proportional picture of a board or format, with the banded sides in their colours.
 class Nahled : public QWidget {
@@ -127,8 +79,8 @@ void FrmNovy::zakazka(Stav stavRamce, const QString& nazev, const QString& pozna
 {
     m_stav = stavRamce;
     const bool nova = stavRamce == Stav::NovaZakazka;
-    Ramec r = novyRamec(m_ramce, "fraZakázka", "cmdZakazkaPouzit",
-                        nova ? QStringLiteral("Uložení nové zakázky") : QStringLiteral("Uložení úprav v zakázce"));
+    Ramec r = RamecNovy::novy(m_ramce, "fraZakázka", "cmdZakazkaPouzit",
+                              nova ? QStringLiteral("Uložení nové zakázky") : QStringLiteral("Uložení úprav v zakázce"));
     // a copy may carry a longer name than can be typed: editing its note must not cut it
     auto* jmeno = text("txtzakazka", qMax(Zakazky::MaxNazevZakazky, int(nazev.size())));
     auto* pozn = text("txtPoznamka");
@@ -159,8 +111,8 @@ void FrmNovy::sestava(Stav stavRamce, const Zakazky::Sestava& s, const std::func
 {
     m_stav = Stav::Najeti;
     const bool nova = stavRamce == Stav::NovaSestava;
-    Ramec r = novyRamec(m_ramce, "fraTyp", "cmdUlozitP",
-                        nova ? QStringLiteral("Uložení nové sestavy") : QStringLiteral("Uložení úprav sestavy"));
+    Ramec r = RamecNovy::novy(m_ramce, "fraTyp", "cmdUlozitP",
+                              nova ? QStringLiteral("Uložení nové sestavy") : QStringLiteral("Uložení úprav sestavy"));
     auto* nazev = text("txtNT", Zakazky::MaxNazevSestavy);
     auto* popis = text("txtP");
     auto* pocet = new QSpinBox;
@@ -300,8 +252,8 @@ void FrmNovy::material(Stav stavRamce, const Materialy::Material& m,
     const bool novy = stavRamce == Stav::NovyFormat || stavRamce == Stav::NovaHrana;
     const bool hrana = stavRamce == Stav::NovaHrana || stavRamce == Stav::UpraveniHrany;
     m_stav = Stav::Najeti;
-    Ramec r = hrana ? novyRamec(m_ramce, "fraHrana", "cmdUlozeniHrany", QStringLiteral("Uložení hrany"))
-                    : novyRamec(m_ramce, "fraMaterial", "cmdFormatUlozit", QStringLiteral("Uložení formátu"));
+    Ramec r = hrana ? RamecNovy::novy(m_ramce, "fraHrana", "cmdUlozeniHrany", QStringLiteral("Uložení hrany"))
+                    : RamecNovy::novy(m_ramce, "fraMaterial", "cmdFormatUlozit", QStringLiteral("Uložení formátu"));
     auto p = std::make_shared<PoleMaterialu>(hrana);
     p->nazev->addItems(nazvyCeniku(hrana ? QStringLiteral("H") : QStringLiteral("PM")));
     p->vyplnit(m);
@@ -351,45 +303,70 @@ void FrmNovy::material(Stav stavRamce, const Materialy::Material& m,
     r.w->deleteLater();
 }
 
+namespace {
+
+// The fields of fraPlMat, laid out in its form.
+struct PoleDesky {
+    PoleDesky(QFormLayout* formular, const QStringList& formaty, const QStringList& hrany)
+    {
+        nazev = new QComboBox;
+        nazev->setObjectName(QStringLiteral("txtPM"));
+        nazev->setEditable(true);
+        for (const char* n : Desky::NazvyDesek)
+            nazev->addItem(QString::fromUtf8(n));
+        x = pole("txtX", CiselnePole::Druh::Delka);
+        y = pole("txtY", CiselnePole::Druh::Delka);
+        pocet = pole("txtPocetMaterial", CiselnePole::Druh::Cele, 5);
+        format = new QComboBox;
+        format->setObjectName(QStringLiteral("cmbMaterial"));
+        format->addItem(QString());
+        format->addItems(formaty);
+        format->setMinimumWidth(300);
+        ov = new QCheckBox(QStringLiteral("Vzor ( neotáčet )"));
+        ov->setObjectName(QStringLiteral("chOV"));
+        static const char* const popisky[] = {"Hrana X - horní:", "Hrana X - spodní:", "Hrana Y - vlevo:", "Hrana Y - vpravo:"};
+        nahled = new Nahled("pctZB");
+        formular->addRow(QStringLiteral("Název:"), nazev);
+        formular->addRow(QStringLiteral("Délka"), x);
+        formular->addRow(QStringLiteral("Šířka"), y);
+        formular->addRow(QStringLiteral("Počet"), pocet);
+        formular->addRow(QStringLiteral("Formát:"), format);
+        formular->addRow(QString(), ov);
+        for (int i = 0; i < 4; ++i) {
+            h[i] = new QComboBox;
+            h[i]->setObjectName(QStringLiteral("cmbH(%1)").arg(i));
+            h[i]->addItem(QString());
+            h[i]->addItems(hrany);
+            formular->addRow(QString::fromUtf8(popisky[i]), h[i]);
+        }
+        formular->addRow(nahled);
+    }
+    QComboBox* nazev;
+    CiselnePole *x, *y, *pocet;
+    QComboBox* format;
+    QCheckBox* ov;
+    QComboBox* h[4];
+    Nahled* nahled;
+};
+
+} // namespace
+
 void FrmNovy::deska(Stav stavRamce, const QStringList& formaty, const QStringList& hrany,
                     const std::vector<Materialy::Material>& pasky, const Desky::Deska& d, const TextyDesky& texty,
                     const std::function<PoUlozeni(const Desky::Deska&, const TextyDesky&)>& ulozit)
 {
     const bool nova = stavRamce == Stav::NovyPM;
     m_stav = Stav::Najeti;
-    Ramec r = novyRamec(m_ramce, "fraPlMat", "cmdUPM", QStringLiteral("Uložení plošného materiálu"));
-    auto* nazev = new QComboBox;
-    nazev->setObjectName(QStringLiteral("txtPM"));
-    nazev->setEditable(true);
-    for (const char* n : Desky::NazvyDesek)
-        nazev->addItem(QString::fromUtf8(n));
-    auto* x = pole("txtX", CiselnePole::Druh::Delka);
-    auto* y = pole("txtY", CiselnePole::Druh::Delka);
-    auto* pocet = pole("txtPocetMaterial", CiselnePole::Druh::Cele, 5);
-    auto* format = new QComboBox;
-    format->setObjectName(QStringLiteral("cmbMaterial"));
-    format->addItem(QString());
-    format->addItems(formaty);
-    format->setMinimumWidth(300);
-    auto* ov = new QCheckBox(QStringLiteral("Vzor ( neotáčet )"));
-    ov->setObjectName(QStringLiteral("chOV"));
-    static const char* const popisky[] = {"Hrana X - horní:", "Hrana X - spodní:", "Hrana Y - vlevo:", "Hrana Y - vpravo:"};
-    QComboBox* h[4];
-    auto* nahled = new Nahled("pctZB");
-    r.formular->addRow(QStringLiteral("Název:"), nazev);
-    r.formular->addRow(QStringLiteral("Délka"), x);
-    r.formular->addRow(QStringLiteral("Šířka"), y);
-    r.formular->addRow(QStringLiteral("Počet"), pocet);
-    r.formular->addRow(QStringLiteral("Formát:"), format);
-    r.formular->addRow(QString(), ov);
-    for (int i = 0; i < 4; ++i) {
-        h[i] = new QComboBox;
-        h[i]->setObjectName(QStringLiteral("cmbH(%1)").arg(i));
-        h[i]->addItem(QString());
-        h[i]->addItems(hrany);
-        r.formular->addRow(QString::fromUtf8(popisky[i]), h[i]);
-    }
-    r.formular->addRow(nahled);
+    Ramec r = RamecNovy::novy(m_ramce, "fraPlMat", "cmdUPM", QStringLiteral("Uložení plošného materiálu"));
+    const PoleDesky p(r.formular, formaty, hrany);
+    auto* const nazev = p.nazev;
+    auto* const x = p.x;
+    auto* const y = p.y;
+    auto* const pocet = p.pocet;
+    auto* const format = p.format;
+    auto* const ov = p.ov;
+    auto* const nahled = p.nahled;
+    QComboBox* const h[4] = {p.h[0], p.h[1], p.h[2], p.h[3]};
     auto vyplnit = [=](const Desky::Deska& z, const TextyDesky& t) {
         nazev->setCurrentText(z.oznaceni);
         x->nastavMm(z.x);
@@ -442,47 +419,6 @@ void FrmNovy::deska(Stav stavRamce, const QStringList& formaty, const QStringLis
         }
     });
     ukaz(r.w, nova ? QStringLiteral(" Přidání nového plošného materiálu") : QStringLiteral(" Upravení plošného materiálu"), 20);
-    exec();
-    r.w->deleteLater();
-}
-
-void FrmNovy::odrezek(Stav stavRamce, const Sklad::Odrezek& o, const std::function<PoUlozeni(const Sklad::Odrezek&)>& ulozit)
-{
-    m_stav = stavRamce;
-    const bool novy = stavRamce == Stav::NovyOdrezek;
-    Ramec r = novyRamec(m_ramce, "fraNSklad", "cmdUSklad",
-                        novy ? QStringLiteral("Uložení odřezku") : QStringLiteral("Uložení úprav odřezku"));
-    auto* material = text("txtMaterialSklad", Sklad::MaxNazev + 1);
-    material->setMinimumWidth(300);
-    auto* x = pole("txtXSklad", CiselnePole::Druh::Delka);
-    auto* y = pole("txtYSklad", CiselnePole::Druh::Delka);
-    auto* pocet = pole("txtPocetSklad", CiselnePole::Druh::Cele, 6);
-    auto vyplnit = [=](const Sklad::Odrezek& z) {
-        material->setText(z.material);
-        x->nastavMm(z.x);
-        y->nastavMm(z.y);
-        pocet->setText(z.pocet > 0 ? QString::number(z.pocet) : QString());
-    };
-    vyplnit(o);
-    r.formular->addRow(QStringLiteral("Materiál:"), material);
-    r.formular->addRow(QStringLiteral("Délka:"), x);
-    r.formular->addRow(QStringLiteral("Šířka:"), y);
-    r.formular->addRow(QStringLiteral("Počet kusů:"), pocet);
-    auto stav = [=] { r.ulozit->setEnabled(!material->text().trimmed().isEmpty()); };
-    for (QLineEdit* e : {static_cast<QLineEdit*>(material), static_cast<QLineEdit*>(x), static_cast<QLineEdit*>(y),
-                         static_cast<QLineEdit*>(pocet)})
-        connect(e, &QLineEdit::textChanged, this, stav);
-    stav();
-    connect(r.ulozit, &QPushButton::clicked, this, [=, this] {
-        const PoUlozeni po = ulozit({material->text().trimmed(), x->mm(), y->mm(), int(pocet->hodnota())});
-        if (po == PoUlozeni::Zavrit)
-            accept();
-        else if (po == PoUlozeni::Dalsi) {
-            vyplnit({}); // empty for the next piece
-            material->setFocus();
-        }
-    });
-    ukaz(r.w, novy ? QStringLiteral("Přidání nového odřezku do skladu...") : QStringLiteral("Upravení parametrů odřezku..."), 20);
     exec();
     r.w->deleteLater();
 }
