@@ -197,7 +197,7 @@ int prikazAccessoryAdd(const QStringList& argumenty)
         if (cena.isNull())
             cena = QString::number(p->cena, 'g', 15);
     }
-    if (!Prislusenstvi::UlozitPrislusenstvi(Cli::uloziste().dataS(), Cli::prompt(), QString(), a[0], a[1],
+    if (!Prislusenstvi::UlozitPrislusenstvi(Cli::uloziste().dataS(), Cli::prompt(), false, a[0], a[1],
                                             {a[2], a[3], jednotka, cena}))
         return Cli::Odmitnuto;
     return Cli::Hotovo;

@@ -7,6 +7,7 @@
 #include "core/Razitko.h"
 #include "core/Recordset.h"
 #include "core/Soubory.h"
+#include "orders/RadkyZakazky.h"
 
 #include <QLocale>
 #include <QStringEncoder>
@@ -85,10 +86,7 @@ QString text(Database& dataS, Database& k, const PlanNaStrankach& plan)
     Recordset desky(k, QStringLiteral("SELECT * FROM SoupisDesek ORDER BY Tabule "));
     desky.moveLast();
     const int tabuli = int(desky.cislo(QStringLiteral("Tabule")));
-    const Recordset format(dataS,
-                           QStringLiteral("SELECT * FROM ZakazkyMaterialy WHERE Zakazka = '") + Dotaz::text(plan.zakazka) +
-                               QStringLiteral("'and ID = ") + Dotaz::cislo(plan.idFormatu),
-                           Recordset::Rozsah::Prvni);
+    const auto format = RadkyZakazky::material(dataS, plan.zakazka, plan.idFormatu);
     r << QStringLiteral("[COMMON]") << QStringLiteral("OrderNote=") + datum + QLatin1Char(' ') + cas
       << QStringLiteral("OrderName=") + datum + QLatin1Char(' ') + cas << QStringLiteral("OrderNumber=") + plan.zakazka
       << QStringLiteral("TimeOfExport=") + cas << QStringLiteral("DateOfExport=") + datum
@@ -96,7 +94,7 @@ QString text(Database& dataS, Database& k, const PlanNaStrankach& plan)
       << QStringLiteral("OptiProgram=") + program << QStringLiteral("ExportProgram=") + program
       << QStringLiteral("ImportFormatVersion=") << QString();
     r << QStringLiteral("[MATERIAL]") << QStringLiteral("SheetCount=") + QString::number(tabuli) << konstantyMaterialu()
-      << QStringLiteral("Name=") + (format.eof() ? QString() : format.text(QStringLiteral("Material"))) << QString();
+      << QStringLiteral("Name=") + (format ? format->text(QStringLiteral("Material")) : QString()) << QString();
     r << QStringLiteral("[PARTS]") << QStringLiteral("PrintMode=0")
       << QStringLiteral("Count=") +
              n(Recordset(k, QStringLiteral("SELECT * FROM SoupisDesek WHERE ID = True  ORDER BY Part Desc "),
