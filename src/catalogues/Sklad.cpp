@@ -5,6 +5,7 @@
 #include "core/Jednotky.h"
 #include "core/Prompt.h"
 #include "core/Recordset.h"
+#include "core/Transakce.h"
 #include "printing/Dokument.h"
 
 namespace Sklad {
@@ -14,8 +15,9 @@ QString c(double v) { return Dotaz::cislo(v); }
 
 Recordset stejny(Database& db, const Odrezek& o)
 {
-    return Recordset(db, QStringLiteral("SELECT * FROM SkladOdrezku  WHERE Material = '") + Dotaz::text(o.material) +
-                             QStringLiteral("' and x *10= ") + c(o.x * 10) + QStringLiteral(" and y *10= ") + c(o.y * 10),
+    return Recordset(db,
+                     QStringLiteral("SELECT * FROM SkladOdrezku  WHERE Material = '") + Dotaz::text(o.material) +
+                         QStringLiteral("' and x *10= ") + c(o.x * 10) + QStringLiteral(" and y *10= ") + c(o.y * 10),
                      Recordset::Rozsah::Prvni);
 }
 
@@ -40,7 +42,8 @@ bool pripocti(Prompt& prompt, Recordset& r, int pocet)
     const int stary = int(r.cislo(QStringLiteral("Pocet")));
     if (prompt.zprava(QStringLiteral("Ve skladu již tato deska existuje a to v počtu:  ") + QString::number(stary) +
                           QStringLiteral(" ks\nChcete počet nových připočíst ke starým  ???"),
-                      QStringLiteral("Existence odřezku"), Prompt::Ikona::Otaznik, Prompt::Tlacitka::AnoNe) != Prompt::Odpoved::Ano)
+                      QStringLiteral("Existence odřezku"), Prompt::Ikona::Otaznik,
+                      Prompt::Tlacitka::AnoNe) != Prompt::Odpoved::Ano)
         return false;
     r.edit();
     r.set(QStringLiteral("Pocet"), stary + pocet);
@@ -61,10 +64,9 @@ void zapis(Recordset& r, const Odrezek& o)
 
 std::vector<Odrezek> nacti(Database& db, const QString& material, const QString& razeni)
 {
-    const QString sql = material.isEmpty()
-                            ? QStringLiteral("SELECT * FROM SkladOdrezku  ORDER BY ") + razeni
-                            : QStringLiteral("SELECT * FROM SkladOdrezku WHERE Material = '") + Dotaz::text(material) +
-                                  QStringLiteral("' order by ") + razeni;
+    const QString sql = material.isEmpty() ? QStringLiteral("SELECT * FROM SkladOdrezku  ORDER BY ") + razeni
+                                           : QStringLiteral("SELECT * FROM SkladOdrezku WHERE Material = '") +
+                                                 Dotaz::text(material) + QStringLiteral("' order by ") + razeni;
     std::vector<Odrezek> v;
     for (Recordset r(db, sql); !r.eof(); r.moveNext())
         v.push_back({r.text(QStringLiteral("Material")), r.cislo(QStringLiteral("x")), r.cislo(QStringLiteral("y")),
@@ -82,6 +84,17 @@ bool UlozitNovyOdrezek(Database& db, Prompt& prompt, const Odrezek& o)
     r.addNew();
     zapis(r, o);
     return true;
+}
+
+void pridej(Database& db, const std::vector<Odrezek>& odrezky)
+{
+    Transakce t(db);
+    Recordset r(db, QStringLiteral("SkladOdrezku"), Recordset::Rozsah::Prvni);
+    for (const Odrezek& o : odrezky) {
+        r.addNew();
+        zapis(r, o);
+    }
+    t.commit();
 }
 
 bool UlozitUpravuOdrezku(Database& db, Prompt& prompt, const Odrezek& stary, const Odrezek& novy)
@@ -162,9 +175,10 @@ void VypisSkladu(Dokument& d, Database& db, const QString& material)
         d.pismo.velikost = 8;
         d.pismo.kurziva = true;
         const QString strana = QStringLiteral("Strana  %1 / %2").arg(p).arg(d.PageCount());
-        d.TextBox(strana, QRectF(0, d.PageHeight() - d.MarginBottom + 200, d.PageWidth(), d.TextHeight(strana) + 20), Qt::AlignHCenter);
+        d.TextBox(strana, QRectF(0, d.PageHeight() - d.MarginBottom + 200, d.PageWidth(), d.TextHeight(strana) + 20),
+                  Qt::AlignHCenter);
         d.EndOverlay();
     }
 }
 
-}
+} // namespace Sklad
