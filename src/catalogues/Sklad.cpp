@@ -1,7 +1,6 @@
 #include "catalogues/Sklad.h"
 
 #include "core/Database.h"
-#include "core/Dotaz.h"
 #include "core/Jednotky.h"
 #include "core/Prompt.h"
 #include "core/Recordset.h"
@@ -11,14 +10,10 @@
 namespace Sklad {
 namespace {
 
-QString c(double v) { return Dotaz::cislo(v); }
-
 Recordset stejny(Database& db, const Odrezek& o)
 {
-    return Recordset(db,
-                     QStringLiteral("SELECT * FROM SkladOdrezku  WHERE Material = '") + Dotaz::text(o.material) +
-                         QStringLiteral("' and x *10= ") + c(o.x * 10) + QStringLiteral(" and y *10= ") + c(o.y * 10),
-                     Recordset::Rozsah::Prvni);
+    return Recordset(db, QStringLiteral("SELECT * FROM SkladOdrezku WHERE Material = ? and x*10 = ? and y*10 = ?"),
+                     {o.material, o.x * 10, o.y * 10}, Recordset::Rozsah::Prvni);
 }
 
 bool platny(Prompt& prompt, const Odrezek& o)
@@ -64,11 +59,11 @@ void zapis(Recordset& r, const Odrezek& o)
 
 std::vector<Odrezek> nacti(Database& db, const QString& material, const QString& razeni)
 {
-    const QString sql = material.isEmpty() ? QStringLiteral("SELECT * FROM SkladOdrezku  ORDER BY ") + razeni
-                                           : QStringLiteral("SELECT * FROM SkladOdrezku WHERE Material = '") +
-                                                 Dotaz::text(material) + QStringLiteral("' order by ") + razeni;
+    const QString kde = material.isEmpty() ? QString() : QStringLiteral(" WHERE Material = ?");
+    const QVariantList hodnoty = material.isEmpty() ? QVariantList() : QVariantList{material};
     std::vector<Odrezek> v;
-    for (Recordset r(db, sql); !r.eof(); r.moveNext())
+    for (Recordset r(db, QStringLiteral("SELECT * FROM SkladOdrezku") + kde + QStringLiteral(" ORDER BY ") + razeni, hodnoty);
+         !r.eof(); r.moveNext())
         v.push_back({r.text(QStringLiteral("Material")), r.cislo(QStringLiteral("x")), r.cislo(QStringLiteral("y")),
                      int(r.cislo(QStringLiteral("Pocet")))});
     return v;
@@ -123,9 +118,8 @@ bool UlozitUpravuOdrezku(Database& db, Prompt& prompt, const Odrezek& stary, con
 
 void SmazatOdrezek(Database& db, const Odrezek& o)
 {
-    Recordset r(db, QStringLiteral("SELECT * FROM SkladOdrezku  WHERE Material = '") + Dotaz::text(o.material) +
-                        QStringLiteral("' and X*10 = ") + c(o.x * 10) + QStringLiteral(" and Y*10 = ") + c(o.y * 10) +
-                        QStringLiteral(" and Pocet = ") + QString::number(o.pocet));
+    Recordset r(db, QStringLiteral("SELECT * FROM SkladOdrezku WHERE Material = ? and X*10 = ? and Y*10 = ? and Pocet = ?"),
+                {o.material, o.x * 10, o.y * 10, o.pocet});
     for (; !r.eof(); r.moveNext())
         r.remove();
 }
@@ -150,10 +144,9 @@ void VypisSkladu(Dokument& d, Database& db, const QString& material)
     d.pismo.velikost = 10;
     d.AddRow(t, hlava);
     d.pismo.tucne = false;
-    const QString sql = material.isEmpty() ? QStringLiteral("SELECT * FROM SkladOdrezku  ORDER BY Material")
-                                           : QStringLiteral("SELECT * FROM SkladOdrezku WHERE Material = '") +
-                                                 Dotaz::text(material) + QStringLiteral("' ORDER BY x,y ");
-    for (Recordset r(db, sql); !r.eof(); r.moveNext()) {
+    const QString sql = material.isEmpty() ? QStringLiteral("SELECT * FROM SkladOdrezku ORDER BY Material")
+                                           : QStringLiteral("SELECT * FROM SkladOdrezku WHERE Material = ? ORDER BY x,y");
+    for (Recordset r(db, sql, material.isEmpty() ? QVariantList() : QVariantList{material}); !r.eof(); r.moveNext()) {
         if (d.presahne(Dokument::mm(6))) {
             d.NewPage();
             d.pismo.tucne = true;
