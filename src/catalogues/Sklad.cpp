@@ -10,11 +10,14 @@
 namespace Sklad {
 namespace {
 
-Recordset stejny(Database& db, const Odrezek& o)
+// The row of the material and size (tenths of a millimetre), compared in tenths as the plan's sizes are.
+Recordset vDesetinach(Database& db, const QString& material, double xDesetiny, double yDesetiny)
 {
     return Recordset(db, QStringLiteral("SELECT * FROM SkladOdrezku WHERE Material = ? and x*10 = ? and y*10 = ?"),
-                     {o.material, o.x * 10, o.y * 10}, Recordset::Rozsah::Prvni);
+                     {material, xDesetiny, yDesetiny}, Recordset::Rozsah::Prvni);
 }
+
+Recordset stejny(Database& db, const Odrezek& o) { return vDesetinach(db, o.material, o.x * 10, o.y * 10); }
 
 bool platny(Prompt& prompt, const Odrezek& o)
 {
@@ -114,6 +117,33 @@ bool UlozitUpravuOdrezku(Database& db, Prompt& prompt, const Odrezek& stary, con
         puvodni.edit();
     zapis(puvodni, novy);
     return true;
+}
+
+void odeberKus(Database& db, const QString& material, double xDesetiny, double yDesetiny)
+{
+    Recordset r = vDesetinach(db, material, xDesetiny, yDesetiny);
+    if (r.eof())
+        return;
+    if (r.cislo(QStringLiteral("Pocet")) <= 1) {
+        r.remove();
+        return;
+    }
+    r.edit();
+    r.set(QStringLiteral("Pocet"), r.cislo(QStringLiteral("Pocet")) - 1);
+    r.update();
+}
+
+void pridejKus(Database& db, const QString& material, double xDesetiny, double yDesetiny)
+{
+    Recordset r = vDesetinach(db, material, xDesetiny, yDesetiny);
+    if (r.eof()) {
+        r.addNew();
+        zapis(r, {material, xDesetiny / 10, yDesetiny / 10, 1});
+        return;
+    }
+    r.edit();
+    r.set(QStringLiteral("Pocet"), r.cislo(QStringLiteral("Pocet")) + 1);
+    r.update();
 }
 
 void SmazatOdrezek(Database& db, const Odrezek& o)
