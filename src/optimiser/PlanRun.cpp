@@ -84,6 +84,8 @@ bool PlanRun::SpustNP(const QString& zakazka, double idFormatu, ZpusobNP zpusob,
         m_prompt.zprava(NeniCoNarezat, QString(), Prompt::Ikona::Kriticka);
         return false;
     }
+    if (m_zpusob == ZpusobNP::Usporne)
+        return usporne(); // a stop during its search keeps the best plan found
     ridic();
     if (m_smycka)
         m_prompt.zprava(SmyckaZbytku, QStringLiteral("Upozornění"), Prompt::Ikona::Vykricnik);
@@ -320,4 +322,10 @@ QString PlanRun::dosad(const char* text, std::initializer_list<std::pair<const c
     }
     vysledek += QStringView(sql).mid(od);
     return vysledek;
+}
+
+void PlanRun::varujNeusazene()
+{
+    m_varovani = true;
+    m_prompt.zprava(DeskyVetsiNezTabule, QStringLiteral("Upozornění"), Prompt::Ikona::Kriticka);
 }

@@ -1,6 +1,6 @@
 #pragma once
 // One plan run: the boards of one order that are cut from one format, laid out on sheets in one
-// of three modes. Holds every value that the run shares between its routines (the old program
+// of four modes. Holds every value that the run shares between its routines (the old program
 // kept them process-wide), works on the plan database DataK through the store, and reports
 // progress and asks "stop?" through Prubeh. What a finished run leaves in DataK: SoupisTabuli
 // with the used sheets numbered by NCT, SoupisDesek with the placed boards, SoupisZbytku.
@@ -16,7 +16,8 @@
 class Uloziste;
 class Database;
 
-enum class ZpusobNP { PodelneRezy, PricneRezy, Kombinovane };
+// Usporne, "úsporně": the fewest sheets, searched within a time budget (UsporneNP.cpp).
+enum class ZpusobNP { PodelneRezy, PricneRezy, Kombinovane, Usporne };
 
 // A format of the order that has boards, as the plan start offers it.
 struct FormatNP {
@@ -39,6 +40,9 @@ public:
     // Throws Error from the store (75, 3356, 3799 when DataK cannot be made).
     bool SpustNP(const QString& zakazka, double idFormatu, ZpusobNP zpusob, int volba = 0);
 
+    // The search budget of "úsporně" in seconds, over the setting CasUsporne (the command line's --cas).
+    void casUsporne(double sekund) { m_casUsporne = sekund; }
+
     // After a run.
     const std::map<int, int>& RezyNaTabuli() const { return m_rezy; }
     bool varovani() const { return m_varovani || m_smycka; } // sheets ran out, or a walk was cut
@@ -58,7 +62,9 @@ private:
     void SoupisTabuliNP();
     void SoupisDesekNP();
     void ridic();              // the driver of the mode: one placement per sheet
+    bool usporne();            // the rest of a run of "úsporně": a stop keeps the best plan found
     void PrecislujTabule();
+    void varujNeusazene();     // the warning of boards left out, said once
     bool vydej();              // a turn for the event loop; true when the run is to stop
     void oznacDesku(Recordset& rs, bool otoceno); // marks a placed board and its sheet
     // The query with each `{name}` replaced by the value given in dalsi, or by the state's value
@@ -82,6 +88,7 @@ private:
     int m_slouceni = 0;
     double m_krokPrubehu = 0;
     double m_hodnotaPrubehu = 0;
+    std::optional<double> m_casUsporne;
 
 public:
     // The working values of the placement and of the trial, shared by their routines. Axis 0

@@ -146,7 +146,8 @@ void FrmNovy::optimalizuj(ZpusobNP zpusob, const std::function<void()>& beh)
 {
     static const char* const titulky[] = {"Optimalizace nářezového plánu - podélné řezy",
                                           "Optimalizace nářezového plánu - příčné řezy",
-                                          "Optimalizace nářezového plánu - kombinovaně"};
+                                          "Optimalizace nářezového plánu - kombinovaně",
+                                          "Optimalizace nářezového plánu - úsporně"};
     m_storno = false;
     m_lblNP->setText(QStringLiteral("Vytváření soupisu tabulí..."));
     m_progressBar1->setVisible(false);
