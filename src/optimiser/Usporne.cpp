@@ -218,7 +218,7 @@ Pas Hledani::pas(double H, double W, std::vector<int>& pocet, const Parametry& p
         --pocet[bt];
         pas.hodnota += m_cena[bt];
         double zbyva = H - lh(m_typy[bt], bo, smer);
-        for (;;) {
+        while (m_z.stupne >= 3) { // two stages: a stack holds its first piece alone
             int ct = -1, co = 0;
             double nej = 0;
             for (size_t t = 0; t < m_typy.size(); ++t) {
