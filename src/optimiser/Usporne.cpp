@@ -40,7 +40,7 @@ std::optional<Plan> zPolozeni(const Zadani& z, const std::map<int, std::vector<R
         if (tabule < 0 || tabule >= int(z.tabule.size()))
             return std::nullopt;
         auto strom = RezovyPlan::zPolozeni(desky, z.tabule[tabule].x - z.okraj, z.tabule[tabule].y - z.okraj, z.srez);
-        if (!strom || RezovyPlan::stupne(*strom) > z.stupne)
+        if (!strom)
             return std::nullopt;
         for (const RezovyPlan::Polozeni& p : desky) {
             if (p.deska < 0 || p.deska >= int(z.desky.size()) || polozena[p.deska])
@@ -134,6 +134,7 @@ private:
     Plan sestav(const Parametry& p);
     void zbytekNaKonci(Plan& plan);
     void vyprazdni(Plan& plan, std::int64_t limit);
+    std::optional<Plan> prerezej(const Plan& plan);
     void oprav(const Plan& plan);
     std::vector<int> deskyNa(const Kus& k) const;
     double plochaDesek(const Kus& k) const;
@@ -474,6 +475,38 @@ void Hledani::zbytekNaKonci(Plan& plan)
         }
 }
 
+// A plan cut in more stages than allowed, its sheets laid out again each from its own boards in
+// the stages allowed; nothing when some sheet's boards will not go.
+std::optional<Plan> Hledani::prerezej(const Plan& plan)
+{
+    Plan novy;
+    novy.neusazene = plan.neusazene;
+    for (const TabulePlanu& tp : plan.tabule) {
+        const Tabule& t = m_z.tabule[tp.tabule];
+        const auto [seznamy, pocet] = podleTypu(deskyNa(tp.strom));
+        bool hotovo = false;
+        for (int pokus = 0; pokus < 64 && !hotovo; ++pokus) {
+            Parametry p;
+            p.shoda = 6 * nahodne();
+            p.vysek = 2 + int(30 * nahodne());
+            for (size_t i = 0; i < m_typy.size(); ++i)
+                m_cena[i] = m_typy[i].plocha * (1 + 0.5 * nahodne());
+            for (int smer = 0; smer < 2 && !hotovo; ++smer) {
+                std::vector<int> zbyva = pocet;
+                const Vyplneni v = smer == 0 ? vypln(sirka(t), vyska(t), zbyva, p, 0) : vypln(vyska(t), sirka(t), zbyva, p, 1);
+                if (std::any_of(zbyva.begin(), zbyva.end(), [](int n) { return n > 0; }))
+                    continue;
+                std::vector<size_t> dalsi(m_typy.size(), 0);
+                novy.tabule.push_back({tp.tabule, strom(v, t, seznamy, dalsi)});
+                hotovo = true;
+            }
+        }
+        if (!hotovo)
+            return std::nullopt;
+    }
+    return novy;
+}
+
 // Emptying the least full sheet: its boards and another sheet's are laid out again, the other
 // sheet filled as well as it can be, the least full one taking the rest. A change stands when
 // the other sheet holds more than before; the least full sheet goes when nothing is left on it.
@@ -630,8 +663,15 @@ Plan Hledani::hledej(const std::vector<Plan>& vychozi, const Rizeni& r)
             nejlepsi = std::move(p);
         }
     };
-    for (const Plan& p : vychozi)
-        zkus(p);
+    for (const Plan& p : vychozi) {
+        const bool vStupnich = std::all_of(p.tabule.begin(), p.tabule.end(), [&](const TabulePlanu& t) {
+            return RezovyPlan::stupne(t.strom) <= m_z.stupne;
+        });
+        if (vStupnich)
+            zkus(p);
+        else if (auto znovu = prerezej(p))
+            zkus(std::move(*znovu));
+    }
     const int mez = dolniMez();
     const bool odrezky = std::any_of(m_z.tabule.begin(), m_z.tabule.end(), [](const Tabule& t) { return t.odrezek; });
     bool uMeze = false;

@@ -62,12 +62,12 @@ struct Rizeni {
 };
 
 // The best plan found. Plans of other modes in vychozi take part as they are when their trees
-// keep the stage limit.
+// keep the stage limit, or else with each sheet laid out again from its own boards.
 Plan hledej(const Zadani& zadani, const std::vector<Plan>& vychozi, const Rizeni& rizeni);
 
 // A plan of boards laid by another mode: by the sheet's index into Zadani::tabule, the boards
 // lying on it (positions from the usable area's corner). Nothing when a sheet cannot be cut
-// edge to edge; unplaced boards are those that lie nowhere.
+// edge to edge, whatever the stages; unplaced boards are those that lie nowhere.
 std::optional<Plan> zPolozeni(const Zadani& zadani, const std::map<int, std::vector<RezovyPlan::Polozeni>>& polozeni);
 
 }

@@ -7,20 +7,12 @@
 #include "core/Nastaveni.h"
 #include "core/Uloziste.h"
 #include "optimiser/PracovniTabulky.h"
+#include "optimiser/TichyPrompt.h"
 #include "optimiser/Usporne.h"
 
 #include <cmath>
 
 namespace {
-
-// The described modes' own warnings are not the joiner's business here: this run says once
-// what it left out.
-class TichyPrompt : public Prompt {
-public:
-    Odpoved zprava(const QString&, const QString&, Ikona, Tlacitka) override { return Odpoved::Ok; }
-    QString vstup(const QString&, const QString&, const QString&) override { return {}; }
-    QString soubor(bool, const QString&, const QString&, const QString&, const QString&) override { return {}; }
-};
 
 double nastaveni(const char* klic, double vychozi)
 {

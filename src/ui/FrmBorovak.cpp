@@ -522,8 +522,13 @@ void FrmBorovak::ZahajNP()
                             .recordCount());
     FrmNovy dialog(this);
     FrmNovy::VolbaNP volba;
-    if (!dialog.zvolNP(formaty, pocty, volba))
+    const bool zvoleno = dialog.zvolNP(formaty, pocty, volba, [&](double idFormatu, ZpusobNP zpusob, Prubeh& prubeh) {
+        return srovnejZpusob(m_uloziste, prubeh, zakazka, idFormatu, zpusob);
+    });
+    if (!zvoleno) {
+        m_uloziste.zavriDataK(); // the comparison's plans
         return;
+    }
     PlanRun run(m_uloziste, m_prompt, dialog);
     bool hotovo = false;
     std::optional<Error> chyba;
