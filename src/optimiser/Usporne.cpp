@@ -93,6 +93,10 @@ struct Parametry {
     int varianty = 0; // further knobs tried on every sheet
 };
 
+// What a step of the inner loops costs beside the work around it, per board handled: trees,
+// sums, copies. Counted so that small orders keep to their budget as large ones do.
+constexpr long Rezie = 400;
+
 class Hledani {
 public:
     Hledani(const Zadani& z) : m_z(z) { pripravTypy(); }
@@ -192,6 +196,14 @@ Pas Hledani::pas(double H, double W, std::vector<int>& pocet, const Parametry& p
     Pas pas;
     pas.h = H;
     double u = 0;
+    // how well each piece opens a stack of this strip, for its height
+    std::vector<double> shoda(2 * m_typy.size(), 0);
+    m_prace += 4 * long(m_typy.size());
+    for (size_t t = 0; t < m_typy.size(); ++t)
+        if (pocet[t])
+            for (int o = 0; o < m_typy[t].orientaci; ++o)
+                if (lh(m_typy[t], o, smer) <= H + Eps)
+                    shoda[2 * t + o] = m_cena[t] * std::pow(lh(m_typy[t], o, smer) / H, p.shoda);
     for (;;) {
         int bt = -1, bo = 0;
         double nejlepe = 0;
@@ -202,7 +214,7 @@ Pas Hledani::pas(double H, double W, std::vector<int>& pocet, const Parametry& p
                 const double h = lh(m_typy[t], o, smer), w = lw(m_typy[t], o, smer);
                 if (h > H + Eps || w > W - u + Eps)
                     continue;
-                const double hodnota = m_cena[t] * std::pow(h / H, p.shoda);
+                const double hodnota = shoda[2 * t + o];
                 if (hodnota > nejlepe) {
                     nejlepe = hodnota;
                     bt = int(t);
@@ -277,6 +289,7 @@ Vyplneni Hledani::vypln(double W, double H, std::vector<int>& pocet, const Param
         double ucinnost = -1;
         for (double h : vysky) {
             std::vector<int> zkusmo = pocet;
+            m_prace += long(m_typy.size());
             Pas kandidat = pas(h, W, zkusmo, p, smer);
             const double u = kandidat.hodnota / (W * h);
             if (u > ucinnost + 1e-12) {
@@ -383,6 +396,7 @@ Kus Hledani::strom(const Vyplneni& v, const Tabule& tab, const std::vector<std::
 
 Plan Hledani::sestav(const Parametry& p)
 {
+    m_prace += Rezie * long(m_z.desky.size());
     ceny(p);
     Plan plan;
     std::vector<int> pocet = m_pocet0;
@@ -533,6 +547,7 @@ void Hledani::vyprazdni(Plan& plan, std::int64_t limit)
         const Tabule& t = m_z.tabule[plan.tabule[a].tabule];
         std::vector<int> desky = deskyNa(plan.tabule[a].strom);
         const std::vector<int> zA = desky;
+        m_prace += Rezie * long(desky.size());
         for (int d : deskyNa(plan.tabule[b].strom))
             desky.push_back(d);
         const auto [seznamy, pocet] = podleTypu(desky);
@@ -648,7 +663,7 @@ int Hledani::dolniMez() const
 }
 
 // Steps of the inner loops per second of the budget, measured on a two-core workshop box.
-constexpr double KrokuZaSekundu = 60e6;
+constexpr double KrokuZaSekundu = 400e6;
 
 Plan Hledani::hledej(const std::vector<Plan>& vychozi, const Rizeni& r)
 {

@@ -18,13 +18,14 @@ TabulkaSrovnani::TabulkaSrovnani(QWidget* rodic) : QTableWidget(4, 4, rodic)
 {
     setObjectName(QStringLiteral("tblSrovnani"));
     setHorizontalHeaderLabels({QStringLiteral("Tabulí"), QStringLiteral("Využití"), QStringLiteral("Řezů"),
-                               QStringLiteral("Největší zbytek")});
+                               QStringLiteral("Největší zbytek [mm]")});
     setVerticalHeaderLabels({QStringLiteral("kombinovaně"), QStringLiteral("podélné řezy"), QStringLiteral("příčné řezy"),
                              QStringLiteral("úsporně")});
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setSelectionMode(QAbstractItemView::NoSelection);
     setFocusPolicy(Qt::NoFocus);
-    horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    horizontalHeader()->setStretchLastSection(true);
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -77,8 +78,7 @@ void TabulkaSrovnani::radek(int r, const std::optional<SrovnaniNP>& s)
     const QStringList texty =
         s ? QStringList{QString::number(s->tabuli), cz.toString(s->vyuziti, 'f', 1) + QStringLiteral(" %"),
                         QString::number(s->rezu),
-                        s->zbytekX > 0 ? cz.toString(s->zbytekX) + QStringLiteral(" x ") + cz.toString(s->zbytekY) +
-                                             QStringLiteral(" mm")
+                        s->zbytekX > 0 ? QString::number(s->zbytekX) + QStringLiteral(" x ") + QString::number(s->zbytekY)
                                        : QStringLiteral("žádný")}
           : QStringList{QStringLiteral("—"), QString(), QString(), QString()};
     for (int c = 0; c < 4; ++c) {
