@@ -57,6 +57,11 @@ std::optional<Plan> zPolozeni(const Zadani& z, const std::map<int, std::vector<R
 
 namespace {
 
+bool vseUsazeno(const std::vector<int>& zbyva)
+{
+    return std::none_of(zbyva.begin(), zbyva.end(), [](int n) { return n > 0; });
+}
+
 // One size of board: its copies are taken in the order of the order's list. Extents with the
 // kerf along the sheet's X and Y, unturned [0] and turned [1].
 struct Typ {
@@ -128,8 +133,14 @@ private:
 
     void pripravTypy();
     void ceny(const Parametry& p);
+    template <typename Skore>
+    std::pair<int, int> nejlepsiKus(const std::vector<int>& pocet, int smer, double w, double h, Skore skore);
     Pas pas(double H, double W, std::vector<int>& pocet, const Parametry& p, int smer);
     Vyplneni vypln(double W, double H, std::vector<int>& pocet, const Parametry& p, int smer);
+    Vyplneni vypln(const Tabule& t, std::vector<int>& pocet, const Parametry& p, int smer)
+    {
+        return smer == 0 ? vypln(sirka(t), vyska(t), pocet, p, 0) : vypln(vyska(t), sirka(t), pocet, p, 1);
+    }
     Vyplneni nejlepsiVyplneni(const Tabule& t, std::vector<int>& pocet, const Parametry& p);
     // desky[t] hands out the boards of type t, dalsi[t] is the next one to take
     Kus strom(const Vyplneni& v, const Tabule& t, const std::vector<std::vector<int>>& desky,
@@ -189,6 +200,30 @@ void Hledani::ceny(const Parametry& p)
         m_cena[t] = std::pow(m_typy[t].plocha, p.mocnina) * m_korekce[t] * (1 + p.sum * nahodne());
 }
 
+// The piece still wanted that fits w by h (in the frame of smer) and scores most; -1 for none.
+template <typename Skore>
+std::pair<int, int> Hledani::nejlepsiKus(const std::vector<int>& pocet, int smer, double w, double h, Skore skore)
+{
+    int nt = -1, no = 0;
+    double nejvic = 0;
+    for (size_t t = 0; t < m_typy.size(); ++t) {
+        if (!pocet[t])
+            continue;
+        for (int o = 0; o < m_typy[t].orientaci; ++o) {
+            if (lh(m_typy[t], o, smer) > h + Eps || lw(m_typy[t], o, smer) > w + Eps)
+                continue;
+            const double hodnota = skore(int(t), o);
+            if (hodnota > nejvic) {
+                nejvic = hodnota;
+                nt = int(t);
+                no = o;
+            }
+        }
+    }
+    m_prace += long(m_typy.size());
+    return {nt, no};
+}
+
 // A strip of height H filled from its start with stacks; each stack opens with the piece whose
 // height matches the strip best for its worth, then takes on the worthiest pieces that fit.
 Pas Hledani::pas(double H, double W, std::vector<int>& pocet, const Parametry& p, int smer)
@@ -205,24 +240,7 @@ Pas Hledani::pas(double H, double W, std::vector<int>& pocet, const Parametry& p
                 if (lh(m_typy[t], o, smer) <= H + Eps)
                     shoda[2 * t + o] = m_cena[t] * std::pow(lh(m_typy[t], o, smer) / H, p.shoda);
     for (;;) {
-        int bt = -1, bo = 0;
-        double nejlepe = 0;
-        for (size_t t = 0; t < m_typy.size(); ++t) {
-            if (!pocet[t])
-                continue;
-            for (int o = 0; o < m_typy[t].orientaci; ++o) {
-                const double h = lh(m_typy[t], o, smer), w = lw(m_typy[t], o, smer);
-                if (h > H + Eps || w > W - u + Eps)
-                    continue;
-                const double hodnota = shoda[2 * t + o];
-                if (hodnota > nejlepe) {
-                    nejlepe = hodnota;
-                    bt = int(t);
-                    bo = o;
-                }
-            }
-        }
-        m_prace += long(m_typy.size());
+        const auto [bt, bo] = nejlepsiKus(pocet, smer, W - u, H, [&](int t, int o) { return shoda[2 * t + o]; });
         if (bt < 0)
             break;
         Stoh s;
@@ -232,24 +250,10 @@ Pas Hledani::pas(double H, double W, std::vector<int>& pocet, const Parametry& p
         pas.hodnota += m_cena[bt];
         double zbyva = H - lh(m_typy[bt], bo, smer);
         while (m_z.stupne >= 3) { // two stages: a stack holds its first piece alone
-            int ct = -1, co = 0;
-            double nej = 0;
-            for (size_t t = 0; t < m_typy.size(); ++t) {
-                if (!pocet[t])
-                    continue;
-                for (int o = 0; o < m_typy[t].orientaci; ++o) {
-                    const double h = lh(m_typy[t], o, smer), w = lw(m_typy[t], o, smer);
-                    if (h > zbyva + Eps || w > s.w + Eps)
-                        continue;
-                    const double hodnota = m_cena[t] * (w / s.w);
-                    if (hodnota > nej) {
-                        nej = hodnota;
-                        ct = int(t);
-                        co = o;
-                    }
-                }
-            }
-            m_prace += long(m_typy.size());
+            const double sirka = s.w;
+            const auto [ct, co] = nejlepsiKus(pocet, smer, sirka, zbyva, [&](int t, int o) {
+                return m_cena[t] * (lw(m_typy[t], o, smer) / sirka);
+            });
             if (ct < 0)
                 break;
             s.kusy.push_back({ct, co});
@@ -321,7 +325,7 @@ Vyplneni Hledani::nejlepsiVyplneni(const Tabule& t, std::vector<int>& pocet, con
         }
         for (int smer : {0, 1}) {
             std::vector<int> zbyva = pocet;
-            Vyplneni v = smer == 0 ? vypln(sirka(t), vyska(t), zbyva, q, 0) : vypln(vyska(t), sirka(t), zbyva, q, 1);
+            Vyplneni v = vypln(t, zbyva, q, smer);
             if (v.hodnota > nejlepsi.hodnota + 1e-9) {
                 nejlepsi = std::move(v);
                 poNejlepsim = std::move(zbyva);
@@ -476,8 +480,8 @@ void Hledani::zbytekNaKonci(Plan& plan)
             p.shoda = shoda;
             p.vysek = 32;
             std::vector<int> zbyva = pocet;
-            const Vyplneni v = smer == 0 ? vypln(sirka(t), vyska(t), zbyva, p, 0) : vypln(vyska(t), sirka(t), zbyva, p, 1);
-            if (std::any_of(zbyva.begin(), zbyva.end(), [](int n) { return n > 0; }))
+            const Vyplneni v = vypln(t, zbyva, p, smer);
+            if (!vseUsazeno(zbyva))
                 continue;
             std::vector<size_t> dalsi(m_typy.size(), 0);
             Kus kandidat = strom(v, t, vlastni, dalsi);
@@ -507,8 +511,8 @@ std::optional<Plan> Hledani::prerezej(const Plan& plan)
                 m_cena[i] = m_typy[i].plocha * (1 + 0.5 * nahodne());
             for (int smer = 0; smer < 2 && !hotovo; ++smer) {
                 std::vector<int> zbyva = pocet;
-                const Vyplneni v = smer == 0 ? vypln(sirka(t), vyska(t), zbyva, p, 0) : vypln(vyska(t), sirka(t), zbyva, p, 1);
-                if (std::any_of(zbyva.begin(), zbyva.end(), [](int n) { return n > 0; }))
+                const Vyplneni v = vypln(t, zbyva, p, smer);
+                if (!vseUsazeno(zbyva))
                     continue;
                 std::vector<size_t> dalsi(m_typy.size(), 0);
                 novy.tabule.push_back({tp.tabule, strom(v, t, seznamy, dalsi)});
@@ -565,12 +569,12 @@ void Hledani::vyprazdni(Plan& plan, std::int64_t limit)
             plochaB += (pocet[i] - zbyva[i]) * m_typy[i].plocha;
         if (plochaB <= plochy[b] + Eps)
             continue;
-        const bool prazdna = std::none_of(zbyva.begin(), zbyva.end(), [](int n) { return n > 0; });
+        const bool prazdna = vseUsazeno(zbyva);
         Vyplneni va;
         if (!prazdna) {
             p.varianty = 2;
             va = nejlepsiVyplneni(t, zbyva, p);
-            if (std::any_of(zbyva.begin(), zbyva.end(), [](int n) { return n > 0; }))
+            if (!vseUsazeno(zbyva))
                 continue;
         }
         std::vector<size_t> dalsi(m_typy.size(), 0);
