@@ -525,9 +525,9 @@ std::optional<Plan> Hledani::prerezej(const Plan& plan)
     return novy;
 }
 
-// Emptying the least full sheet: its boards and another sheet's are laid out again, the other
-// sheet filled as well as it can be, the least full one taking the rest. A change stands when
-// the other sheet holds more than before; the least full sheet goes when nothing is left on it.
+// Emptying the least full sheet: its boards and those of one to three others are laid out
+// again, the others filled as well as they can be, the least full one taking the rest. A change
+// stands when the others hold more than before; the least full sheet goes when nothing is left.
 void Hledani::vyprazdni(Plan& plan, std::int64_t limit)
 {
     std::vector<int> plne; // positions of the full sheets in the plan
@@ -544,16 +544,23 @@ void Hledani::vyprazdni(Plan& plan, std::int64_t limit)
         for (int i : plne)
             if (!smazana[i] && (a < 0 || plochy[i] < plochy[a]))
                 a = i;
-        int b;
-        do
-            b = plne[size_t(nahodne() * plne.size()) % plne.size()];
-        while (b == a || smazana[b]);
+        const int kolik = std::min(zive - 1, 1 + int(3 * nahodne()));
+        std::vector<int> partneri;
+        while (int(partneri.size()) < kolik) {
+            const int b = plne[size_t(nahodne() * plne.size()) % plne.size()];
+            if (b != a && !smazana[b] && std::find(partneri.begin(), partneri.end(), b) == partneri.end())
+                partneri.push_back(b);
+        }
         const Tabule& t = m_z.tabule[plan.tabule[a].tabule];
         std::vector<int> desky = deskyNa(plan.tabule[a].strom);
         const std::vector<int> zA = desky;
+        double pred = 0;
+        for (int b : partneri) {
+            pred += plochy[b];
+            for (int d : deskyNa(plan.tabule[b].strom))
+                desky.push_back(d);
+        }
         m_prace += Rezie * long(desky.size());
-        for (int d : deskyNa(plan.tabule[b].strom))
-            desky.push_back(d);
         const auto [seznamy, pocet] = podleTypu(desky);
         Parametry p;
         p.shoda = 6 * nahodne();
@@ -563,11 +570,13 @@ void Hledani::vyprazdni(Plan& plan, std::int64_t limit)
         for (int d : zA)
             m_cena[m_typDesky[d]] *= 1.2; // pull the boards of the least full sheet over
         std::vector<int> zbyva = pocet;
-        const Vyplneni vb = nejlepsiVyplneni(t, zbyva, p);
-        double plochaB = 0;
+        std::vector<Vyplneni> vyplneni;
+        for (size_t i = 0; i < partneri.size(); ++i)
+            vyplneni.push_back(nejlepsiVyplneni(t, zbyva, p));
+        double po = 0;
         for (size_t i = 0; i < m_typy.size(); ++i)
-            plochaB += (pocet[i] - zbyva[i]) * m_typy[i].plocha;
-        if (plochaB <= plochy[b] + Eps)
+            po += (pocet[i] - zbyva[i]) * m_typy[i].plocha;
+        if (po <= pred + Eps)
             continue;
         const bool prazdna = vseUsazeno(zbyva);
         Vyplneni va;
@@ -578,8 +587,10 @@ void Hledani::vyprazdni(Plan& plan, std::int64_t limit)
                 continue;
         }
         std::vector<size_t> dalsi(m_typy.size(), 0);
-        plan.tabule[b].strom = strom(vb, t, seznamy, dalsi);
-        plochy[b] = plochaB;
+        for (size_t i = 0; i < partneri.size(); ++i) {
+            plan.tabule[partneri[i]].strom = strom(vyplneni[i], t, seznamy, dalsi);
+            plochy[partneri[i]] = plochaDesek(plan.tabule[partneri[i]].strom);
+        }
         if (prazdna) {
             smazana[a] = true;
             --zive;
