@@ -1,7 +1,7 @@
 #include "optimiser/Usporne.h"
 
 #include <algorithm>
-#include <chrono>
+#include <ctime>
 #include <cmath>
 #include <cstdint>
 
@@ -682,7 +682,7 @@ constexpr double KrokuZaSekundu = 400e6;
 
 Plan Hledani::hledej(const std::vector<Plan>& vychozi, const Rizeni& r)
 {
-    const auto start = std::chrono::steady_clock::now();
+    const std::clock_t start = std::clock();
     std::int64_t limit = std::int64_t(std::max(r.sekund, 0.0) * KrokuZaSekundu);
     std::optional<Plan> nejlepsi;
     Hodnoceni hn;
@@ -706,7 +706,9 @@ Plan Hledani::hledej(const std::vector<Plan>& vychozi, const Rizeni& r)
     const bool odrezky = std::any_of(m_z.tabule.begin(), m_z.tabule.end(), [](const Tabule& t) { return t.odrezek; });
     bool uMeze = false;
     auto konec = [&] {
-        const double sekund = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+        // a safety net for a machine far slower than counted: processor time, not the clock on
+        // the wall, so that other programs' load does not change the plan
+        const double sekund = double(std::clock() - start) / CLOCKS_PER_SEC;
         const bool dost = m_prace >= limit || sekund > 4 * r.sekund + 1;
         return (r.prubeh && r.prubeh(hn.vsech, std::min(1.0, double(m_prace) / std::max<std::int64_t>(limit, 1)))) || dost;
     };
