@@ -677,7 +677,8 @@ int Hledani::dolniMez() const
     return int(std::ceil(plocha / (sirka(t) * vyska(t)) - 1e-9));
 }
 
-// Steps of the inner loops per second of the budget, measured on a two-core workshop box.
+// Steps of the inner loops per second of the budget: about a processor second of this project's
+// two-core build box (2026).
 constexpr double KrokuZaSekundu = 400e6;
 
 Plan Hledani::hledej(const std::vector<Plan>& vychozi, const Rizeni& r)
