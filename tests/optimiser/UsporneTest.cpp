@@ -232,3 +232,22 @@ TEST(KontrolaPlanu, NajdeKazdyDruhChyby)
                           "deska 4 je v plánu víckrát", "deska 4 na neexistující tabuli 2"})
         EXPECT_TRUE(chyby.join(QLatin1Char('\n')).contains(QString::fromUtf8(c))) << c;
 }
+
+// Stopped after the first plan tried, the search still gives a whole plan: the best so far.
+TEST(Usporne, ZastaveniDaNejlepsiDosud)
+{
+    const Usporne::Zadani z = nahodneZadani(5);
+    Usporne::Rizeni r;
+    r.sekund = 60;
+    int volani = 0, tabuli = 0;
+    r.prubeh = [&](int n, double) {
+        ++volani;
+        tabuli = n;
+        return true;
+    };
+    const Usporne::Plan plan = Usporne::hledej(z, {}, r);
+    EXPECT_EQ(volani, 1);
+    EXPECT_EQ(int(plan.tabule.size()), tabuli);
+    EXPECT_TRUE(KontrolaPlanu::chyby(proKontrolu(z, plan)).isEmpty());
+    EXPECT_EQ(proKontrolu(z, plan).desky.size() + plan.neusazene.size(), z.desky.size());
+}
