@@ -238,11 +238,11 @@ void ctyriZpusoby(Uloziste& u, const std::vector<QString>& zakazky)
         Nastaveni::SaveSetting(QStringLiteral("Setting2"), QStringLiteral("Srez"),
                                z.startsWith(QLatin1String("gcut")) ? QStringLiteral("0") : QStringLiteral("4"));
         QString radek = z.leftJustified(10);
-        double popsane = 0, usporne = 0;
+        double usporne = 0, hledani = 0;
         for (ZpusobNP zpusob : {ZpusobNP::Kombinovane, ZpusobNP::PodelneRezy, ZpusobNP::PricneRezy, ZpusobNP::Usporne}) {
             PlanRun run(u, prompt, prubeh);
-            const double t = sekundy([&] { run.SpustNP(z, 5000001, zpusob); });
-            (zpusob == ZpusobNP::Usporne ? usporne : popsane) += t;
+            usporne = sekundy([&] { run.SpustNP(z, 5000001, zpusob); });
+            hledani = run.sekundHledani();
             radek += QString::number(Recordset(u.dataK(), QStringLiteral("SoupisTabuli")).recordCount()).rightJustified(7);
         }
         const double k = Nastaveni::cislo(QStringLiteral("Setting2"), QStringLiteral("Srez")) * 10;
@@ -252,7 +252,7 @@ void ctyriZpusoby(Uloziste& u, const std::vector<QString>& zakazky)
                                   .hodnota(QStringLiteral("SELECT max((x - %1 + %2) * (y - %1 + %2)) FROM SoupisTabuli").arg(okraj).arg(k))
                                   .toDouble();
         radek += QString::number(int(std::ceil(desky / tabule - 1e-9))).rightJustified(5);
-        vypis(radek.leftJustified(40), QString::number(usporne, 'f', 2), QStringLiteral("  (%1)").arg(usporne - popsane, 0, 'f', 2));
+        vypis(radek.leftJustified(40), QString::number(usporne, 'f', 2), QStringLiteral("  (%1)").arg(hledani, 0, 'f', 2));
     }
     Nastaveni::SaveSetting(QStringLiteral("Setting2"), QStringLiteral("Srez"), srez);
 }

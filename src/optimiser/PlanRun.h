@@ -42,6 +42,7 @@ public:
 
     // The search budget of "úsporně" in seconds, over the setting CasUsporne (the command line's --cas).
     void casUsporne(double sekund) { m_casUsporne = sekund; }
+    double sekundHledani() const { return m_sekundHledani; } // of the last "úsporně" search itself
 
     // After a run.
     const std::map<int, int>& RezyNaTabuli() const { return m_rezy; }
@@ -89,6 +90,7 @@ private:
     double m_krokPrubehu = 0;
     double m_hodnotaPrubehu = 0;
     std::optional<double> m_casUsporne;
+    double m_sekundHledani = 0;
 
 public:
     // The working values of the placement and of the trial, shared by their routines. Axis 0

@@ -10,6 +10,7 @@
 #include "optimiser/TichyPrompt.h"
 #include "optimiser/Usporne.h"
 
+#include <QElapsedTimer>
 #include <cmath>
 
 namespace {
@@ -160,7 +161,10 @@ bool PlanRun::usporne()
         m_prubeh.hodnota(std::floor(podil * m_prubeh.maximum()));
         return m_prubeh.prerusit();
     };
+    QElapsedTimer hodiny;
+    hodiny.start();
     const Usporne::Plan plan = Usporne::hledej(z, vychozi, rizeni);
+    m_sekundHledani = hodiny.nsecsElapsed() / 1e9;
     doTabulek(tabulky, z, plan);
     tabulky.zapis(*m_dataK);
     m_rezy = tabulky.RezyNaTabuli;
