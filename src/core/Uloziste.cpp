@@ -3,7 +3,6 @@
 #include "core/Aplikace.h"
 #include "core/Error.h"
 #include "core/Schema.h"
-#include "core/SqliteChyba.h"
 
 #include <QDir>
 #include <QFile>
@@ -18,17 +17,14 @@ Uloziste::Uloziste(bool zalozit)
         Aplikace::zaloz();
     else if (!Aplikace::existuje())
         throw Error(Chyba::PristupKSouboru,
-                    QStringLiteral("Složka programu %1 neobsahuje databáze. Založte ji příkazem init.")
-                        .arg(Aplikace::domov()));
+                    QStringLiteral("Složka programu %1 neobsahuje databáze. Založte ji příkazem init.").arg(Aplikace::domov()));
     m_zamek = ::open(QFile::encodeName(Aplikace::zamek()).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0644);
     if (m_zamek < 0)
-        throw Error(SqliteChyba::cisloProErrno(errno),
-                    QStringLiteral("Soubor %1 nelze otevřít.").arg(Aplikace::zamek()));
+        throw Error(Chyba::cisloProErrno(errno), QStringLiteral("Soubor %1 nelze otevřít.").arg(Aplikace::zamek()));
     if (::flock(m_zamek, LOCK_SH | LOCK_NB) != 0) {
         ::close(m_zamek);
         m_zamek = -1;
-        throw Error(Chyba::DatabazePouzivana,
-                    QStringLiteral("Databáze programu je používána jiným programem!"));
+        throw Error(Chyba::DatabazePouzivana, QStringLiteral("Databáze programu je používána jiným programem!"));
     }
     Aplikace::uklid();
     otevriData();
@@ -50,10 +46,7 @@ Database& Uloziste::dataK()
     return *m_dataK;
 }
 
-void Uloziste::zavriDataK()
-{
-    m_dataK.reset();
-}
+void Uloziste::zavriDataK() { m_dataK.reset(); }
 
 void Uloziste::ObnovPracovniDatabazi()
 {
@@ -63,7 +56,15 @@ void Uloziste::ObnovPracovniDatabazi()
         if (QFile::exists(soubor) && !QFile::remove(soubor))
             throw Error(Chyba::PristupKSouboru, QStringLiteral("Soubor %1 nelze odstranit.").arg(soubor));
     }
-    m_dataS->vacuumInto(Aplikace::dataK());
+    // The copy is thrown away after use: it is written without waiting for the disk.
+    m_dataS->executeSqlite(QStringLiteral("PRAGMA synchronous=OFF"));
+    try {
+        m_dataS->vacuumInto(Aplikace::dataK());
+    } catch (...) {
+        m_dataS->executeSqlite(QStringLiteral("PRAGMA synchronous=FULL"));
+        throw;
+    }
+    m_dataS->executeSqlite(QStringLiteral("PRAGMA synchronous=FULL"));
     m_dataK = std::make_unique<Database>(Aplikace::dataK(), Database::Rezim::Pracovni);
 }
 
@@ -93,7 +94,4 @@ Uloziste::Vyhradne::Vyhradne(Uloziste& u) : m_u(u)
         throw Error(Chyba::DatabazePouzivana, QStringLiteral("Databáze programu je používána jiným programem!"));
 }
 
-Uloziste::Vyhradne::~Vyhradne()
-{
-    ::flock(m_u.m_zamek, LOCK_SH);
-}
+Uloziste::Vyhradne::~Vyhradne() { ::flock(m_u.m_zamek, LOCK_SH); }

@@ -8,7 +8,9 @@
 #include "core/Recordset.h"
 #include "core/Transakce.h"
 #include "core/Val.h"
+#include "orders/RadkyZakazky.h"
 
+#include <QFile>
 #include <QHash>
 #include <QMap>
 #include <QRandomGenerator>
@@ -88,19 +90,7 @@ class Zapis {
 public:
     Zapis(Database& db, const QString& zakazka, const QString& sestava) : m_db(db), m_zakazka(zakazka), m_sestava(sestava) {}
 
-    QString sestavy() const
-    {
-        return QStringLiteral("SELECT * FROM Zakazky WHERE Zakazka = '") + Dotaz::text(m_zakazka) +
-               QStringLiteral("' and Sestava = '") + Dotaz::text(m_sestava) + QStringLiteral("'");
-    }
-
-    bool existuje(const QString& nazev) const
-    {
-        return !Recordset(m_db, sestavy() + QStringLiteral(" and Oznaceni = '") + Dotaz::text(nazev) +
-                                    QStringLiteral("'ORDER BY Oznaceni"),
-                          Recordset::Rozsah::Prvni)
-                    .prazdny();
-    }
+    bool existuje(const QString& nazev) const { return RadkyZakazky::polozka(m_db, m_zakazka, m_sestava, nazev).has_value(); }
 
     // "deska n" for an empty name, "name n" for a taken one: the first free n. Names are only
     // added while importing, so the search for a base goes on from where it last stood.
@@ -121,17 +111,10 @@ public:
         const QString nazev = QStringLiteral("hrana ") + tloustka;
         if (const auto it = m_hrany.find(nazev.toLower()); it != m_hrany.end())
             return *it;
-        const Recordset rs(m_db, QStringLiteral("SELECT * FROM ZakazkyMaterialy WHERE Zakazka = '") + Dotaz::text(m_zakazka) +
-                                     QStringLiteral("' and Material = '") + Dotaz::text(nazev) + QStringLiteral("'"),
-                           Recordset::Rozsah::Prvni);
-        double id = rs.eof() ? 0 : rs.cislo(QStringLiteral("ID"));
-        if (rs.eof()) {
-            id = Razitko::volne([&](double s) {
-                return !Recordset(m_db, QStringLiteral("SELECT * FROM ZakazkyMaterialy WHERE Zakazka = '") +
-                                            Dotaz::text(m_zakazka) + QStringLiteral("' and ID = ") + Dotaz::cislo(s),
-                                  Recordset::Rozsah::Prvni)
-                            .prazdny();
-            });
+        const auto rs = RadkyZakazky::materialPodleNazvu(m_db, m_zakazka, nazev);
+        double id = rs ? rs->cislo(QStringLiteral("ID")) : 0;
+        if (!rs) {
+            id = Razitko::volne([&](double s) { return RadkyZakazky::material(m_db, m_zakazka, s).has_value(); });
             Recordset n(m_db, QStringLiteral("ZakazkyMaterialy"), Recordset::Rozsah::Prvni);
             n.addNew();
             n.set(QStringLiteral("ID"), id);
@@ -152,7 +135,7 @@ public:
     void deska(const Radek& r, const QString& nazev, double idFormat, const double hrany[4], double cas)
     {
         if (!m_nactena) {
-            Recordset vse(m_db, sestavy() + QStringLiteral("ORDER BY Sestava"));
+            Recordset vse = RadkyZakazky::radkySestavy(m_db, m_zakazka, m_sestava, QStringLiteral("Sestava"));
             for (const char* pole : {"Zakazka", "Sestava", "pocetelementuVsestave", "popis", "schema", "Poznamka", "datum"})
                 m_hlavicka[QLatin1String(pole)] = vse.eof() ? QVariant() : vse.value(QLatin1String(pole));
             vse.moveLast();
@@ -196,10 +179,26 @@ private:
 
 } // namespace
 
+namespace {
+
+[[noreturn]] void velky() { throw Error(Chyba::NeplatnyVstup, QStringLiteral("Soubor je větší než 10 MB, nelze ho načíst.")); }
+
+} // namespace
+
+QString nactiSoubor(const QString& cesta)
+{
+    QFile f(cesta);
+    if (f.size() > MaxVelikost)
+        velky();
+    if (!f.open(QIODevice::ReadOnly))
+        throw Error(Chyba::PristupKSouboru, QStringLiteral("Soubor %1 nelze přečíst: %2").arg(cesta, f.errorString()));
+    return dekoduj(f.read(MaxVelikost + 1));
+}
+
 QString dekoduj(const QByteArray& obsah)
 {
     if (obsah.size() > MaxVelikost)
-        throw Error(Chyba::NeplatnyVstup, QStringLiteral("Soubor je větší než 10 MB, nelze ho načíst."));
+        velky();
     if (obsah.startsWith("\xFF\xFE") || obsah.startsWith("\xFE\xFF")) {
         QStringDecoder d(obsah.startsWith("\xFF\xFE") ? QStringConverter::Utf16LE : QStringConverter::Utf16BE);
         return d(obsah.mid(2));
@@ -224,9 +223,7 @@ Vysledek importuj(Database& db, const QString& zakazka, const QString& sestava, 
     const auto& radky = std::get<std::vector<Radek>>(rozebrano);
     if (radky.empty())
         return {};
-    const Recordset format(db, QStringLiteral("SELECT * FROM ZakazkyMaterialy  WHERE Zakazka = '") + Dotaz::text(zakazka) +
-                                   QStringLiteral("' and Pouziti <> 'hrana' "),
-                           Recordset::Rozsah::Prvni);
+    const Recordset format = RadkyZakazky::materialy(db, zakazka, RadkyZakazky::Pouziti::Formaty);
     if (format.eof())
         return {0, Odmitnuti{QStringLiteral("Doplňte materiál formátu!"), radky.front().cislo}};
     const double idFormat = format.cislo(QStringLiteral("ID"));
@@ -246,4 +243,4 @@ Vysledek importuj(Database& db, const QString& zakazka, const QString& sestava, 
     return {int(radky.size()), std::nullopt};
 }
 
-}
+} // namespace Import

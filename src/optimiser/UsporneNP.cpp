@@ -3,7 +3,6 @@
 // as the working tables every other mode leaves.
 #include "optimiser/PlanRun.h"
 
-#include "core/Database.h"
 #include "core/Nastaveni.h"
 #include "core/Uloziste.h"
 #include "optimiser/PracovniTabulky.h"
@@ -21,43 +20,24 @@ double nastaveni(const char* klic, double vychozi)
     return text.trimmed().isEmpty() ? vychozi : Nastaveni::cislo(QStringLiteral("Setting2"), QLatin1String(klic));
 }
 
-// SoupisDesek and SoupisTabuli as the lists of the run left them, in rowid and CT order.
-PracovniTabulky nactiSoupisy(Database& dataK)
+// The rows of SoupisTabuli by CT - 1: the order of use, in which the search takes the sheets.
+std::vector<int> radkyPodleCT(const PracovniTabulky& t)
 {
-    PracovniTabulky t;
-    for (Recordset rs(dataK, QStringLiteral("SoupisDesek")); !rs.eof(); rs.moveNext()) {
-        DeskaNP d;
-        d.CDesky = int(rs.cislo(QStringLiteral("CDesky")));
-        d.Oznaceni = rs.text(QStringLiteral("Oznaceni"));
-        d.Sestava = rs.text(QStringLiteral("Sestava"));
-        d.x = rs.cislo(QStringLiteral("x"));
-        d.y = rs.cislo(QStringLiteral("y"));
-        d.OV = rs.ano(QStringLiteral("OV"));
-        d.IDHX1 = rs.value(QStringLiteral("IDHX1"));
-        d.IDHX2 = rs.value(QStringLiteral("IDHX2"));
-        d.IDHY1 = rs.value(QStringLiteral("IDHY1"));
-        d.IDHY2 = rs.value(QStringLiteral("IDHY2"));
-        t.desky.push_back(d);
-    }
-    for (Recordset rs(dataK, QStringLiteral("SELECT * FROM SoupisTabuli ORDER BY CT")); !rs.eof(); rs.moveNext()) {
-        TabuleNP r;
-        r.CT = int(rs.cislo(QStringLiteral("CT")));
-        r.Material = rs.text(QStringLiteral("Material"));
-        r.x = rs.cislo(QStringLiteral("x"));
-        r.y = rs.cislo(QStringLiteral("y"));
-        t.tabule.push_back(r);
-    }
-    return t;
+    std::vector<int> radky(t.tabule.size());
+    for (int i = 0; i < int(t.tabule.size()); ++i)
+        radky[t.tabule[i].CT - 1] = i;
+    return radky;
 }
 
-Usporne::Zadani zadani(const PracovniTabulky& soupisy, bool formatOV, double srez)
+Usporne::Zadani zadani(const PracovniTabulky& t, const std::vector<int>& radky, bool formatOV, double srez)
 {
     Usporne::Zadani z;
-    for (const DeskaNP& d : soupisy.desky)
+    for (const DeskaNP& d : t.desky)
         z.desky.push_back({d.x, d.y, d.OV});
     // the full sheets close the list; what stands before them came from the offcut store
-    for (const TabuleNP& t : soupisy.tabule)
-        z.tabule.push_back({t.x, t.y, t.x != soupisy.tabule.back().x || t.y != soupisy.tabule.back().y});
+    const TabuleNP& plna = t.tabule[radky.back()];
+    for (int r : radky)
+        z.tabule.push_back({t.tabule[r].x, t.tabule[r].y, t.tabule[r].x != plna.x || t.tabule[r].y != plna.y});
     z.srez = srez;
     z.okraj = nastaveni("ZarovnaniFormatu", 1) == 1 ? srez : 0;
     z.vzor = formatOV;
@@ -67,8 +47,8 @@ Usporne::Zadani zadani(const PracovniTabulky& soupisy, bool formatOV, double sre
     return z;
 }
 
-// The plans of the three described modes, each from a run of its own (DataK is made anew for
-// each) read back from SoupisDesek and SoupisTabuli. Stops early when the user stops.
+// The plans of the three described modes, each from a run of its own, read back from its working
+// tables. Stops early when the user stops.
 std::vector<Usporne::Plan> planyPopsanychZpusobu(Uloziste& u, Prubeh& prubeh, const QString& zakazka,
                                                  double idFormatu, const Usporne::Zadani& z)
 {
@@ -78,19 +58,17 @@ std::vector<Usporne::Plan> planyPopsanychZpusobu(Uloziste& u, Prubeh& prubeh, co
         PlanRun run(u, tichy, prubeh);
         if (!run.SpustNP(zakazka, idFormatu, zpusob))
             break;
+        const PracovniTabulky& t = run.tabulky();
         std::map<int, int> ctPodleNCT;
-        for (Recordset rs(u.dataK(), QStringLiteral("SoupisTabuli")); !rs.eof(); rs.moveNext())
-            ctPodleNCT[int(rs.cislo(QStringLiteral("NCT")))] = int(rs.cislo(QStringLiteral("CT")));
+        for (const TabuleNP& r : t.tabule)
+            if (!r.smazany)
+                ctPodleNCT[r.NCT] = r.CT;
         std::map<int, std::vector<RezovyPlan::Polozeni>> polozeni;
-        int i = 0;
-        for (Recordset rs(u.dataK(), QStringLiteral("SoupisDesek")); !rs.eof(); rs.moveNext(), ++i) {
-            if (!rs.ano(QStringLiteral("ID")))
-                continue;
-            const bool otoc = rs.ano(QStringLiteral("OTOC"));
-            const double x = rs.cislo(QStringLiteral("x")), y = rs.cislo(QStringLiteral("y"));
-            const int tabule = ctPodleNCT[int(rs.cislo(QStringLiteral("tabule")))] - 1;
-            polozeni[tabule].push_back({i, rs.cislo(QStringLiteral("XD")) - z.okraj, rs.cislo(QStringLiteral("YD")) - z.okraj,
-                                        otoc ? y : x, otoc ? x : y, otoc});
+        for (int i = 0; i < int(t.desky.size()); ++i) {
+            const DeskaNP& d = t.desky[i];
+            if (d.ID)
+                polozeni[ctPodleNCT[d.tabule] - 1].push_back(
+                    {i, d.XD - z.okraj, d.YD - z.okraj, d.OTOC ? d.y : d.x, d.OTOC ? d.x : d.y, d.OTOC});
         }
         if (auto plan = Usporne::zPolozeni(z, polozeni))
             plany.push_back(std::move(*plan));
@@ -101,10 +79,10 @@ std::vector<Usporne::Plan> planyPopsanychZpusobu(Uloziste& u, Prubeh& prubeh, co
 // The plan as working tables, before the sheets are renumbered: placed boards with their
 // sheet's CT, the used sheets, every waste piece as a remnant "KZ" (the row of the sheet's first
 // cut it lies in as Rada), and the cuts per sheet (two more for the trimmed edges).
-void doTabulek(PracovniTabulky& t, const Usporne::Zadani& z, const Usporne::Plan& plan)
+void doTabulek(PracovniTabulky& t, const std::vector<int>& radky, const Usporne::Zadani& z, const Usporne::Plan& plan)
 {
     for (const Usporne::TabulePlanu& tp : plan.tabule) {
-        TabuleNP& tabule = t.tabule[tp.tabule];
+        TabuleNP& tabule = t.tabule[radky[tp.tabule]];
         tabule.ID = true;
         auto poloz = [&](const RezovyPlan::Kus& k, auto& sam) -> void {
             if (k.deska >= 0) {
@@ -138,7 +116,6 @@ void doTabulek(PracovniTabulky& t, const Usporne::Zadani& z, const Usporne::Plan
             }
         t.RezyNaTabuli[tabule.CT] = RezovyPlan::rezy(tp.strom) + (z.okraj > 0 ? 2 : 0);
     }
-    std::erase_if(t.tabule, [](const TabuleNP& r) { return !r.ID; });
 }
 
 } // namespace
@@ -146,13 +123,12 @@ void doTabulek(PracovniTabulky& t, const Usporne::Zadani& z, const Usporne::Plan
 bool PlanRun::usporne()
 {
     m_prubeh.zobraz();
-    PracovniTabulky tabulky = nactiSoupisy(*m_dataK);
+    const std::vector<int> radky = radkyPodleCT(m_t);
     const Usporne::Zadani z =
-        zadani(tabulky, m_formatOV, Nastaveni::cislo(QStringLiteral("Setting2"), QStringLiteral("Srez")) * 10);
+        zadani(m_t, radky, m_formatOV, Nastaveni::cislo(QStringLiteral("Setting2"), QStringLiteral("Srez")) * 10);
     m_s.SrezNP = z.srez;
     m_s.SamovaniNP = Nastaveni::cislo(QStringLiteral("Setting2"), QStringLiteral("Samovani")) * 10;
     const std::vector<Usporne::Plan> vychozi = planyPopsanychZpusobu(m_uloziste, m_prubeh, m_zakazka, m_idFormatu, z);
-    m_dataK = &m_uloziste.dataK();
 
     Usporne::Rizeni rizeni;
     rizeni.sekund = m_casUsporne.value_or(nastaveni("CasUsporne", 2));
@@ -165,11 +141,11 @@ bool PlanRun::usporne()
     hodiny.start();
     const Usporne::Plan plan = Usporne::hledej(z, vychozi, rizeni);
     m_sekundHledani = hodiny.nsecsElapsed() / 1e9;
-    doTabulek(tabulky, z, plan);
-    tabulky.zapis(*m_dataK);
-    m_rezy = tabulky.RezyNaTabuli;
+    doTabulek(m_t, radky, z, plan);
     if (!plan.neusazene.empty())
         varujNeusazene();
     PrecislujTabule();
+    m_uloziste.ObnovPracovniDatabazi();
+    m_t.zapis(m_uloziste.dataK());
     return true;
 }
