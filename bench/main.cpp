@@ -30,6 +30,7 @@
 #include <QJsonObject>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
+#include <cmath>
 #include <cstdio>
 
 namespace {
@@ -216,6 +217,40 @@ void vypisy(const QString& domov)
     std::fflush(stdout);
 }
 
+// The four ways side by side on every order of ../shared/bench, as a shop would cut them: kerf 0
+// for the gcut orders, 4 mm for the others. Per order: the sheets of each way, the area bound
+// (boards with the kerf over the usable sheet with the kerf), the seconds of "úsporně" in all
+// and of its search alone (without the three described runs it starts from).
+void ctyriZpusoby(Uloziste& u, const std::vector<QString>& zakazky)
+{
+    vypis(QStringLiteral("zakázka    kombin. podél. příčně úsporně mez").leftJustified(40), QStringLiteral("sekund"),
+          QStringLiteral("  (z toho hledání)"));
+    BezOtazek prompt;
+    TichyPrubeh prubeh;
+    const QString srez = Nastaveni::GetSetting(QStringLiteral("Setting2"), QStringLiteral("Srez"));
+    for (const QString& z : zakazky) {
+        Nastaveni::SaveSetting(QStringLiteral("Setting2"), QStringLiteral("Srez"),
+                               z.startsWith(QLatin1String("gcut")) ? QStringLiteral("0") : QStringLiteral("4"));
+        QString radek = z.leftJustified(10);
+        double usporne = 0, hledani = 0;
+        for (ZpusobNP zpusob : {ZpusobNP::Kombinovane, ZpusobNP::PodelneRezy, ZpusobNP::PricneRezy, ZpusobNP::Usporne}) {
+            PlanRun run(u, prompt, prubeh);
+            usporne = sekundy([&] { run.SpustNP(z, 5000001, zpusob); });
+            hledani = run.sekundHledani();
+            radek += QString::number(Recordset(u.dataK(), QStringLiteral("SoupisTabuli")).recordCount()).rightJustified(7);
+        }
+        const double k = Nastaveni::cislo(QStringLiteral("Setting2"), QStringLiteral("Srez")) * 10;
+        const double okraj = Nastaveni::cislo(QStringLiteral("Setting2"), QStringLiteral("ZarovnaniFormatu")) == 1 ? k : 0;
+        const double desky = u.dataK().hodnota(QStringLiteral("SELECT sum((x + %1) * (y + %1)) FROM SoupisDesek").arg(k)).toDouble();
+        const double tabule = u.dataK()
+                                  .hodnota(QStringLiteral("SELECT max((x - %1 + %2) * (y - %1 + %2)) FROM SoupisTabuli").arg(okraj).arg(k))
+                                  .toDouble();
+        radek += QString::number(int(std::ceil(desky / tabule - 1e-9))).rightJustified(5);
+        vypis(radek.leftJustified(40), QString::number(usporne, 'f', 2), QStringLiteral("  (%1)").arg(hledani, 0, 'f', 2));
+    }
+    Nastaveni::SaveSetting(QStringLiteral("Setting2"), QStringLiteral("Srez"), srez);
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -264,6 +299,13 @@ int main(int argc, char** argv)
         zalohaAImport(u);
     if (app.arguments().contains(QStringLiteral("jenzaloha")))
         return 0;
+    if (vyber.removeAll(QStringLiteral("usporne")) || vyber.removeAll(QStringLiteral("jenusporne")) || vyber.isEmpty()) {
+        std::vector<QString> zBench(zakazky.begin(), zakazky.end() - 3); // without the generated ones
+        std::erase_if(zBench, [&](const QString& z) { return !vyber.isEmpty() && !vyber.contains(z); });
+        ctyriZpusoby(u, zBench);
+        if (app.arguments().contains(QStringLiteral("jenusporne")))
+            return 0;
+    }
 
     const bool sStarym = !vyber.removeAll(QStringLiteral("nove"));
     if (vyber.removeAll(QStringLiteral("shoda"))) {

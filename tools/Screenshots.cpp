@@ -35,6 +35,7 @@
 #include <QTemporaryDir>
 #include <QStringEncoder>
 #include <QTabWidget>
+#include <QTableWidget>
 #include <QTimer>
 #include <QListWidget>
 #include <QTreeWidget>
@@ -260,13 +261,23 @@ int main(int argc, char** argv)
     prompt.zprava(QStringLiteral("Opravdu chcete nynější data nahradit za BData5_3_2026.bvk ?"), QStringLiteral("Upozornění"),
                   Prompt::Ikona::Otaznik, Prompt::Tlacitka::AnoNe);
 
+    // the plan start with the four ways compared, grabbed once "úsporně" has filled its row
     FrmNovy volba(&okno);
-    QTimer::singleShot(0, &volba, [&] {
+    QTimer hotovo;
+    QObject::connect(&hotovo, &QTimer::timeout, &volba, [&] {
+        const auto* srovnani = volba.findChild<QTableWidget*>(QStringLiteral("tblSrovnani"));
+        if (srovnani->item(3, 0)->text().startsWith(QStringLiteral("počítá")))
+            return;
+        hotovo.stop();
         uloz(&volba, vystup, QStringLiteral("frmNovy-fraVolbaNP"));
         volba.reject();
     });
+    hotovo.start(100);
     FrmNovy::VolbaNP v;
-    volba.zvolNP({{5000001, QStringLiteral("DTD bílá 18 ( 2800 x 2070 )")}}, {12}, v);
+    volba.zvolNP({{5000001, QStringLiteral("DTD bílá 18 ( 2800 x 2070 )")}}, {12}, v,
+                 [&](double idFormatu, ZpusobNP zpusob, Prubeh& p) {
+                     return srovnejZpusob(u, p, QStringLiteral("Kuchyně Novák"), idFormatu, zpusob);
+                 });
 
     FrmNovy prubeh(&okno);
     prubeh.optimalizuj(ZpusobNP::Kombinovane, [&] {

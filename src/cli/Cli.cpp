@@ -23,7 +23,7 @@ const char* const TextPouziti =
     "  order-copy NÁZEV NOVÝ         zakázka pod novým názvem\n"
     "  assembly-copy ZAKÁZKA SESTAVA CÍL [NOVÝ]   sestava pod novým názvem, nebo do jiné zakázky\n"
     "  settings get SEKCE KLÍČ       settings set SEKCE KLÍČ HODNOTA\n"
-    "  plan NÁZEV --format ID --mode kombinovane|podelne|pricne [--volba N] [--dump]\n"
+    "  plan NÁZEV --format ID --mode kombinovane|podelne|pricne|usporne [--cas S] [--volba N] [--dump]\n"
     "       [--pdf SOUBOR] [--labels-pdf SOUBOR] [--vpf SOUBOR] [--write-back]\n"
     "  offcuts-load SOUBOR.json      přidá odřezky do skladu\n"
     "  offcuts-list                  sklad odřezků jako JSON\n"

@@ -27,7 +27,9 @@ ZpusobNP zpusob(const QString& text)
         return ZpusobNP::PricneRezy;
     if (text == QLatin1String("kombinovane"))
         return ZpusobNP::Kombinovane;
-    throw Cli::ChybaPouziti(QStringLiteral("Neznámý režim řezání: %1 (kombinovane, podelne, pricne)").arg(text));
+    if (text == QLatin1String("usporne"))
+        return ZpusobNP::Usporne;
+    throw Cli::ChybaPouziti(QStringLiteral("Neznámý režim řezání: %1 (kombinovane, podelne, pricne, usporne)").arg(text));
 }
 
 double cislo(const QString& text, const char* volba)
@@ -67,13 +69,14 @@ int prikazPlan(const QStringList& vstup)
     const QString format = Cli::vezmiVolbu(argumenty, QStringLiteral("--format"));
     const QString rezim = Cli::vezmiVolbu(argumenty, QStringLiteral("--mode"));
     const QString volba = Cli::vezmiVolbu(argumenty, QStringLiteral("--volba"));
+    const QString cas = Cli::vezmiVolbu(argumenty, QStringLiteral("--cas"));
     const bool dump = Cli::vezmiPrepinac(argumenty, QStringLiteral("--dump"));
     const QString pdf = Cli::vezmiVolbu(argumenty, QStringLiteral("--pdf"));
     const QString stitky = Cli::vezmiVolbu(argumenty, QStringLiteral("--labels-pdf"));
     const QString vpf = Cli::vezmiVolbu(argumenty, QStringLiteral("--vpf"));
     const bool odepsat = Cli::vezmiPrepinac(argumenty, QStringLiteral("--write-back"));
     if (argumenty.size() != 1 || format.isNull() || rezim.isNull())
-        throw Cli::ChybaPouziti(QStringLiteral("plan NÁZEV --format ID --mode kombinovane|podelne|pricne"));
+        throw Cli::ChybaPouziti(QStringLiteral("plan NÁZEV --format ID --mode kombinovane|podelne|pricne|usporne [--cas S]"));
     const QString zakazka = argumenty[0];
     const double idFormatu = cislo(format, "--format");
     const ZpusobNP z = zpusob(rezim);
@@ -91,6 +94,12 @@ int prikazPlan(const QStringList& vstup)
 
     TichyPrubeh prubeh;
     PlanRun run(u, Cli::prompt(), prubeh);
+    if (!cas.isNull()) {
+        const double sekund = cislo(cas, "--cas");
+        if (sekund < 0 || sekund > 3600)
+            throw Error(Chyba::NeplatnyVstup, QStringLiteral("Volba --cas může být 0 až 3600 sekund."));
+        run.casUsporne(sekund);
+    }
     try {
         run.SpustNP(zakazka, idFormatu, z, v);
     } catch (const Error& e) {

@@ -72,6 +72,8 @@ bool PlanRun::SpustNP(const QString& zakazka, double idFormatu, ZpusobNP zpusob,
         m_prompt.zprava(NeniCoNarezat, QString(), Prompt::Ikona::Kriticka);
         return false;
     }
+    if (m_zpusob == ZpusobNP::Usporne)
+        return usporne(); // a stop during its search keeps the best plan found
     ridic();
     if (m_smycka)
         m_prompt.zprava(SmyckaZbytku, QStringLiteral("Upozornění"), Prompt::Ikona::Vykricnik);
@@ -256,4 +258,10 @@ void PlanRun::krokPrubehu()
     m_prubeh.hodnota(m_prubeh.maximum() * m_usazeno / double(m_t.desky.size()));
     m_prubeh.popisek(QStringLiteral("Optimalizuji... - tabule č. ") + QString::number(m_s.CisloTabule) +
                      QStringLiteral(" deska č. ") + QString::number(m_s.PoradiDesky));
+}
+
+void PlanRun::varujNeusazene()
+{
+    m_varovani = true;
+    m_prompt.zprava(DeskyVetsiNezTabule, QStringLiteral("Upozornění"), Prompt::Ikona::Kriticka);
 }

@@ -1,6 +1,6 @@
 #pragma once
 // One plan run: the boards of one order that are cut from one format, laid out on sheets in one
-// of three modes. Holds every value that the run shares between its routines (the old program
+// of four modes. Holds every value that the run shares between its routines (the old program
 // kept them process-wide) and the working tables of the run, in memory: every decision is taken
 // there, in exactly the order its query text defines (Dotazy.h). The finished tables go to the
 // plan database DataK once, at the end: SoupisTabuli with the used sheets numbered by NCT,
@@ -11,12 +11,14 @@
 #include <QElapsedTimer>
 #include <QString>
 #include <map>
+#include <optional>
 #include <vector>
 
 class Uloziste;
 class Database;
 
-enum class ZpusobNP { PodelneRezy, PricneRezy, Kombinovane };
+// Usporne, "úsporně": the fewest sheets, searched within a time budget (UsporneNP.cpp).
+enum class ZpusobNP { PodelneRezy, PricneRezy, Kombinovane, Usporne };
 
 // A format of the order that has boards, as the plan start offers it.
 struct FormatNP {
@@ -40,6 +42,10 @@ public:
     // Throws Error from the store (75, 3356, 3799 when DataK cannot be made or written).
     bool SpustNP(const QString& zakazka, double idFormatu, ZpusobNP zpusob, int volba = 0);
 
+    // The search budget of "úsporně" in seconds, over the setting CasUsporne (the command line's --cas).
+    void casUsporne(double sekund) { m_casUsporne = sekund; }
+    double sekundHledani() const { return m_sekundHledani; } // of the last "úsporně" search itself
+
     // After a run.
     const PracovniTabulky& tabulky() const { return m_t; }
     const std::map<int, int>& RezyNaTabuli() const { return m_t.RezyNaTabuli; }
@@ -60,7 +66,9 @@ private:
     void SoupisTabuliNP();
     void SoupisDesekNP();
     void ridic();              // the driver of the mode: one placement per sheet
+    bool usporne();            // the rest of a run of "úsporně": a stop keeps the best plan found
     void PrecislujTabule();
+    void varujNeusazene();     // the warning of boards left out, said once
     // A turn for the event loop; true when the run is to stop. Inside the trial's loops the turn
     // comes at most every few milliseconds (hned false), at the steps of the run always.
     bool vydej(bool hned = false);
@@ -82,6 +90,8 @@ private:
     bool m_smycka = false;
     int m_slouceni = 0;
     QElapsedTimer m_odVydeje;
+    std::optional<double> m_casUsporne;
+    double m_sekundHledani = 0;
 
 public:
     // The working values of the placement and of the trial, shared by their routines. Axis 0

@@ -348,6 +348,7 @@ QString NavrhNazvuNP(const QString& zakazka, ZpusobNP zpusob)
     switch (zpusob) {
     case ZpusobNP::PodelneRezy: return zakazka + QStringLiteral("-podélně.pdf");
     case ZpusobNP::PricneRezy: return zakazka + QStringLiteral("-příčně.pdf");
+    case ZpusobNP::Usporne: return zakazka + QStringLiteral("-úsporně.pdf");
     default: return zakazka + QStringLiteral("-kombinovaně.pdf");
     }
 }
@@ -357,6 +358,7 @@ QString TitulekNP(ZpusobNP zpusob)
     switch (zpusob) {
     case ZpusobNP::PodelneRezy: return QStringLiteral("Nářezový plán - podélné řezy");
     case ZpusobNP::PricneRezy: return QStringLiteral("Nářezový plán - příčné řezy");
+    case ZpusobNP::Usporne: return QStringLiteral("Nářezový plán - úsporně");
     default: return QStringLiteral("Nářezový plán - kombinovaně");
     }
 }

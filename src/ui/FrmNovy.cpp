@@ -42,7 +42,8 @@ FrmNovy::FrmNovy(QWidget* rodic) : QDialog(rodic)
     m_cmbMaterialNP->setMinimumWidth(320);
     m_cmbZpusobRezani = new QComboBox;
     m_cmbZpusobRezani->setObjectName(QStringLiteral("cmbZpusobRezani"));
-    m_cmbZpusobRezani->addItems({QStringLiteral("kombinovaně"), QStringLiteral("podélné řezy"), QStringLiteral("příčné řezy")});
+    m_cmbZpusobRezani->addItems(
+        {QStringLiteral("kombinovaně"), QStringLiteral("podélné řezy"), QStringLiteral("příčné řezy"), QStringLiteral("úsporně")});
     m_slVolba = new QSlider(Qt::Horizontal);
     m_slVolba->setObjectName(QStringLiteral("slVolba"));
     m_slVolba->setTickPosition(QSlider::TicksBelow);
@@ -66,6 +67,8 @@ FrmNovy::FrmNovy(QWidget* rodic) : QDialog(rodic)
     tlacitka->addWidget(zpet);
     auto* volba = new QVBoxLayout(m_fraVolbaNP);
     volba->addLayout(formular);
+    m_tblSrovnani = new TabulkaSrovnani(m_fraVolbaNP);
+    volba->addWidget(m_tblSrovnani);
     volba->addLayout(tlacitka);
     m_ramce->addWidget(m_fraVolbaNP);
 
@@ -113,12 +116,16 @@ void FrmNovy::ukaz(QWidget* ramec, const QString& titulek, int navic)
     resize(ramec->sizeHint().width() + 20, ramec->sizeHint().height() + navic);
 }
 
-bool FrmNovy::zvolNP(const std::vector<FormatNP>& formaty, const std::vector<int>& pocetDesek, VolbaNP& volba)
+bool FrmNovy::zvolNP(const std::vector<FormatNP>& formaty, const std::vector<int>& pocetDesek, VolbaNP& volba,
+                     TabulkaSrovnani::Vypocet srovnej)
 {
+    m_tblSrovnani->vypocet(std::move(srovnej));
     m_cmbMaterialNP->clear();
     for (const FormatNP& f : formaty)
         m_cmbMaterialNP->addItem(f.text);
-    auto zmenaFormatu = [this, &pocetDesek](int i) {
+    auto zmenaFormatu = [this, &pocetDesek, &formaty](int i) {
+        if (i >= 0 && i < int(formaty.size()))
+            m_tblSrovnani->spocitej(formaty[i].ID);
         const int max = i >= 0 && i < int(pocetDesek.size()) ? pocetDesek[i] : 0;
         m_slVolba->setMaximum(max);
         m_slVolba->setValue(0);
@@ -130,6 +137,7 @@ bool FrmNovy::zvolNP(const std::vector<FormatNP>& formaty, const std::vector<int
     m_cmbZpusobRezani->setCurrentIndex(0);
     ukaz(m_fraVolbaNP, QStringLiteral("Tvorba nářezového plánu"), 20);
     const bool ok = exec() == QDialog::Accepted;
+    m_tblSrovnani->zastav();
     disconnect(spojeni);
     if (!ok)
         return false;
@@ -137,7 +145,8 @@ bool FrmNovy::zvolNP(const std::vector<FormatNP>& formaty, const std::vector<int
     const int i = m_cmbMaterialNP->findText(m_cmbMaterialNP->currentText());
     volba.IDFormatuNP = formaty.at(i).ID;
     volba.VolbaNPDeska = m_slVolba->value();
-    static const ZpusobNP zpusoby[] = {ZpusobNP::Kombinovane, ZpusobNP::PodelneRezy, ZpusobNP::PricneRezy};
+    static const ZpusobNP zpusoby[] = {ZpusobNP::Kombinovane, ZpusobNP::PodelneRezy, ZpusobNP::PricneRezy,
+                                       ZpusobNP::Usporne};
     volba.zpusob = zpusoby[m_cmbZpusobRezani->currentIndex()];
     return true;
 }
@@ -146,7 +155,8 @@ void FrmNovy::optimalizuj(ZpusobNP zpusob, const std::function<void()>& beh)
 {
     static const char* const titulky[] = {"Optimalizace nářezového plánu - podélné řezy",
                                           "Optimalizace nářezového plánu - příčné řezy",
-                                          "Optimalizace nářezového plánu - kombinovaně"};
+                                          "Optimalizace nářezového plánu - kombinovaně",
+                                          "Optimalizace nářezového plánu - úsporně"};
     m_storno = false;
     m_lblNP->setText(QStringLiteral("Vytváření soupisu tabulí..."));
     m_progressBar1->setVisible(false);

@@ -6,6 +6,7 @@
 #include "catalogues/Sklad.h"
 #include "core/Prompt.h"
 #include "optimiser/PlanRun.h"
+#include "ui/TabulkaSrovnani.h"
 #include "orders/Desky.h"
 #include "orders/Materialy.h"
 #include "orders/Prislusenstvi.h"
@@ -65,7 +66,9 @@ public:
         ZpusobNP zpusob = ZpusobNP::Kombinovane;
         int VolbaNPDeska = 0;
     };
-    bool zvolNP(const std::vector<FormatNP>& formaty, const std::vector<int>& pocetDesek, VolbaNP& volba);
+    // srovnej, when given, makes each way's plan of the chosen format for tblSrovnani.
+    bool zvolNP(const std::vector<FormatNP>& formaty, const std::vector<int>& pocetDesek, VolbaNP& volba,
+                TabulkaSrovnani::Vypocet srovnej = {});
 
     // fraOptimalizace: shows the progress frame and, from a single-shot timer inside the modal
     // dialog, runs beh; the dialog closes when beh returns or Storno is pressed.
@@ -128,6 +131,7 @@ private:
     QComboBox* m_cmbMaterialNP;
     QComboBox* m_cmbZpusobRezani;
     QSlider* m_slVolba;
+    TabulkaSrovnani* m_tblSrovnani;
     QWidget* m_fraOptimalizace;
     QLabel* m_lblNP;
     QProgressBar* m_progressBar1;

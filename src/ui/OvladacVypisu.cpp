@@ -47,8 +47,13 @@ void OvladacVypisu::ZahajNP()
         pocty.push_back(StartNP::pocetVariant(m_uloziste.dataS(), zakazka, f.ID));
     FrmNovy dialog(m_okno);
     FrmNovy::VolbaNP volba;
-    if (!dialog.zvolNP(formaty, pocty, volba))
+    const bool zvoleno = dialog.zvolNP(formaty, pocty, volba, [&](double idFormatu, ZpusobNP zpusob, Prubeh& prubeh) {
+        return srovnejZpusob(m_uloziste, prubeh, zakazka, idFormatu, zpusob);
+    });
+    if (!zvoleno) {
+        m_uloziste.zavriDataK(); // the comparison's plans
         return;
+    }
     PlanRun run(m_uloziste, m_prompt, dialog);
     bool hotovo = false;
     std::optional<Error> chyba;

@@ -6,6 +6,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QDir>
+#include <QFileInfo>
 #include "SpusteniCli.h"
 #include <QProcess>
 #include <cmath>
@@ -475,4 +476,30 @@ TEST_F(CliTest, MoznostiJakoPouzitAJazykoveSoubory)
     EXPECT_EQ(spust({"language-check", soubor("kratky.txt", "&Zakázka\n")}).kod, 3);
     EXPECT_EQ(spust({"language-check", m_dir.filePath("neni.txt")}).err.trimmed(),
               QStringLiteral("Soubor jazykové verze neexistuje!!!"));
+}
+
+// "Úsporně" from the command line: --cas in place of the setting, and the plan's pages, labels,
+// saw file and write-back made as for the other ways; a budget that is no number is refused.
+TEST_F(CliTest, PlanUsporneSVystupy)
+{
+    ASSERT_EQ(spust({"init"}).kod, 0);
+    ASSERT_EQ(spust({"order-load", demo()}).kod, 0);
+    const QString pdf = m_dir.filePath(QStringLiteral("úsporně.pdf"));
+    const QString stitky = m_dir.filePath(QStringLiteral("štítky.pdf"));
+    const QString vpf = m_dir.filePath(QStringLiteral("OUT00000.VPF"));
+    const Vysledek v = spust({"plan", "Kuchyně Novák", "--format", "5000001", "--mode", "usporne", "--cas", "0.2", "--dump",
+                              "--pdf", pdf, "--labels-pdf", stitky, "--vpf", vpf, "--write-back"});
+    ASSERT_EQ(v.kod, 0) << v.err.toStdString();
+    const QJsonObject o = QJsonDocument::fromJson(v.out.toUtf8()).object();
+    int usazeno = 0;
+    for (const QJsonValue& d : o[QStringLiteral("SoupisDesek")].toArray())
+        usazeno += d[QStringLiteral("ID")].toInt() != 0;
+    EXPECT_EQ(usazeno, 40);
+    EXPECT_FALSE(o["warning"].toBool());
+    EXPECT_EQ(o["RezyNaTabuli"].toObject().size(), o["SoupisTabuli"].toArray().size());
+    for (const QString& soubor : {pdf, stitky, vpf})
+        EXPECT_GT(QFileInfo(soubor).size(), 0) << soubor.toStdString();
+    EXPECT_FALSE(QJsonDocument::fromJson(spust({"offcuts-list"}).out.toUtf8()).array().isEmpty()); // its remnants booked
+    EXPECT_EQ(spust({"plan", "Kuchyně Novák", "--format", "5000001", "--mode", "usporne", "--cas", "dlouho"}).kod, 2);
+    EXPECT_EQ(spust({"plan", "Kuchyně Novák", "--format", "5000001", "--mode", "usporne", "--cas", "-1"}).kod, 3);
 }
