@@ -6,6 +6,7 @@
 #include "core/Error.h"
 #include "core/Recordset.h"
 #include "core/Uloziste.h"
+#include "core/ZpravaChyby.h"
 #include "optimiser/OdepisOdrezky.h"
 #include "optimiser/PlanRun.h"
 #include "optimiser/VypisNP.h"
@@ -51,10 +52,7 @@ int pocetVariant(Database& dataS, const QString& zakazka, double idFormatu)
 // The messages of a failed remaking of the plan database.
 Error chybaPracovniDatabaze(const Error& e)
 {
-    if (e.cislo() == Chyba::PristupKSouboru)
-        return Error(e.cislo(), QStringLiteral("Porucha databáze - restartujte PC!"));
-    return Error(e.cislo(), QStringLiteral("Databáze programu je používána jiným programem!\r"
-                                           "Ukončete toto používání!!!"));
+    return Error(e.cislo(), ZpravaChyby::pracovniDatabaze(e), e.podrobnosti());
 }
 
 // The plan pages in the layout of VykresleniTabule, and the labels, each written whole.

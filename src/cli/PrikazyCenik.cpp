@@ -4,6 +4,7 @@
 
 #include "catalogues/Cenik.h"
 #include "catalogues/Knihovna.h"
+#include "core/CilZapisu.h"
 #include "core/Error.h"
 #include "core/Uloziste.h"
 #include "orders/Prislusenstvi.h"
@@ -53,6 +54,7 @@ QString jakoText(const QJsonValue& v)
 
 void zapis(const QString& cesta, const QByteArray& bajty)
 {
+    CilZapisu::zkontroluj(cesta);
     QSaveFile f(cesta);
     if (!f.open(QIODevice::WriteOnly) || f.write(bajty) != bajty.size() || !f.commit())
         throw Error(Chyba::PristupKSouboru, QStringLiteral("Soubor %1 nelze zapsat: %2").arg(cesta, f.errorString()));
@@ -194,6 +196,7 @@ int prikazPictureRender(const QStringList& argumenty)
     if (velikost.isValid())
         obr = Obrazky::vepsany(obr, velikost);
     const QByteArray format = a[1].endsWith(QLatin1String(".ppm"), Qt::CaseInsensitive) ? "ppm" : "png";
+    CilZapisu::zkontroluj(a[1]);
     QSaveFile f(a[1]);
     if (!f.open(QIODevice::WriteOnly) || !QImageWriter(&f, format).write(obr) || !f.commit())
         throw Error(Chyba::PristupKSouboru, QStringLiteral("Soubor %1 nelze zapsat.").arg(a[1]));

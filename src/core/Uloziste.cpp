@@ -5,12 +5,18 @@
 #include "core/Schema.h"
 #include "core/SqliteChyba.h"
 
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
+#include <QThread>
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <unistd.h>
+
+namespace {
+const QString Pouzivana = QStringLiteral("Databáze programu je používána jiným programem!");
+}
 
 Uloziste::Uloziste(bool zalozit)
 {
@@ -24,14 +30,28 @@ Uloziste::Uloziste(bool zalozit)
     if (m_zamek < 0)
         throw Error(SqliteChyba::cisloProErrno(errno),
                     QStringLiteral("Soubor %1 nelze otevřít.").arg(Aplikace::zamek()));
-    if (::flock(m_zamek, LOCK_SH | LOCK_NB) != 0) {
+    if (::flock(m_zamek, LOCK_EX | LOCK_NB) == 0) {
+        Aplikace::uklid(); // nobody else holds the store: what is left in Data/ is nobody's
+        ::flock(m_zamek, LOCK_SH);
+    } else if (!zamkni(LOCK_SH)) {
         ::close(m_zamek);
         m_zamek = -1;
-        throw Error(Chyba::DatabazePouzivana,
-                    QStringLiteral("Databáze programu je používána jiným programem!"));
+        throw Error(Chyba::DatabazePouzivana, Pouzivana);
     }
-    Aplikace::uklid();
     otevriData();
+}
+
+bool Uloziste::zamkni(int druh)
+{
+    QDeadlineTimer konec(Database::CekaniMs);
+    while (::flock(m_zamek, druh | LOCK_NB) != 0) {
+        if (errno != EWOULDBLOCK && errno != EINTR)
+            return false;
+        if (konec.hasExpired())
+            return false;
+        QThread::msleep(20);
+    }
+    return true;
 }
 
 Uloziste::~Uloziste()
@@ -89,8 +109,10 @@ void Uloziste::otevriData()
 
 Uloziste::Vyhradne::Vyhradne(Uloziste& u) : m_u(u)
 {
-    if (::flock(m_u.m_zamek, LOCK_EX | LOCK_NB) != 0)
-        throw Error(Chyba::DatabazePouzivana, QStringLiteral("Databáze programu je používána jiným programem!"));
+    if (!m_u.zamkni(LOCK_EX)) {
+        ::flock(m_u.m_zamek, LOCK_SH); // a refused change of a lock gives up the old one
+        throw Error(Chyba::DatabazePouzivana, Pouzivana);
+    }
 }
 
 Uloziste::Vyhradne::~Vyhradne()

@@ -4,6 +4,7 @@
 #include "core/Dotaz.h"
 #include "core/Error.h"
 #include "core/Jednotky.h"
+#include "core/KontrolaTextu.h"
 #include "core/Razitko.h"
 #include "core/Recordset.h"
 #include "core/Transakce.h"
@@ -62,6 +63,8 @@ std::variant<std::vector<Radek>, Odmitnuti> rozeber(const QString& text)
         while (pole.size() < 8)
             pole << QString();
         Radek r{i + 1, pole[0], 0, 0, 0, {pole[4], pole[5], pole[6], pole[7]}};
+        if (const QString spatny = KontrolaTextu::chyba(r.nazev, QStringLiteral("Název desky")); !spatny.isEmpty())
+            return Odmitnuti{chyba.zprava + QStringLiteral(": ") + spatny, i + 1};
         // sizes in the user's unit, to millimetres
         const auto x = cislo(pole[1]), y = cislo(pole[2]), pocet = cislo(pole[3]);
         if (!x || !y || !pocet)

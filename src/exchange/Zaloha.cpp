@@ -1,6 +1,7 @@
 #include "exchange/Zaloha.h"
 
 #include "core/Aplikace.h"
+#include "core/CilZapisu.h"
 #include "core/Database.h"
 #include "core/Error.h"
 #include "core/Prikaz.h"
@@ -115,6 +116,7 @@ QString slozka()
 
 void zalohuj(Uloziste& u, Schema::Soubor druh, const QString& cil)
 {
+    CilZapisu::zkontroluj(cil);
     if (druh == Schema::Soubor::Data)
         Soubory::odstran(Aplikace::cesta(QStringLiteral("Data/DataZ1.db")));
     zkopirujDatabazi(databaze(u, druh), druh, QFileInfo(cil).absoluteFilePath());
@@ -134,6 +136,10 @@ bool obnov(Uloziste& u, Schema::Soubor druh, const QString& zdroj, Prompt& promp
             return false;
         }
         Uloziste::Vyhradne sam(u);
+        // Another program's write transaction must end before the file is replaced, or its
+        // commit would go into the replaced file: SQLite's own lock, held until the swap.
+        Database zamek(zivy(druh));
+        zamek.executeSqlite(QStringLiteral("BEGIN IMMEDIATE"));
         zkopirujDatabazi(databaze(u, druh), druh, bezpecnostniKopie(druh));
         u.zavriData();
         try {
@@ -168,6 +174,8 @@ Zprava zpravaZalohy(const Error& e)
     switch (e.cislo()) {
     case Chyba::Zruseno:
         return {};
+    case Chyba::NeplatnyVstup:
+        return {e.text(), QStringLiteral("Chyba zápisu")};
     case Chyba::DiskPlny:
         return {QStringLiteral("Na disku není dostatek místa!!!"), QStringLiteral("Chyba zápisu")};
     case Chyba::JenProCteni:
@@ -185,6 +193,8 @@ Zprava zpravaObnovy(const Error& e, Schema::Soubor druh)
     switch (e.cislo()) {
     case Chyba::Zruseno:
         return {};
+    case Chyba::NeplatnyVstup:
+        return {e.text(), QStringLiteral("Chybný soubor")};
     case Chyba::TabulkaChybi:
         return {druh == Schema::Soubor::Data ? QStringLiteral(" Vybraný soubor neobsahuje platná data ")
                                              : QStringLiteral(" Vybraný soubor neobsahuje platná data pro tento program"),

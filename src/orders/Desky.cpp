@@ -2,6 +2,7 @@
 
 #include "core/Database.h"
 #include "core/Dotaz.h"
+#include "core/KontrolaTextu.h"
 #include "orders/RadkySestavy.h"
 #include "core/Jednotky.h"
 #include "core/Prompt.h"
@@ -100,6 +101,8 @@ Deska nacti(Database& db, const QString& zakazka, const QString& sestava, const 
 
 QString UlozitNovyPM(Database& db, Prompt& p, const QString& zakazka, const QString& sestava, const Deska& d)
 {
+    if (!KontrolaTextu::prijmi(p, {{d.oznaceni, QStringLiteral("Označení desky")}}))
+        return QString();
     Transakce t(db);
     const QString nazev = nazevNoveDesky(db, zakazka, sestava, d.oznaceni);
     if (duplicita(db, p, zakazka, sestava, nazev))
@@ -127,6 +130,8 @@ QString UlozitNovyPM(Database& db, Prompt& p, const QString& zakazka, const QStr
 QString UlozitUpravuPM(Database& db, Prompt& p, const QString& zakazka, const QString& sestava,
                        const QString& staryNazev, const Deska& d)
 {
+    if (!KontrolaTextu::prijmi(p, {{d.oznaceni, QStringLiteral("Označení desky")}}))
+        return QString();
     Transakce t(db);
     const QString nazev = nazevNoveDesky(db, zakazka, sestava, d.oznaceni);
     if (nazev != staryNazev && duplicita(db, p, zakazka, sestava, nazev))

@@ -2,6 +2,7 @@
 
 #include "core/Database.h"
 #include "core/Dotaz.h"
+#include "core/KontrolaTextu.h"
 #include "orders/RadkySestavy.h"
 #include "core/Error.h"
 #include "core/Jednotky.h"
@@ -48,6 +49,9 @@ std::optional<Polozka> platne(Prompt& p, const Zadani& z)
         odmitni(p, QStringLiteral("Název nového příslušenstvi smí obsahovat maximálně 100 znaků!!!"), Prompt::Ikona::Kriticka);
         return std::nullopt;
     }
+    if (!KontrolaTextu::prijmi(p, {{z.oznaceni, QStringLiteral("Název příslušenství"), KontrolaTextu::NazevMaterialu},
+                                   {z.jednotka, QStringLiteral("Jednotka")}}))
+        return std::nullopt;
     if (z.oznaceni.trimmed().isEmpty()) {
         odmitni(p, QStringLiteral("Zadejte název příslušenství."));
         return std::nullopt;

@@ -2,6 +2,7 @@
 
 #include "core/Database.h"
 #include "core/Dotaz.h"
+#include "core/CilZapisu.h"
 #include "core/Error.h"
 #include "core/Jednotky.h"
 #include "core/Nastaveni.h"
@@ -148,6 +149,7 @@ bool zapis(Database& dataS, Database& dataK, const PlanNaStrankach& plan, const 
         return false;
     QStringEncoder cp1250("windows-1250");
     const QByteArray bajty = cp1250.isValid() ? QByteArray(cp1250(obsah)) : obsah.toLocal8Bit();
+    CilZapisu::zkontroluj(soubor);
     QSaveFile f(soubor);
     if (!f.open(QIODevice::WriteOnly) || f.write(bajty) != bajty.size() || !f.commit())
         throw Error(Chyba::PristupKSouboru, QString::fromUtf8(ChybaPrevodu) + QLatin1Char(' ') + f.errorString());

@@ -1,8 +1,10 @@
 #include "printing/Vykresleni.h"
 
+#include "core/CilZapisu.h"
 #include "core/Error.h"
 #include "core/Soubory.h"
 #include "core/SqliteChyba.h"
+#include "core/ZpravaChyby.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -69,7 +71,8 @@ struct Malir {
 [[noreturn]] void chybaSouboru(const QString& cesta)
 {
     const int e = errno ? errno : EIO;
-    throw Error(SqliteChyba::cisloProErrno(e), QStringLiteral("Nelze zapsat %1").arg(cesta));
+    const int cislo = SqliteChyba::cisloProErrno(e);
+    throw Error(cislo, ZpravaChyby::text(cislo, cesta, e), QStringLiteral("Nelze zapsat %1").arg(cesta));
 }
 
 } // namespace
@@ -115,6 +118,7 @@ void tisk(const Dokument& dokument, QPrinter& tiskarna)
 
 void pdf(const Dokument& dokument, const QString& cesta, const QString& titulek)
 {
+    CilZapisu::zkontroluj(cesta);
     const QString docasny = Soubory::docasny(cesta, QStringLiteral("pdf"));
     try {
         {

@@ -6,6 +6,7 @@
 #include "core/Razitko.h"
 #include "core/Recordset.h"
 #include "core/Uloziste.h"
+#include "core/ZpravaChyby.h"
 #include "costing/Kalkulace.h"
 #include "costing/Vypisy.h"
 #include "orders/Kopirovani.h"
@@ -536,10 +537,7 @@ void FrmBorovak::ZahajNP()
     });
     if (chyba) {
         m_uloziste.zavriDataK();
-        const bool porucha = chyba->cislo() == Chyba::PristupKSouboru;
-        m_prompt.zprava(porucha ? QStringLiteral("Porucha databáze - restartujte PC!")
-                                : QStringLiteral("Databáze programu je používána jiným programem!\rUkončete toto používání!!!"),
-                        QString(), Prompt::Ikona::Kriticka);
+        m_prompt.zprava(ZpravaChyby::pracovniDatabaze(*chyba), QString(), Prompt::Ikona::Kriticka);
         QApplication::exit(1);
         return;
     }

@@ -3,6 +3,7 @@
 #include "core/Aplikace.h"
 #include "core/Error.h"
 #include "core/Prompt.h"
+#include "core/Soubory.h"
 #include "exchange/Import.h"
 
 #include <QFile>
@@ -61,9 +62,7 @@ void FrmImport::otevriSoubor(const QString& soubor)
     QFile f(soubor);
     if (f.size() > Import::MaxVelikost)
         throw Error(Chyba::NeplatnyVstup, QStringLiteral("Soubor je větší než 10 MB, nelze ho načíst."));
-    if (!f.open(QIODevice::ReadOnly))
-        throw Error(Chyba::PristupKSouboru, QStringLiteral("Soubor %1 nelze přečíst.").arg(soubor));
-    m_text1->setPlainText(Import::dekoduj(f.readAll()));
+    m_text1->setPlainText(Import::dekoduj(Soubory::nacti(soubor, Import::MaxVelikost)));
 }
 
 bool FrmImport::importuj()
