@@ -15,6 +15,7 @@
 #include "exchange/Zaloha.h"
 #include "exchange/ZakazkaJson.h"
 #include "optimiser/PlanRun.h"
+#include "Plany.h"
 
 #include <QGuiApplication>
 #include <QDir>
@@ -39,13 +40,6 @@ void vypis(const QString& popis, const QString& hodnota, const QString& dodatek 
     std::fputs((popis.leftJustified(40) + QLatin1Char(' ') + hodnota.rightJustified(10) + dodatek + QLatin1Char('\n')).toUtf8().constData(),
                stdout);
     std::fflush(stdout);
-}
-
-void radekPlanu(const QString& zakazka, const QString& rezim, const QString& desek, const QString& tabuli, const QString& sekund)
-{
-    vypis(zakazka.leftJustified(10) + QLatin1Char(' ') + rezim.leftJustified(12) + QLatin1Char(' ') + desek.rightJustified(7) +
-              QLatin1Char(' ') + tabuli.rightJustified(7),
-          sekund);
 }
 
 void radek(const char* popis, double sekund, const QString& dodatek = {})
@@ -271,22 +265,17 @@ int main(int argc, char** argv)
     if (app.arguments().contains(QStringLiteral("jenzaloha")))
         return 0;
 
-    radekPlanu(QStringLiteral("zakázka"), QStringLiteral("režim"), QStringLiteral("desek"), QStringLiteral("tabulí"), QStringLiteral("sekund"));
-    BezOtazek prompt;
-    TichyPrubeh prubeh;
-    for (const QString& z : zakazky) {
-        if (!vyber.isEmpty() && !vyber.contains(z))
-            continue;
-        for (const auto& [nazev, zpusob] : zvolene) {
-            PlanRun run(u, prompt, prubeh);
-            QElapsedTimer cas;
-            cas.start();
-            run.SpustNP(z, 5000001, zpusob);
-            const double sekund = cas.nsecsElapsed() / 1e9;
-            const int desek = Recordset(u.dataK(), QStringLiteral("SoupisDesek")).recordCount();
-            const int tabuli = Recordset(u.dataK(), QStringLiteral("SoupisTabuli")).recordCount();
-            radekPlanu(z, QString::fromUtf8(nazev), QString::number(desek), QString::number(tabuli), QString::number(sekund, 'f', 3));
-        }
+    const bool sStarym = !vyber.removeAll(QStringLiteral("nove"));
+    if (vyber.removeAll(QStringLiteral("shoda"))) {
+        shodaBench(dir.filePath(QStringLiteral("shoda")), 3000);
+        return 0;
     }
+    std::vector<RezimBench> rezimyBench;
+    for (const auto& [nazev, zpusob] : zvolene)
+        rezimyBench.push_back({nazev, zpusob});
+    planyBench(u, zakazky, rezimyBench, vyber, sStarym);
+    if (vyber.isEmpty() || vyber.contains(QStringLiteral("mix2000")))
+        stornoBench(u, QStringLiteral("mix2000"));
+    maleZakazkyBench(dir.filePath(QStringLiteral("male")));
     return 0;
 }

@@ -1,5 +1,7 @@
 #include "core/Dotaz.h"
 
+#include <cmath>
+
 #include <QRegularExpression>
 
 namespace Dotaz {
@@ -9,6 +11,13 @@ QString cislo(double hodnota)
     if (hodnota == 0)
         return QStringLiteral("0"); // also -0, which "%.15g" would print with its sign
     return QString::asprintf("%.15g", hodnota);
+}
+
+double jakoVDotazu(double hodnota)
+{
+    if (hodnota == std::trunc(hodnota) && std::abs(hodnota) < 1e15)
+        return hodnota + 0.0; // whole numbers print exactly (and -0 as 0)
+    return cislo(hodnota).toDouble();
 }
 
 QString text(const QString& hodnota)

@@ -8,6 +8,9 @@ namespace Dotaz {
 
 // A number spliced into a query: 15 significant digits, as the old platform printed a double.
 QString cislo(double hodnota);
+// The number that a spliced hodnota stands for in the query: what cislo() prints, read back.
+// In-memory selections compare with it, so they decide exactly as the query text would.
+double jakoVDotazu(double hodnota);
 // Text spliced between single quotes: apostrophes doubled, so "Novák's" stays one literal.
 QString text(const QString& hodnota);
 

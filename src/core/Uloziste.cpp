@@ -83,7 +83,15 @@ void Uloziste::ObnovPracovniDatabazi()
         if (QFile::exists(soubor) && !QFile::remove(soubor))
             throw Error(Chyba::PristupKSouboru, QStringLiteral("Soubor %1 nelze odstranit.").arg(soubor));
     }
-    m_dataS->vacuumInto(Aplikace::dataK());
+    // The copy is thrown away after use: it is written without waiting for the disk.
+    m_dataS->executeSqlite(QStringLiteral("PRAGMA synchronous=OFF"));
+    try {
+        m_dataS->vacuumInto(Aplikace::dataK());
+    } catch (...) {
+        m_dataS->executeSqlite(QStringLiteral("PRAGMA synchronous=FULL"));
+        throw;
+    }
+    m_dataS->executeSqlite(QStringLiteral("PRAGMA synchronous=FULL"));
     m_dataK = std::make_unique<Database>(Aplikace::dataK(), Database::Rezim::Pracovni);
 }
 

@@ -1,8 +1,10 @@
 #pragma once
-// Every query of the real placement, each beside its mirror: [0] rows, [1] columns (the
-// trial keeps its copies in memory: Zkouska.cpp says which query each look-up stands for). A `{name}` is the current value of that name, spliced as a number.
-// The texts are design: their ORDER BY clauses are the tie-breaks, and where the mirror is not
-// exact (the cases a and b of the opening) the difference stands here as it must be kept.
+// Every query of the real placement, each beside its mirror: [0] rows, [1] columns. They are
+// the definition of the decisions: the placement takes each one in memory (Umisteni.cpp names
+// the query beside the look-up that stands for it), with the query's filter, its ORDER BY as the
+// tie-break, equal rows in the order they were added and spliced numbers as their text reads.
+// Where the mirror is not exact (the cases a and b of the opening) the difference stands here
+// as it must be kept. A `{name}` is the current value of that name.
 #include <array>
 
 namespace Dotazy {

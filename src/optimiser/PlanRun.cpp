@@ -2,15 +2,13 @@
 
 #include "core/Database.h"
 #include "core/Dotaz.h"
-#include "core/Error.h"
 #include "core/Nastaveni.h"
+#include "core/Recordset.h"
 #include "core/Uloziste.h"
-#include "core/Val.h"
 #include "optimiser/Umisteni.h"
 
-#include <QRegularExpression>
 #include <algorithm>
-#include <cmath>
+#include <numeric>
 
 namespace {
 
@@ -23,10 +21,17 @@ const QString SmyckaZbytku =
     QStringLiteral("Při slučování koncových zbytků se narazilo na zbytek nulové výšky (šířka řezu 0).\n"
                    "Slučování bylo v tom místě ukončeno; plán je dokončen, zkontrolujte jej.");
 constexpr int SkutecnychTabuli = 1000; // the fixed ceiling of full sheets in a run
+constexpr int MsMeziVydeji = 20;        // the event loop's turn: often enough for Storno, rare enough to cost nothing
 
 QString z(const QString& zakazka)
 {
     return Dotaz::text(zakazka);
+}
+
+QString formatDotaz(const QString& zakazka, double idFormatu)
+{
+    return QStringLiteral("SELECT * FROM ZakazkyMaterialy WHERE Zakazka = '") + z(zakazka) +
+           QStringLiteral("'and ID = ") + Dotaz::cislo(idFormatu);
 }
 
 } // namespace
@@ -64,161 +69,145 @@ bool PlanRun::SpustNP(const QString& zakazka, double idFormatu, ZpusobNP zpusob,
     m_zpusob = zpusob;
     m_volbaNP = volba != 0;
     m_volbaNPDeska = volba;
-    m_prerusit = false;
-    m_varovani = false;
-    m_smycka = false;
+    m_prerusit = m_varovani = m_smycka = false;
     m_slouceni = 0;
-    m_rezy.clear();
+    m_usazeno = 0;
     m_s = Stav{};
-    m_hodnotaPrubehu = 0;
+    m_t = PracovniTabulky{};
+    m_odVydeje.start();
 
-    m_uloziste.ObnovPracovniDatabazi();
-    m_dataK = &m_uloziste.dataK();
+    // DataS is read here as the old copy would have been: the copy is only the tables' carrier.
     SoupisTabuliNP();
-    if (vydej())
+    if (vydej(true))
         return false;
     SoupisDesekNP();
-    if (vydej())
+    if (vydej(true))
         return false;
-    if (Recordset(*m_dataK, QStringLiteral("SoupisDesek")).prazdny()) {
+    if (m_t.desky.empty()) {
         m_prompt.zprava(NeniCoNarezat, QString(), Prompt::Ikona::Kriticka);
         return false;
     }
     ridic();
     if (m_smycka)
         m_prompt.zprava(SmyckaZbytku, QStringLiteral("Upozornění"), Prompt::Ikona::Vykricnik);
-    if (vydej())
+    if (vydej(true))
         return false;
     PrecislujTabule();
-    return !m_prerusit;
+    m_uloziste.ObnovPracovniDatabazi();
+    m_t.zapis(m_uloziste.dataK());
+    return true;
 }
 
-bool PlanRun::vydej()
+bool PlanRun::vydej(bool hned)
 {
-    if (!m_prerusit && m_prubeh.prerusit())
-        m_prerusit = true;
+    if (!m_prerusit && (hned || m_odVydeje.elapsed() >= MsMeziVydeji)) {
+        m_prerusit = m_prubeh.prerusit();
+        m_odVydeje.restart();
+    }
     return m_prerusit;
 }
 
 void PlanRun::SoupisTabuliNP()
 {
-    {
-        Recordset rs(*m_dataK, QStringLiteral("SoupisTabuli"));
-        for (; !rs.eof(); rs.moveNext())
-            rs.remove();
-    }
-    Recordset format(m_uloziste.dataS(),
-                     QStringLiteral("SELECT * FROM ZakazkyMaterialy WHERE Zakazka = '") + z(m_zakazka) +
-                         QStringLiteral("'and ID = ") + Dotaz::cislo(m_idFormatu));
+    Database& dataS = m_uloziste.dataS();
+    const Recordset format(dataS, formatDotaz(m_zakazka, m_idFormatu));
     if (format.eof())
         return;
     m_formatOV = format.ano(QStringLiteral("OV"));
     const QString material = format.text(QStringLiteral("Material"));
 
-    Recordset tabule(*m_dataK, QStringLiteral("SoupisTabuli"));
-    auto pridej = [&](int ct, const QString& nazev, double x, double y) {
-        tabule.addNew();
-        if (ct)
-            tabule.set(QStringLiteral("CT"), ct);
-        tabule.set(QStringLiteral("Material"), nazev);
-        tabule.set(QStringLiteral("x"), x);
-        tabule.set(QStringLiteral("y"), y);
-        tabule.set(QStringLiteral("OTOC"), false);
-        tabule.update();
-    };
     int ct = 1;
     if (Nastaveni::cislo(QStringLiteral("Setting2"), QStringLiteral("POdrezky")) != 0) {
-        Recordset odrezky(*m_dataK, QStringLiteral("SELECT * FROM SkladOdrezku  WHERE Material = '") +
-                                        Dotaz::text(material) + QStringLiteral("' ORDER BY x,y"));
+        Recordset odrezky(dataS, QStringLiteral("SELECT * FROM SkladOdrezku  WHERE Material = '") +
+                                     Dotaz::text(material) + QStringLiteral("' ORDER BY x,y"));
         for (; !odrezky.eof(); odrezky.moveNext())
             for (int i = 1; i <= odrezky.cislo(QStringLiteral("Pocet")); ++i)
-                pridej(0, odrezky.text(QStringLiteral("Material")), odrezky.cislo(QStringLiteral("x")) * 10,
-                       odrezky.cislo(QStringLiteral("y")) * 10);
-        Recordset poradi(*m_dataK, QStringLiteral("SELECT * FROM SoupisTabuli  ORDER BY y,x"));
-        for (; !poradi.eof(); poradi.moveNext()) {
-            poradi.edit();
-            poradi.set(QStringLiteral("CT"), ct++);
-            poradi.update();
-        }
+                m_t.tabule.push_back({0, 0, odrezky.text(QStringLiteral("Material")), odrezky.cislo(QStringLiteral("x")) * 10,
+                                      odrezky.cislo(QStringLiteral("y")) * 10});
+        // "SELECT * FROM SoupisTabuli  ORDER BY y,x": the offcuts are used first, smallest y first
+        std::vector<int> poradi(m_t.tabule.size());
+        std::iota(poradi.begin(), poradi.end(), 0);
+        std::stable_sort(poradi.begin(), poradi.end(), [&](int a, int b) {
+            const TabuleNP &p = m_t.tabule[a], &q = m_t.tabule[b];
+            return p.y != q.y ? p.y < q.y : p.x < q.x;
+        });
+        for (int i : poradi)
+            m_t.tabule[i].CT = ct++;
     }
     for (int i = 0; i < SkutecnychTabuli; ++i)
-        pridej(ct++, material, format.cislo(QStringLiteral("RozmerX")) * 10,
-               format.cislo(QStringLiteral("RozmerY")) * 10);
+        m_t.tabule.push_back({ct++, 0, material, format.cislo(QStringLiteral("RozmerX")) * 10,
+                              format.cislo(QStringLiteral("RozmerY")) * 10});
 }
 
 void PlanRun::SoupisDesekNP()
 {
     m_prubeh.popisek(QStringLiteral("Vytváření soupisu desek..."));
-    Recordset soupis(*m_dataK, QStringLiteral("SoupisDesek"));
-    Recordset rady(*m_dataK, QStringLiteral("SELECT * FROM Zakazky WHERE Zakazka = '") + z(m_zakazka) +
-                                 QStringLiteral("' ORDER BY Sestava"));
+    Database& dataS = m_uloziste.dataS();
+    Recordset rady(dataS, QStringLiteral("SELECT * FROM Zakazky WHERE Zakazka = '") + z(m_zakazka) +
+                              QStringLiteral("' ORDER BY Sestava"));
     QString posledni;
     for (; !rady.eof(); rady.moveNext()) {
         const QString sestava = rady.text(QStringLiteral("Sestava"));
         if (sestava == posledni)
             continue;
         posledni = sestava;
-        Recordset desky(*m_dataK, QStringLiteral("SELECT * FROM Zakazky WHERE Zakazka = '") + z(m_zakazka) +
-                                      QStringLiteral("' and Sestava = '") + Dotaz::text(sestava) +
-                                      QStringLiteral("' and IDFormat = ") + Dotaz::cislo(m_idFormatu) +
-                                      QStringLiteral(" ORDER BY Oznaceni"));
-        const Recordset format(*m_dataK, QStringLiteral("SELECT * FROM ZakazkyMaterialy WHERE Zakazka = '") +
-                                             z(m_zakazka) + QStringLiteral("'and ID = ") +
-                                             Dotaz::cislo(m_idFormatu));
+        Recordset desky(dataS, QStringLiteral("SELECT * FROM Zakazky WHERE Zakazka = '") + z(m_zakazka) +
+                                   QStringLiteral("' and Sestava = '") + Dotaz::text(sestava) +
+                                   QStringLiteral("' and IDFormat = ") + Dotaz::cislo(m_idFormatu) +
+                                   QStringLiteral(" ORDER BY Oznaceni"));
+        const Recordset format(dataS, formatDotaz(m_zakazka, m_idFormatu), Recordset::Rozsah::Prvni);
         const bool formatOV = !format.eof() && format.ano(QStringLiteral("OV"));
         int cDesky = 1;
         for (; !desky.eof(); desky.moveNext()) {
+            DeskaNP d;
+            d.CDesky = cDesky++;
+            d.Oznaceni = desky.text(QStringLiteral("Oznaceni"));
+            d.Sestava = desky.text(QStringLiteral("Sestava"));
+            d.x = desky.cislo(QStringLiteral("x")) * 10;
+            d.y = desky.cislo(QStringLiteral("y")) * 10;
+            d.OV = formatOV && desky.ano(QStringLiteral("OV"));
+            d.IDHX1 = desky.value(QStringLiteral("IDHX1"));
+            d.IDHX2 = desky.value(QStringLiteral("IDHX2"));
+            d.IDHY1 = desky.value(QStringLiteral("IDHY1"));
+            d.IDHY2 = desky.value(QStringLiteral("IDHY2"));
             const double kopie = desky.cislo(QStringLiteral("pocetelementuVsestave")) * desky.cislo(QStringLiteral("Pocet"));
-            for (double i = 1; i <= kopie; ++i) {
-                soupis.addNew();
-                soupis.set(QStringLiteral("CDesky"), cDesky);
-                for (const char* pole : {"Oznaceni", "Sestava", "IDHX1", "IDHX2", "IDHY1", "IDHY2"})
-                    soupis.set(QLatin1String(pole), desky.value(QLatin1String(pole)));
-                soupis.set(QStringLiteral("x"), desky.cislo(QStringLiteral("x")) * 10);
-                soupis.set(QStringLiteral("y"), desky.cislo(QStringLiteral("y")) * 10);
-                soupis.set(QStringLiteral("OV"), formatOV && desky.ano(QStringLiteral("OV")));
-                soupis.update();
-            }
-            ++cDesky;
+            for (double i = 1; i <= kopie; ++i)
+                m_t.desky.push_back(d);
         }
     }
-    Recordset vse(*m_dataK, QStringLiteral("SELECT * FROM SoupisDesek "));
-    if (!vse.eof()) {
-        vse.moveLast();
-        m_krokPrubehu = std::floor(m_prubeh.maximum() / (vse.recordCount() + 2));
-    }
+    m_neusazene.resize(m_t.desky.size());
+    std::iota(m_neusazene.begin(), m_neusazene.end(), 0);
 }
 
 void PlanRun::ridic()
 {
     m_prubeh.zobraz();
     m_prubeh.popisek(QStringLiteral("Optimalizuji... - tabule č. 1"));
-    m_hodnotaPrubehu = 2 * m_krokPrubehu;
-    m_prubeh.hodnota(m_hodnotaPrubehu);
+    m_prubeh.hodnota(0);
     m_s.SrezNP = Nastaveni::cislo(QStringLiteral("Setting2"), QStringLiteral("Srez")) * 10;
     m_s.SamovaniNP = Nastaveni::cislo(QStringLiteral("Setting2"), QStringLiteral("Samovani")) * 10;
-    m_rsTabule.emplace(*m_dataK, QStringLiteral("SELECT * FROM SoupisTabuli WHERE ID = False  ORDER BY CT "));
+    // "SELECT * FROM SoupisTabuli WHERE ID = False  ORDER BY CT "
+    std::vector<int> tabule(m_t.tabule.size());
+    std::iota(tabule.begin(), tabule.end(), 0);
+    std::stable_sort(tabule.begin(), tabule.end(), [&](int a, int b) { return m_t.tabule[a].CT < m_t.tabule[b].CT; });
+    const bool zarovnat = Nastaveni::cislo(QStringLiteral("Setting2"), QStringLiteral("ZarovnaniFormatu")) == 1;
+    const double okraj = zarovnat ? m_s.SrezNP : 0;
     m_s.CisloTabule = 1;
     Umisteni umisteni(*this);
-    const QString zbyvaji = m_zpusob == ZpusobNP::PricneRezy
-                                ? QStringLiteral("SELECT * FROM SoupisDesek WHERE ID = False ORDER BY x desc , y desc;")
-                                : QStringLiteral("SELECT * FROM SoupisDesek WHERE ID = False ORDER BY y desc , x desc;");
-    for (;;) {
-        if (m_rsTabule->eof()) {
+    for (size_t dalsi = 0;; ++dalsi) {
+        if (dalsi == tabule.size()) {
             m_varovani = true;
             m_prompt.zprava(DeskyVetsiNezTabule, QStringLiteral("Upozornění"), Prompt::Ikona::Kriticka);
             break;
         }
-        if (vydej())
+        if (vydej(true))
             break;
-        const bool zarovnat = Nastaveni::cislo(QStringLiteral("Setting2"), QStringLiteral("ZarovnaniFormatu")) == 1;
-        const double okraj = zarovnat ? m_s.SrezNP : 0;
-        m_s.TabuleX = m_rsTabule->cislo(QStringLiteral("x")) - okraj;
-        m_s.TabuleY = m_rsTabule->cislo(QStringLiteral("y")) - okraj;
+        m_tabule = tabule[dalsi];
+        m_zbytkyTabule = int(m_t.zbytky.size());
+        m_s.TabuleX = m_t.tabule[m_tabule].x - okraj;
+        m_s.TabuleY = m_t.tabule[m_tabule].y - okraj;
         m_s.Pozice[0] = m_s.Pozice[1] = okraj;
-        m_rezy[m_s.CisloTabule] = 1;
-        for (auto& r : m_s.Rozmery)
-            r.assign(1001, 0);
+        m_t.RezyNaTabuli[m_s.CisloTabule] = 1;
         m_s.Zbyva[0] = m_s.TabuleX;
         m_s.Zbyva[1] = m_s.TabuleY;
         m_s.CisloRady = 1;
@@ -228,96 +217,60 @@ void PlanRun::ridic()
         umisteni.NP(m_zpusob);
         if (m_prerusit)
             break;
-        if (Recordset(*m_dataK, zbyvaji, Recordset::Rozsah::Prvni).prazdny())
+        // "SELECT * FROM SoupisDesek WHERE ID = False ORDER BY y desc , x desc;": only whether one is left
+        if (m_neusazene.empty())
             break;
         ++m_s.CisloTabule;
         m_prubeh.popisek(QStringLiteral("Optimalizuji... - tabule č. ") + QString::number(m_s.CisloTabule));
-        m_rsTabule->moveNext();
     }
-    m_rsTabule.reset();
 }
 
 void PlanRun::PrecislujTabule()
 {
-    {
-        Recordset nepouzite(*m_dataK, QStringLiteral("SELECT * FROM SoupisTabuli Where id=False ORDER BY CT"));
-        for (; !nepouzite.eof(); nepouzite.moveNext())
-            nepouzite.remove();
+    // "SELECT * FROM SoupisTabuli Where id=False ORDER BY CT": deleted; the used ones, in CT
+    // order, get NCT from 1, and their boards and remnants the new number.
+    std::vector<int> pouzite;
+    for (int i = 0; i < int(m_t.tabule.size()); ++i) {
+        m_t.tabule[i].smazany = !m_t.tabule[i].ID;
+        if (m_t.tabule[i].ID)
+            pouzite.push_back(i);
     }
-    Recordset tabule(*m_dataK, QStringLiteral("SELECT * FROM SoupisTabuli Where id=True ORDER BY CT"));
+    std::stable_sort(pouzite.begin(), pouzite.end(), [&](int a, int b) { return m_t.tabule[a].CT < m_t.tabule[b].CT; });
+    std::map<int, int> nove; // CT -> NCT
     int citac = 1;
-    for (; !tabule.eof(); tabule.moveNext(), ++citac) {
-        const QString ct = Dotaz::cislo(tabule.cislo(QStringLiteral("CT")));
-        tabule.edit();
-        tabule.set(QStringLiteral("NCT"), citac);
-        tabule.update();
-        Recordset desky(*m_dataK, QStringLiteral("SELECT * FROM SoupisDesek Where Tabule = ") + ct);
-        for (; !desky.eof(); desky.moveNext()) {
-            desky.edit();
-            desky.set(QStringLiteral("tabule"), citac);
-            desky.update();
-        }
-        Recordset zbytky(*m_dataK, QStringLiteral("SELECT * FROM SoupisZbytku Where CT = ") + ct);
-        for (; !zbytky.eof(); zbytky.moveNext()) {
-            zbytky.edit();
-            zbytky.set(QStringLiteral("CT"), citac);
-            zbytky.update();
-        }
+    for (int i : pouzite) {
+        m_t.tabule[i].NCT = citac;
+        nove[m_t.tabule[i].CT] = citac++;
     }
+    // Boards and remnants carry the running sheet number, which is the sheet's CT.
+    for (DeskaNP& d : m_t.desky)
+        if (auto it = nove.find(d.tabule); it != nove.end())
+            d.tabule = it->second;
+    for (ZbytekNP& zb : m_t.zbytky)
+        if (auto it = nove.find(zb.CT); it != nove.end())
+            zb.CT = it->second;
 }
 
-void PlanRun::oznacDesku(Recordset& rs, bool otoceno)
+void PlanRun::oznacDesku(int deska, bool otoceno)
 {
-    const int n = m_s.PoradiDesky;
-    for (auto& r : m_s.Rozmery)
-        if (int(r.size()) <= n)
-            r.resize(n + 1, 0);
-    const double x = rs.cislo(QStringLiteral("x"));
-    const double y = rs.cislo(QStringLiteral("y"));
-    m_s.Rozmery[0][n] = otoceno ? y : x;
-    m_s.Rozmery[1][n] = otoceno ? x : y;
-    rs.edit();
-    rs.set(QStringLiteral("ID"), true);
-    rs.set(QStringLiteral("XD"), m_s.Pozice[0]);
-    rs.set(QStringLiteral("YD"), m_s.Pozice[1]);
-    rs.set(QStringLiteral("tabule"), m_s.CisloTabule);
+    DeskaNP& d = m_t.desky[deska];
+    m_s.Rozmery[0] = otoceno ? d.y : d.x;
+    m_s.Rozmery[1] = otoceno ? d.x : d.y;
+    d.ID = true;
+    d.XD = m_s.Pozice[0];
+    d.YD = m_s.Pozice[1];
+    d.tabule = m_s.CisloTabule;
     if (otoceno)
-        rs.set(QStringLiteral("OTOC"), true);
-    rs.update();
-    m_rsTabule->edit();
-    m_rsTabule->set(QStringLiteral("ID"), true);
-    m_rsTabule->update();
-    m_hodnotaPrubehu = std::min(m_hodnotaPrubehu + m_krokPrubehu, m_prubeh.maximum());
-    m_prubeh.hodnota(m_hodnotaPrubehu);
-    m_prubeh.popisek(QStringLiteral("Optimalizuji... - tabule č. ") + QString::number(m_s.CisloTabule) +
-                     QStringLiteral(" deska č. ") + QString::number(n));
+        d.OTOC = true;
+    m_neusazene.erase(std::lower_bound(m_neusazene.begin(), m_neusazene.end(), deska));
+    m_t.tabule[m_tabule].ID = true;
+    krokPrubehu();
 }
 
-QString PlanRun::dosad(const char* text, std::initializer_list<std::pair<const char*, double>> dalsi) const
+void PlanRun::krokPrubehu()
 {
-    static const QRegularExpression jmeno(QStringLiteral("\\{(\\w+)\\}"));
-    QString sql = QString::fromUtf8(text);
-    QString vysledek;
-    qsizetype od = 0;
-    for (auto it = jmeno.globalMatch(sql); it.hasNext();) {
-        const auto m = it.next();
-        vysledek += QStringView(sql).mid(od, m.capturedStart() - od);
-        const QString n = m.captured(1);
-        double v = 0;
-        const auto dana = std::find_if(dalsi.begin(), dalsi.end(),
-                                       [&](const auto& p) { return n == QLatin1String(p.first); });
-        if (dana != dalsi.end()) v = dana->second;
-        else if (n == QLatin1String("ZbyvaX")) v = m_s.Zbyva[0];
-        else if (n == QLatin1String("ZbyvaY")) v = m_s.Zbyva[1];
-        else if (n == QLatin1String("ZbyvaXKZ")) v = m_s.ZbyvaKZ[0];
-        else if (n == QLatin1String("ZbyvaYKZ")) v = m_s.ZbyvaKZ[1];
-        else if (n == QLatin1String("CisloTabule")) v = m_s.CisloTabule;
-        else if (n == QLatin1String("CisloRady")) v = m_s.CisloRady;
-        else
-            throw Error(Chyba::ChybaDotazu, QStringLiteral("Neznámá hodnota v dotazu: ") + n);
-        vysledek += Dotaz::cislo(v);
-        od = m.capturedEnd();
-    }
-    vysledek += QStringView(sql).mid(od);
-    return vysledek;
+    ++m_usazeno;
+    m_prubeh.hodnota(m_prubeh.maximum() * m_usazeno / double(m_t.desky.size()));
+    m_prubeh.popisek(QStringLiteral("Optimalizuji... - tabule č. ") + QString::number(m_s.CisloTabule) +
+                     QStringLiteral(" deska č. ") + QString::number(m_s.PoradiDesky));
 }

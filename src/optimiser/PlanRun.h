@@ -1,16 +1,16 @@
 #pragma once
 // One plan run: the boards of one order that are cut from one format, laid out on sheets in one
 // of three modes. Holds every value that the run shares between its routines (the old program
-// kept them process-wide), works on the plan database DataK through the store, and reports
-// progress and asks "stop?" through Prubeh. What a finished run leaves in DataK: SoupisTabuli
-// with the used sheets numbered by NCT, SoupisDesek with the placed boards, SoupisZbytku.
+// kept them process-wide) and the working tables of the run, in memory: every decision is taken
+// there, in exactly the order its query text defines (Dotazy.h). The finished tables go to the
+// plan database DataK once, at the end: SoupisTabuli with the used sheets numbered by NCT,
+// SoupisDesek with the placed boards, SoupisZbytku. Progress and "stop?" go through Prubeh.
 #include "core/Prompt.h"
-#include "core/Recordset.h"
+#include "optimiser/PracovniTabulky.h"
 
+#include <QElapsedTimer>
 #include <QString>
-#include <initializer_list>
 #include <map>
-#include <optional>
 #include <vector>
 
 class Uloziste;
@@ -33,14 +33,16 @@ public:
     // DataS. Empty when there is nothing to cut.
     static std::vector<FormatNP> formatySDeskami(Database& dataS, const QString& zakazka);
 
-    // The run itself (SpustNP without its windows): remakes DataK, fills the sheet and board
-    // lists, lays out by the mode, renumbers the sheets. Returns false when stopped. Shows
-    // "V zakázce není co nařezat!!!!!" and returns false when the format has no boards.
-    // Throws Error from the store (75, 3356, 3799 when DataK cannot be made).
+    // The run itself (SpustNP without its windows): reads the order, fills the sheet and board
+    // lists, lays out by the mode, renumbers the sheets and writes the working tables to DataK.
+    // Returns false when stopped (DataK then keeps what it held). Shows "V zakázce není co
+    // nařezat!!!!!" and returns false when the format has no boards.
+    // Throws Error from the store (75, 3356, 3799 when DataK cannot be made or written).
     bool SpustNP(const QString& zakazka, double idFormatu, ZpusobNP zpusob, int volba = 0);
 
     // After a run.
-    const std::map<int, int>& RezyNaTabuli() const { return m_rezy; }
+    const PracovniTabulky& tabulky() const { return m_t; }
+    const std::map<int, int>& RezyNaTabuli() const { return m_t.RezyNaTabuli; }
     bool varovani() const { return m_varovani || m_smycka; } // sheets ran out, or a walk was cut
     bool smycka() const { return m_smycka; } // a stack walk of end remnants met itself (kerf 0)
     int slouceni() const { return m_slouceni; } // stacks of end remnants merged into a strip
@@ -59,16 +61,15 @@ private:
     void SoupisDesekNP();
     void ridic();              // the driver of the mode: one placement per sheet
     void PrecislujTabule();
-    bool vydej();              // a turn for the event loop; true when the run is to stop
-    void oznacDesku(Recordset& rs, bool otoceno); // marks a placed board and its sheet
-    // The query with each `{name}` replaced by the value given in dalsi, or by the state's value
-    // of that name (ZbyvaX, ZbyvaY, ZbyvaXKZ, ZbyvaYKZ, CisloTabule, CisloRady).
-    QString dosad(const char* text, std::initializer_list<std::pair<const char*, double>> dalsi = {}) const;
+    // A turn for the event loop; true when the run is to stop. Inside the trial's loops the turn
+    // comes at most every few milliseconds (hned false), at the steps of the run always.
+    bool vydej(bool hned = false);
+    void oznacDesku(int deska, bool otoceno); // marks a placed board and its sheet
+    void krokPrubehu();
 
     Uloziste& m_uloziste;
     Prompt& m_prompt;
     Prubeh& m_prubeh;
-    Database* m_dataK = nullptr;
 
     QString m_zakazka;
     double m_idFormatu = 0;
@@ -80,8 +81,7 @@ private:
     bool m_varovani = false;
     bool m_smycka = false;
     int m_slouceni = 0;
-    double m_krokPrubehu = 0;
-    double m_hodnotaPrubehu = 0;
+    QElapsedTimer m_odVydeje;
 
 public:
     // The working values of the placement and of the trial, shared by their routines. Axis 0
@@ -96,21 +96,22 @@ public:
         double ZbytekPozice[2] = {0, 0};
         int CisloTabule = 0, CisloRady = 0, PoradiDesky = 0;
         bool NovaRada = false, VZbytkuRady = false;
-        std::vector<double> Rozmery[2];
+        double Rozmery[2] = {0, 0}; // extents of the board placed last
         // the trial's counterparts
         double ZbyvaKZ[2] = {0, 0};
         double PoziceKZ[2] = {0, 0};
         double ZbytekKZ[2] = {0, 0};
         double ZbytekPoziceKZ[2] = {0, 0};
-        int PoradiDeskyKZ = 0;
         int RadaRozpracovanaKZ = 0;
         bool VZbytkuRadyKZ = false;
         double PosledniX = 0, PosledniY = 0;
-        std::vector<double> RozmeryKZ[2];
     };
 
 private:
     Stav m_s;
-    std::map<int, int> m_rezy;
-    std::optional<Recordset> m_rsTabule;
+    PracovniTabulky m_t;
+    std::vector<int> m_neusazene;  // unplaced rows of SoupisDesek, in rowid order
+    int m_tabule = -1;             // the row of SoupisTabuli being filled
+    int m_zbytkyTabule = 0;        // the first row of SoupisZbytku the current sheet wrote
+    int m_usazeno = 0;
 };

@@ -4,9 +4,11 @@
 // strip runs along the sheet's X and its boards step down in Y; direction 1 is its mirror
 // across the diagonal. The remnant writers (UlozZT, SmazZT, UlozZR, UlozKZ, ZmenZRnaKZ) serve
 // both directions, and the combined mode calls them as it calls the pure ones.
+//
+// Every look-up works on the run's tables in memory and names the query of Dotazy.h it stands
+// for: its filter, its ORDER BY, equal rows in the order they were added, numbers compared as
+// the query text would carry them (15 significant digits).
 #include "optimiser/PlanRun.h"
-
-#include <optional>
 
 class Umisteni {
 public:
@@ -27,19 +29,28 @@ private:
     };
     enum class Druh { Presne, Napric, Podel, Schod };
 
-    std::optional<Recordset> prvni(const QString& sql);
-    void poloz(Volani& v, Druh druh, int smer, Recordset& rs, bool otoceno);
-    bool otevri(Volani& v, int smer, std::optional<Recordset>& kand, std::optional<Recordset>& otoc);
-    bool rozhodniKomb(Volani& v, std::optional<Recordset>& kand, std::optional<Recordset>& otoc);
+    // Look-ups over SoupisDesek: the index of the board, or -1.
+    int najdiDesku(int smer, int krok) const;          // Dotazy::Kroky[krok][smer]
+    int najdiSchod(int smer, bool otoceno) const;      // Dotazy::Schod, Dotazy::SchodOtoc
+    template <typename Pasuje, typename Pred>
+    int prvni(Pasuje pasuje, Pred pred) const;
+
+    void poloz(Volani& v, Druh druh, int smer, int deska, bool otoceno);
+    bool otevri(Volani& v, int smer, int& kand, int& otoc);
+    bool rozhodniKomb(Volani& v, int& kand, int& otoc);
     void konecRady(Volani& v);
+
+    // Look-ups over SoupisZbytku of the current sheet: the index of the row, or -1.
+    int zbytekZT(bool jenCekajici) const;                   // Dotazy::ZT, Dotazy::ZTCekajici
+    int nejnovejsi(DruhZbytku druh, bool jenCekajici) const; // Dotazy::ZR, KZ, ZRCekajici
 
     void UlozZT();
     void SmazZT();
     void UlozZR(int smer);
     void UlozKZ();
     void ZmenZRnaKZ();
-    void zapisKZ(Recordset& rs, const std::optional<Recordset>& posledniKZ);
-    void nactiObdelnik(Recordset& rs); // the current rectangle from a remnant, marked taken
+    void zapisKZ(ZbytekNP& z, int posledniKZ);
+    void nactiObdelnik(int zbytek); // the current rectangle from a remnant, marked taken
     void DalsiZbytekRady(ZpusobNP zpusob);
     void DalsiRada(ZpusobNP zpusob);
     void DalsiZbytekRadyKomb();
@@ -47,4 +58,18 @@ private:
 
     PlanRun& r;
     PlanRun::Stav& s;
+    std::vector<DeskaNP>& desky;
+    std::vector<ZbytekNP>& zbytky;
 };
+
+// The first unplaced board (rowid order) that pasuje() accepts, of those pred() puts first:
+// the ORDER BY of a query with rowid as its last key.
+template <typename Pasuje, typename Pred>
+inline int Umisteni::prvni(Pasuje pasuje, Pred pred) const
+{
+    int nejlepsi = -1;
+    for (int i : r.m_neusazene)
+        if (pasuje(desky[i]) && (nejlepsi < 0 || pred(desky[i], desky[nejlepsi])))
+            nejlepsi = i;
+    return nejlepsi;
+}

@@ -1,10 +1,8 @@
 #include "optimiser/Zkouska.h"
 
-#include "core/Database.h"
 #include "core/Dotaz.h"
 
 #include <algorithm>
-#include <cmath>
 
 // The queries the look-ups stand for, row form (the column form exchanges x and y, ZbyvaXKZ
 // and ZbyvaYKZ, XDP and YDP):
@@ -22,18 +20,6 @@
 // Where the column mirror is not exact the result is the same (step 5 sorts by "y DESC" alone
 // with x fixed; the remnants are emptied in one statement), except the turned closing test,
 // whose real board is "y = {y} and y= {x}": see skutecna().
-
-namespace {
-
-// A number as a query text carries it: 15 significant digits.
-double t15(double v)
-{
-    if (v == std::trunc(v) && std::abs(v) < 1e15)
-        return v;
-    return Dotaz::cislo(v).toDouble();
-}
-
-} // namespace
 
 Zkouska::Zkouska(PlanRun& run) : r(run), s(run.m_s) {}
 
@@ -58,39 +44,55 @@ void Zkouska::ZkusebniUsazeniKomb()
 // variant slider names one, and only for the first round of a run), with every score cleared.
 void Zkouska::PripravKZ()
 {
-    Database& db = *r.m_dataK;
-    const QString kde = r.m_volbaNP
-                            ? QStringLiteral("WHERE ID = 0 AND CDesky = %1").arg(qint16(r.m_volbaNPDeska + 1))
-                            : QStringLiteral("WHERE ID = 0");
-    db.executeSqlite(QStringLiteral("UPDATE SoupisDesek SET PlochaKZ = 0, PlochaKZSLOUPEC = 0, SumaKZ = 0, "
-                                    "SumaKZSloupec = 0, PlochaKZBOV = 0, PlochaKZBOVSLOUPEC = 0, SumaKZBOV = 0, "
-                                    "SumaKZBOVSloupec = 0, PVT = 0, PD = 0 ") + kde);
+    const qint16 volba = qint16(r.m_volbaNPDeska + 1);
     m_desky.clear();
-    const auto kopie = db.prikaz(QStringLiteral("SELECT x, y, OV, OTOC, XD, YD FROM SoupisDesek ") + kde +
-                                 QStringLiteral(" ORDER BY rowid"));
-    while (kopie->krok())
-        m_desky.push_back({kopie->sloupec(0).toDouble(), kopie->sloupec(1).toDouble(), kopie->sloupec(2).toDouble() != 0,
-                           kopie->sloupec(3).toDouble() != 0, false, kopie->sloupec(4).toDouble(),
-                           kopie->sloupec(5).toDouble()});
-    kopie->reset();
-
-    m_skutecne.clear();
     m_podleRozmeru.clear();
     m_podleY.clear();
-    const auto vse = db.prikaz(QStringLiteral("SELECT rowid, x, y, PVT FROM SoupisDesek WHERE ID = 0 ORDER BY rowid"));
-    while (vse->krok()) {
-        const Skutecna d{vse->sloupec(0).toLongLong(), vse->sloupec(1).toDouble(), vse->sloupec(2).toDouble(),
-                         vse->sloupec(3).toDouble() != 0};
-        m_skutecne.push_back(d);
-    }
-    vse->reset();
-    m_podleRozmeru.clear();
-    for (int i = int(m_skutecne.size()) - 1; i >= 0; --i) { // from the last, so the first wins
-        m_podleRozmeru.insert({m_skutecne[i].x, m_skutecne[i].y}, i);
-        m_podleY.insert(m_skutecne[i].y, i);
+    for (int i : r.m_neusazene) {
+        DeskaNP& d = r.m_t.desky[i];
+        m_podleRozmeru.emplace(std::pair{d.x, d.y}, i); // the first of each size stays
+        m_podleY.emplace(d.y, i);
+        if (r.m_volbaNP && d.CDesky != volba)
+            continue;
+        for (auto& smer : d.Plocha)
+            smer[0] = smer[1] = 0;
+        for (auto& smer : d.Suma)
+            smer[0] = smer[1] = 0;
+        d.PVT = d.PD = false;
+        m_desky.push_back({d.x, d.y, d.OV});
     }
     m_zbytky.clear();
+    m_dotcene.clear();
+    m_otocene.clear();
     r.m_volbaNP = false;
+    seskup();
+}
+
+// The groups of the round: sizes that fit the rectangle one way or the other (<=, as the
+// look-ups that could ever take them), each with its copies in the order they were added.
+void Zkouska::seskup()
+{
+    // the larger of the number and its query text: a size the fit test or a look-up could take
+    const double Z[2] = {std::max(s.Zbyva[0], Dotaz::jakoVDotazu(s.Zbyva[0])),
+                         std::max(s.Zbyva[1], Dotaz::jakoVDotazu(s.Zbyva[1]))};
+    m_typy.clear();
+    m_mimoObdelnik = 0;
+    std::map<std::tuple<double, double, bool>, int> podleDruhu;
+    for (int i = 0; i < int(m_desky.size()); ++i) {
+        DeskaKZ& d = m_desky[i];
+        const bool rovne = d.x <= Z[0] && d.y <= Z[1];
+        if (!rovne && !(!d.OV && d.y <= Z[0] && d.x <= Z[1])) {
+            ++m_mimoObdelnik;
+            continue;
+        }
+        auto [it, novy] = podleDruhu.try_emplace({d.x, d.y, d.OV}, int(m_typy.size()));
+        if (novy)
+            m_typy.push_back({d.x, d.y, d.OV, rovne, false, {}});
+        d.typ = it->second;
+        m_typy[d.typ].clenove.push_back(i);
+    }
+    for (Typ& t : m_typy)
+        t.dvojce = podleDruhu.count({t.x, t.y, !t.OV}) > 0;
 }
 
 void Zkouska::pruchod(int smer)
@@ -109,35 +111,59 @@ void Zkouska::pruchod(int smer)
     for (int i : poradi) {
         if (r.vydej())
             return;
-        DeskaKZ& d = m_desky[i];
+        const DeskaKZ& d = m_desky[i];
         if (d.x == s.PosledniX && d.y == s.PosledniY)
             continue; // the same size as the one just tried
-        zkus(smer, d, false);
+        zkus(smer, i, false);
         if (!d.OV)
-            zkus(smer, d, true);
+            zkus(smer, i, true);
     }
 }
 
-void Zkouska::zkus(int smer, DeskaKZ& deska, bool otoceno)
+void Zkouska::zkus(int smer, int deska, bool otoceno)
+{
+    DeskaKZ& d = m_desky[deska];
+    const double x = d.x, y = d.y;
+    s.PosledniX = otoceno ? y : x;
+    s.PosledniY = otoceno ? x : y;
+    if (otoceno) { // before the test of fit; only VratKZ takes it back
+        d.OTOC = true;
+        m_dotcene.push_back(deska);
+    }
+    if (!(s.PosledniY < s.Zbyva[1] && s.PosledniX < s.Zbyva[0])) {
+        if (otoceno && d.typ >= 0 && m_typy[d.typ].rovneVejde)
+            m_otocene.push_back(deska);
+        return;
+    }
+    // What tells this trial from another of the same size: the boards left turned that could
+    // still lie unturned, and the board itself when a size of the other grain competes.
+    std::vector<int> odlisne;
+    if (!m_otocene.empty() || m_typy[d.typ].dvojce) {
+        odlisne = m_otocene;
+        odlisne.push_back(deska);
+    }
+    const Klic klic{smer, otoceno, s.VZbytkuRadyKZ, d.typ, std::move(odlisne)};
+    auto it = m_zkousky.find(klic);
+    if (it == m_zkousky.end())
+        it = m_zkousky.emplace(klic, proved(smer, deska, otoceno)).first;
+    const Vysledek v = it->second;
+    if (r.m_formatOV)
+        HodnotTabuli(smer, otoceno, x, y, v);
+    HodnotPlochu(smer, otoceno, x, y, v);
+    VratKZ();
+    s.VZbytkuRadyKZ = v.VZbytkuRadyKZ;
+}
+
+// The trial itself: the candidate opens the row, the rest of the row and its strips follow.
+Zkouska::Vysledek Zkouska::proved(int smer, int deska, bool otoceno)
 {
     const int a = smer, b = 1 - smer;
     const double k = s.SrezNP;
-    const double x = deska.x, y = deska.y;
-    s.PoradiDeskyKZ = s.PoradiDesky;
     for (int i : {0, 1}) {
         s.PoziceKZ[i] = s.Pozice[i];
         s.ZbyvaKZ[i] = s.Zbyva[i];
-        s.RozmeryKZ[i].assign(1001, 0);
     }
-    s.PosledniX = otoceno ? y : x;
-    s.PosledniY = otoceno ? x : y;
-    if (otoceno)
-        deska.OTOC = true; // before the test of fit; only VratKZ takes it back
-    if (!(s.PosledniY < s.ZbyvaKZ[1] && s.PosledniX < s.ZbyvaKZ[0]))
-        return;
     oznacKZ(deska, false);
-    s.RozmeryKZ[0][s.PoradiDeskyKZ] = s.PosledniX;
-    s.RozmeryKZ[1][s.PoradiDeskyKZ] = s.PosledniY;
     const double R[2] = {s.PosledniX, s.PosledniY};
     s.ZbytekKZ[a] = s.ZbyvaKZ[a];
     s.ZbytekKZ[b] = s.ZbyvaKZ[b] - R[b] - k;
@@ -148,71 +174,67 @@ void Zkouska::zkus(int smer, DeskaKZ& deska, bool otoceno)
     s.ZbyvaKZ[a] -= R[a] + k;
     s.ZbyvaKZ[b] = R[b];
     s.RadaRozpracovanaKZ = 1;
-    ++s.PoradiDeskyKZ;
     UsazeniKZ(smer);
-    if (r.m_formatOV)
-        HodnotTabuli(smer, otoceno, x, y);
-    HodnotPlochu(smer, otoceno, x, y);
-    VratKZ();
+    (void)otoceno; // the candidate's own OTOC was set before the test of fit
+    return vysledek();
 }
 
-void Zkouska::oznacKZ(DeskaKZ& d, bool otoceno)
+void Zkouska::oznacKZ(int deska, bool otoceno)
 {
-    const int n = s.PoradiDeskyKZ;
-    for (auto& v : s.RozmeryKZ)
-        if (int(v.size()) <= n)
-            v.resize(n + 1, 0);
-    s.RozmeryKZ[0][n] = otoceno ? d.y : d.x;
-    s.RozmeryKZ[1][n] = otoceno ? d.x : d.y;
+    DeskaKZ& d = m_desky[deska];
     d.ID = true;
-    d.XD = s.PoziceKZ[0];
-    d.YD = s.PoziceKZ[1];
     if (otoceno)
         d.OTOC = true;
+    m_dotcene.push_back(deska);
+    if (d.typ < 0)
+        return;
+    Typ& t = m_typy[d.typ];
+    ++t.pouzito;
+    while (t.zacatek < int(t.clenove.size()) && m_desky[t.clenove[t.zacatek]].ID)
+        ++t.zacatek;
 }
 
-// The look-ups of UsazeniKZ. For a board as it would lie (E its extents along the sheet's
-// axes, Z the current rectangle's), the first that pasuje() accepts, ordered by the extent across
-// the strip, then along it, descending: "ORDER BY y DESC, x DESC" in a row, "ORDER BY x DESC,
-// y DESC" in a column, and their turned forms. Unturned look-ups pass over a board left turned
-// by a trial that did not fit ("OTOC = False"), turned ones over grain boards.
-template <typename Pasuje>
-int Zkouska::najdi(int smer, bool otoceno, Pasuje pasuje) const
+// The eight look-ups of UsazeniKZ at once (nothing changes between them): [0..5] steps 1 to 6
+// (0/1 exact, 2/3 spanning the rest along the strip, 4/5 its height; odd turned), [6] and [7]
+// the stair unturned and turned. For a board as it would lie (E its extents along the sheet's
+// axes, Z the current rectangle's), ordered by the extent across the strip, then along it,
+// descending, then the order of adding. Unturned look-ups pass over a board left turned by a
+// trial that did not fit ("OTOC = False"), turned ones over grain boards.
+std::array<int, 8> Zkouska::najdi(int smer) const
 {
     const int a = smer, b = 1 - smer;
-    const double Z[2] = {t15(s.ZbyvaKZ[0]), t15(s.ZbyvaKZ[1])};
-    int nejlepsi = -1;
-    double nb = 0, na = 0;
-    for (int i = 0; i < int(m_desky.size()); ++i) {
-        const DeskaKZ& d = m_desky[i];
-        if (d.ID || (otoceno ? d.OV : d.OTOC))
+    const double Z[2] = {Dotaz::jakoVDotazu(s.ZbyvaKZ[0]), Dotaz::jakoVDotazu(s.ZbyvaKZ[1])};
+    std::array<int, 8> nalez;
+    nalez.fill(-1);
+    double nb[8], na[8];
+    auto zvaz = [&](int q, int i, double eb, double ea) {
+        if (nalez[q] < 0 || eb > nb[q] || (eb == nb[q] && (ea > na[q] || (ea == na[q] && i < nalez[q])))) {
+            nalez[q] = i;
+            nb[q] = eb;
+            na[q] = ea;
+        }
+    };
+    for (const Typ& t : m_typy) {
+        if (t.pouzito == int(t.clenove.size()))
             continue;
-        const double E[2] = {otoceno ? d.y : d.x, otoceno ? d.x : d.y};
-        if (pasuje(E[a], E[b], Z[a], Z[b]) && (nejlepsi < 0 || E[b] > nb || (E[b] == nb && E[a] > na))) {
-            nejlepsi = i;
-            nb = E[b];
-            na = E[a];
+        const int volna = t.clenove[t.zacatek];
+        int rovna = -1; // the first free one not left turned
+        for (int j = t.zacatek; j < int(t.clenove.size()) && rovna < 0; ++j)
+            if (!m_desky[t.clenove[j]].ID && !m_desky[t.clenove[j]].OTOC)
+                rovna = t.clenove[j];
+        for (bool otoceno : {false, true}) {
+            const int i = otoceno ? volna : rovna;
+            if (i < 0 || (otoceno && t.OV))
+                continue;
+            const double E[2] = {otoceno ? t.y : t.x, otoceno ? t.x : t.y};
+            const int o = otoceno;
+            if (E[b] == Z[b] && E[a] == Z[a]) zvaz(0 + o, i, E[b], E[a]);
+            if (E[b] < Z[b] && E[a] == Z[a]) zvaz(2 + o, i, E[b], E[a]);
+            if (E[b] == Z[b] && E[a] < Z[a]) zvaz(4 + o, i, E[b], E[a]);
+            if (E[b] < Z[b] && E[a] < Z[a]) zvaz(6 + o, i, E[b], E[a]);
         }
     }
-    return nejlepsi;
-}
-
-// Steps 1 to 6: krok 0/1 exact, 2/3 spanning the rest along the strip, 4/5 its height; odd turned.
-int Zkouska::najdiDesku(int smer, int krok) const
-{
-    return najdi(smer, krok % 2 == 1, [krok](double ea, double eb, double za, double zb) {
-        switch (krok / 2) {
-        case 0: return eb == zb && ea == za;
-        case 1: return eb < zb && ea == za;
-        default: return eb == zb && ea < za;
-        }
-    });
-}
-
-// Step 7: the next stair, smaller both ways.
-int Zkouska::najdiSchod(int smer, bool otoceno) const
-{
-    return najdi(smer, otoceno, [](double ea, double eb, double za, double zb) { return eb < zb && ea < za; });
+    return nalez;
 }
 
 // "... WHERE [ID = false and] Oznaceni = '…' and Rada = {CisloRady} order by Cislo desc"
@@ -233,31 +255,27 @@ void Zkouska::UsazeniKZ(int smer)
     const int a = smer, b = 1 - smer;
     const double k = s.SrezNP;
     for (;;) {
-        bool polozeno = false;
-        for (int krok = 0; krok < 6 && !polozeno; ++krok) {
-            const int i = najdiDesku(smer, krok);
-            if (i < 0)
-                continue;
-            oznacKZ(m_desky[i], krok % 2 == 1);
-            const int n = s.PoradiDeskyKZ;
-            const double R[2] = {s.RozmeryKZ[0][n], s.RozmeryKZ[1][n]};
-            if (krok < 2)
+        const std::array<int, 8> nalez = najdi(smer);
+        const auto krok = std::find_if(nalez.begin(), nalez.begin() + 6, [](int i) { return i >= 0; });
+        if (krok != nalez.begin() + 6) {
+            const int q = int(krok - nalez.begin());
+            const bool otoceno = q % 2 == 1;
+            oznacKZ(*krok, otoceno);
+            const DeskaKZ& d = m_desky[*krok];
+            const double R[2] = {otoceno ? d.y : d.x, otoceno ? d.x : d.y};
+            if (q < 2)
                 return; // exact: waiting strips stay unworked
-            const int osa = krok < 4 ? b : a; // across the strip, or along it
+            const int osa = q < 4 ? b : a; // across the strip, or along it
             s.ZbyvaKZ[osa] -= R[osa] + k;
             s.PoziceKZ[osa] += R[osa] + k;
             if (osa == a)
                 s.RadaRozpracovanaKZ = 1;
-            ++s.PoradiDeskyKZ;
-            polozeno = true;
-        }
-        if (polozeno)
             continue;
+        }
 
-        const int kand = najdiSchod(smer, false), otoc = najdiSchod(smer, true);
+        const int kand = nalez[6], otoc = nalez[7];
         auto pricne = [&](int i, bool otoceno) {
-            return i < 0 ? 0.0 : (otoceno ? (smer == 0 ? m_desky[i].x : m_desky[i].y)
-                                          : (smer == 0 ? m_desky[i].y : m_desky[i].x));
+            return i < 0 ? 0.0 : ((smer == 0) != otoceno ? m_desky[i].y : m_desky[i].x);
         };
         const double rovne = pricne(kand, false), otocene = pricne(otoc, true);
         if (rovne == 0 && otocene == 0) { // the row end; the trial goes no further
@@ -270,9 +288,9 @@ void Zkouska::UsazeniKZ(int smer)
             return;
         }
         const bool otoceno = !(rovne >= otocene);
-        oznacKZ(m_desky[otoceno ? otoc : kand], otoceno);
-        const int n = s.PoradiDeskyKZ;
-        const double R[2] = {s.RozmeryKZ[0][n], s.RozmeryKZ[1][n]};
+        const int i = otoceno ? otoc : kand;
+        oznacKZ(i, otoceno);
+        const double R[2] = {otoceno ? m_desky[i].y : m_desky[i].x, otoceno ? m_desky[i].x : m_desky[i].y};
         s.ZbytekKZ[a] = s.ZbyvaKZ[a];
         s.ZbytekKZ[b] = s.ZbyvaKZ[b] - R[b] - k;
         s.ZbytekPoziceKZ[a] = s.PoziceKZ[a];
@@ -282,7 +300,6 @@ void Zkouska::UsazeniKZ(int smer)
         s.ZbyvaKZ[a] -= R[a] + k;
         s.ZbyvaKZ[b] = R[b];
         s.RadaRozpracovanaKZ = 1;
-        ++s.PoradiDeskyKZ;
     }
 }
 
@@ -367,85 +384,91 @@ void Zkouska::DalsiZbytekKZ(int smer)
     UsazeniKZ(smer);
 }
 
+// What the finished trial leaves: the areas of its remnants, whether a free copy fits its ZT
+// either way round, whether any copy is left.
+Zkouska::Vysledek Zkouska::vysledek() const
+{
+    Vysledek v;
+    for (const ZbytekKZ& z : m_zbytky)
+        if (z.XZP > 0 && z.YZP > 0) {
+            v.vsechny += z.XZP * z.YZP;
+            if (z.Oznaceni == Druh::KZ)
+                v.koncove += z.XZP * z.YZP;
+        }
+    const auto zt = std::find_if(m_zbytky.begin(), m_zbytky.end(), [](const ZbytekKZ& z) { return z.Oznaceni == Druh::ZT; });
+    v.maZT = zt != m_zbytky.end();
+    v.zbyva = m_mimoObdelnik > 0;
+    const double XZP = v.maZT ? Dotaz::jakoVDotazu(zt->XZP) : 0, YZP = v.maZT ? Dotaz::jakoVDotazu(zt->YZP) : 0;
+    for (const Typ& t : m_typy) {
+        if (t.pouzito == int(t.clenove.size()))
+            continue;
+        v.zbyva = true;
+        v.vejde = v.vejde || (t.x <= XZP && t.y <= YZP);
+        v.vejdeOtoc = v.vejdeOtoc || (!t.OV && t.y <= XZP && t.x <= YZP);
+    }
+    v.VZbytkuRadyKZ = s.VZbytkuRadyKZ;
+    return v;
+}
+
 // The real board that takes a trial's scores: the first unplaced one of the size, as
 // "SELECT * FROM SoupisDesek WHERE ID = false and x = {x} and y= {y}" finds it. The column
 // trial's turned table test asks "y = {y} and y= {x}": only a square size finds a board, and
 // then the first of that y.
 int Zkouska::skutecna(int smer, bool otoceno, double x, double y, bool proTabuli) const
 {
-    const double px = t15(x), py = t15(y);
-    if (proTabuli && smer == 1 && otoceno)
-        return px == py ? m_podleY.value(py, -1) : -1;
-    return m_podleRozmeru.value({px, py}, -1);
+    const double px = Dotaz::jakoVDotazu(x), py = Dotaz::jakoVDotazu(y);
+    if (proTabuli && smer == 1 && otoceno) {
+        const auto it = m_podleY.find(py);
+        return px == py && it != m_podleY.end() ? it->second : -1;
+    }
+    const auto it = m_podleRozmeru.find({px, py});
+    return it == m_podleRozmeru.end() ? -1 : it->second;
 }
 
-void Zkouska::zapisSkore(int i, const QString& sql, const QVariantList& hodnoty)
+void Zkouska::HodnotPlochu(int smer, bool otoceno, double x, double y, const Vysledek& v)
 {
-    r.m_dataK->executeSqlite(sql, QVariantList(hodnoty) << m_skutecne[i].rowid);
-}
-
-void Zkouska::HodnotPlochu(int smer, bool otoceno, double x, double y)
-{
-    double koncove = 0, vsechny = 0;
-    for (const ZbytekKZ& z : m_zbytky)
-        if (z.XZP > 0 && z.YZP > 0) {
-            vsechny += z.XZP * z.YZP;
-            if (z.Oznaceni == Druh::KZ)
-                koncove += z.XZP * z.YZP;
-        }
     const int i = skutecna(smer, otoceno, x, y, false);
     if (i < 0)
         return;
-    static const char* const sql[2][2] = {
-        {"UPDATE SoupisDesek SET PlochaKZ = ?, SumaKZ = ? WHERE rowid = ?",
-         "UPDATE SoupisDesek SET PlochaKZBOV = ?, SumaKZBOV = ? WHERE rowid = ?"},
-        {"UPDATE SoupisDesek SET PlochaKZSLOUPEC = ?, SumaKZSloupec = ? WHERE rowid = ?",
-         "UPDATE SoupisDesek SET PlochaKZBOVSLOUPEC = ?, SumaKZBOVSloupec = ? WHERE rowid = ?"}};
     // divided by the opening board's extent across the strip it opens
     const double vyska = (smer == 0) != otoceno ? y : x;
-    zapisSkore(i, QString::fromLatin1(sql[smer][otoceno]), {koncove / vyska, vsechny});
+    DeskaNP& d = r.m_t.desky[i];
+    d.Plocha[smer][otoceno] = v.koncove / vyska;
+    d.Suma[smer][otoceno] = v.vsechny;
 }
 
-void Zkouska::HodnotTabuli(int smer, bool otoceno, double x, double y)
+void Zkouska::HodnotTabuli(int smer, bool otoceno, double x, double y, const Vysledek& v)
 {
-    const auto zt = std::find_if(m_zbytky.begin(), m_zbytky.end(), [](const ZbytekKZ& z) { return z.Oznaceni == Druh::ZT; });
-    if (zt == m_zbytky.end())
+    if (!v.maZT)
         return;
-    const double XZP = t15(zt->XZP), YZP = t15(zt->YZP);
-    bool vejde = false, vejdeOtoc = false, zbyva = false;
-    for (const DeskaKZ& d : m_desky) {
-        if (d.ID)
-            continue;
-        zbyva = true;
-        vejde = vejde || (d.x <= XZP && d.y <= YZP);
-        vejdeOtoc = vejdeOtoc || (!d.OV && d.y <= XZP && d.x <= YZP);
-    }
     const int i = skutecna(smer, otoceno, x, y, true);
     if (i < 0)
         return;
-    if (!vejde && !vejdeOtoc) {
+    DeskaNP& d = r.m_t.desky[i];
+    if (!v.vejde && !v.vejdeOtoc) {
         if (!otoceno) {
-            zapisSkore(i, QStringLiteral("UPDATE SoupisDesek SET PVT = -1 WHERE rowid = ?"), {});
-            m_skutecne[i].PVT = true;
-        } else if (!m_skutecne[i].PVT) {
-            // a size that closes the sheet only when turned loses its unturned area score
-            zapisSkore(i, smer == 0 ? QStringLiteral("UPDATE SoupisDesek SET PlochaKZ = 0, PVT = -1 WHERE rowid = ?")
-                                    : QStringLiteral("UPDATE SoupisDesek SET PlochaKZSLOUPEC = 0, PVT = -1 WHERE rowid = ?"),
-                       {});
-            m_skutecne[i].PVT = true;
+            d.PVT = true;
+        } else if (!d.PVT) {
+            d.Plocha[smer][0] = 0; // a size that closes the sheet only when turned loses its unturned area score
+            d.PVT = true;
         }
     }
-    if (!zbyva)
-        zapisSkore(i, QStringLiteral("UPDATE SoupisDesek SET PD = -1 WHERE rowid = ?"), {});
+    if (!v.zbyva)
+        d.PD = true;
 }
 
 // Empties the trial's remnants and takes every copied board back to its start.
 void Zkouska::VratKZ()
 {
     m_zbytky.clear();
-    for (DeskaKZ& d : m_desky) {
-        d.ID = false;
-        d.OTOC = false;
-        d.XD = d.YD = 0;
+    for (int i : m_dotcene) {
+        DeskaKZ& d = m_desky[i];
+        d.ID = d.OTOC = false;
+        if (d.typ >= 0) {
+            m_typy[d.typ].zacatek = 0;
+            m_typy[d.typ].pouzito = 0;
+        }
     }
+    m_dotcene.clear();
+    m_otocene.clear();
 }

@@ -3,15 +3,21 @@
 // candidate size, each way round, on a copy of the unplaced boards, and what it would leave
 // behind is written as scores on SoupisDesek. The real state is only read.
 //
-// The copies SoupisDesekKZ and SoupisZbytkuKZ of the old program are kept in memory: each
-// trial is a few hundred look-ups, and a table per look-up made long orders take hours. Every
-// look-up keeps the query it stands for: its filter, its ORDER BY, equal rows in the order
-// they were added, and numbers compared as the query text would carry them (15 digits).
-// Direction 0 is the row trial, 1 its column mirror.
+// The copies SoupisDesekKZ and SoupisZbytkuKZ of the old program live in memory. Every look-up
+// keeps the query it stands for: its filter, its ORDER BY, equal rows in the order they were
+// added, and numbers compared as the query text would carry them (15 digits). Direction 0 is
+// the row trial, 1 its column mirror.
+//
+// Two things make a round cheap without changing a result. The copies are grouped by size and
+// grain (a look-up asks each group for its first free board, and groups that fit nowhere in the
+// rectangle are left out). And a trial's outcome is remembered for the round: copies of one size
+// give the same trial, as long as nothing tells them apart (a board left turned by a trial that
+// did not fit, or a board of the same size with the other grain, make the trial its own).
 #include "optimiser/PlanRun.h"
 
-#include <QHash>
-#include <functional>
+#include <array>
+#include <map>
+#include <tuple>
 
 class Zkouska {
 public:
@@ -24,7 +30,16 @@ private:
     struct DeskaKZ {       // a row of SoupisDesekKZ
         double x, y;
         bool OV, OTOC = false, ID = false;
-        double XD = 0, YD = 0;
+        int typ = -1;      // its group, -1 when it fits nowhere in the rectangle
+    };
+    struct Typ {           // the copies of one size and grain that may fit the rectangle
+        double x, y;
+        bool OV;
+        bool rovneVejde;   // fits unturned: only then does a leftover OTOC matter
+        bool dvojce;       // another group has the same size (and the other grain)
+        std::vector<int> clenove;
+        int zacatek = 0;   // members before it are all placed
+        int pouzito = 0;
     };
     enum class Druh { ZT, ZR, KZ };
     struct ZbytekKZ {      // a row of SoupisZbytkuKZ
@@ -33,21 +48,21 @@ private:
         double XZP = 0, YZP = 0, XDP = 0, YDP = 0;
         bool ID = false;
     };
-    struct Skutecna {      // an unplaced row of SoupisDesek
-        qint64 rowid;
-        double x, y;
-        bool PVT;
+    struct Vysledek {      // what a trial leaves for the scores
+        double koncove = 0, vsechny = 0;
+        bool maZT = false, vejde = false, vejdeOtoc = false, zbyva = false;
+        bool VZbytkuRadyKZ = false;
     };
+    using Klic = std::tuple<int, bool, bool, int, std::vector<int>>;
 
     void PripravKZ();
+    void seskup();
     void pruchod(int smer);
-    void zkus(int smer, DeskaKZ& deska, bool otoceno);
+    void zkus(int smer, int deska, bool otoceno);
+    Vysledek proved(int smer, int deska, bool otoceno);
     void UsazeniKZ(int smer);
-    void oznacKZ(DeskaKZ& d, bool otoceno);
-    template <typename Pasuje>
-    int najdi(int smer, bool otoceno, Pasuje pasuje) const;
-    int najdiDesku(int smer, int krok) const;
-    int najdiSchod(int smer, bool otoceno) const;
+    void oznacKZ(int deska, bool otoceno);
+    std::array<int, 8> najdi(int smer) const;
     int najdiZbytek(Druh druh, bool jenCekajici) const;
     void UlozZTKZ();
     void UlozZRKZ(int smer);
@@ -55,17 +70,21 @@ private:
     void ZmenZRKZ();
     void zapisKZ(ZbytekKZ& z);
     void DalsiZbytekKZ(int smer);
-    void HodnotPlochu(int smer, bool otoceno, double x, double y);
-    void HodnotTabuli(int smer, bool otoceno, double x, double y);
+    Vysledek vysledek() const;
+    void HodnotPlochu(int smer, bool otoceno, double x, double y, const Vysledek& v);
+    void HodnotTabuli(int smer, bool otoceno, double x, double y, const Vysledek& v);
     void VratKZ();
     int skutecna(int smer, bool otoceno, double x, double y, bool proTabuli) const;
-    void zapisSkore(int i, const QString& sql, const QVariantList& hodnoty);
 
     PlanRun& r;
     PlanRun::Stav& s;
     std::vector<DeskaKZ> m_desky;
+    std::vector<Typ> m_typy;
+    int m_mimoObdelnik = 0;                        // copies of no group: always free
+    std::vector<int> m_dotcene;                    // copies changed since the last VratKZ
+    std::vector<int> m_otocene;                    // free copies left turned that could lie unturned
     std::vector<ZbytekKZ> m_zbytky;
-    std::vector<Skutecna> m_skutecne;           // unplaced real boards, in rowid order
-    QHash<QPair<double, double>, int> m_podleRozmeru; // first of each size (x, y)
-    QHash<double, int> m_podleY;                // first of each y
+    std::map<Klic, Vysledek> m_zkousky;            // the round's trials
+    std::map<std::pair<double, double>, int> m_podleRozmeru; // first unplaced real board of a size
+    std::map<double, int> m_podleY;                // first unplaced real board of a y
 };

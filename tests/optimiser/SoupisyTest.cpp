@@ -97,6 +97,43 @@ TEST_F(Soupisy, StornoBehemSoupisuTabuliZastaviPredSoupisemDesek)
     PlanRun run(uloziste(), prompt, prubeh);
     EXPECT_FALSE(run.SpustNP(QStringLiteral("Z"), 5000001, ZpusobNP::PodelneRezy));
     EXPECT_TRUE(run.preruseno());
-    EXPECT_TRUE(Recordset(uloziste().dataK(), QStringLiteral("SoupisDesek")).prazdny());
-    EXPECT_EQ(Recordset(uloziste().dataK(), QStringLiteral("SoupisTabuli")).recordCount(), 1000);
+    EXPECT_TRUE(run.tabulky().desky.empty());
+    EXPECT_EQ(run.tabulky().tabule.size(), 1000u);
+    EXPECT_FALSE(uloziste().maDataK()); // a stopped run writes no plan
+}
+
+namespace {
+// Records the bar; asks to stop once the run has placed a given number of boards.
+class ZaznamPrubehu : public Prubeh {
+public:
+    std::vector<double> hodnoty;
+    size_t stopPo = 0;
+    void popisek(const QString&) override {}
+    void hodnota(double h) override { hodnoty.push_back(h); }
+    bool prerusit() override { return stopPo && hodnoty.size() > stopPo; }
+};
+}
+
+TEST_F(Soupisy, PrubehRosteSKazdouDeskouAStornoNechaUsazeneJakJsou)
+{
+    std::vector<DeskaTest> desky;
+    for (int i = 0; i < 60; ++i)
+        desky.push_back({QStringLiteral("d%1").arg(i), 200.0 + 10 * (i % 13), 150.0 + 20 * (i % 7), 2});
+    zakazka(2800, 2070, false, desky);
+    {
+        ZaznamPrubehu prubeh;
+        PlanRun run(uloziste(), prompt, prubeh);
+        ASSERT_TRUE(run.SpustNP(QStringLiteral("Z"), 5000001, ZpusobNP::Kombinovane));
+        ASSERT_EQ(prubeh.hodnoty.size(), 121u); // the start and a step per board, not 100/(n+2)
+        EXPECT_TRUE(std::is_sorted(prubeh.hodnoty.begin(), prubeh.hodnoty.end()));
+        EXPECT_DOUBLE_EQ(prubeh.hodnoty.back(), 100);
+    }
+    ZaznamPrubehu prubeh;
+    prubeh.stopPo = 30;
+    PlanRun run(uloziste(), prompt, prubeh);
+    EXPECT_FALSE(run.SpustNP(QStringLiteral("Z"), 5000001, ZpusobNP::Kombinovane));
+    EXPECT_TRUE(run.preruseno());
+    const auto usazeno = std::count_if(run.tabulky().desky.begin(), run.tabulky().desky.end(), [](const DeskaNP& d) { return d.ID; });
+    EXPECT_GE(usazeno, 30);
+    EXPECT_LT(usazeno, 120);
 }

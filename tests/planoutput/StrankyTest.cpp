@@ -4,6 +4,7 @@
 #include "SkriptovanyPrompt.h"
 #include "core/Error.h"
 #include "core/Nastaveni.h"
+#include "core/Recordset.h"
 #include "core/Soubory.h"
 #include "core/Uloziste.h"
 #include "exchange/ZakazkaJson.h"
