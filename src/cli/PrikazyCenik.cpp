@@ -7,6 +7,7 @@
 #include "core/CilZapisu.h"
 #include "core/Error.h"
 #include "core/Uloziste.h"
+#include "core/ZpravaChyby.h"
 #include "orders/Prislusenstvi.h"
 #include "printing/Dokument.h"
 #include "printing/Obrazky.h"
@@ -18,6 +19,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QSaveFile>
+#include <cerrno>
 
 namespace {
 
@@ -56,8 +58,9 @@ void zapis(const QString& cesta, const QByteArray& bajty)
 {
     CilZapisu::zkontroluj(cesta);
     QSaveFile f(cesta);
+    errno = 0;
     if (!f.open(QIODevice::WriteOnly) || f.write(bajty) != bajty.size() || !f.commit())
-        throw Error(Chyba::PristupKSouboru, QStringLiteral("Soubor %1 nelze zapsat: %2").arg(cesta, f.errorString()));
+        throw ZpravaChyby::souboru(cesta, f.errorString());
 }
 
 QJsonObject jakoJson(const Cenik::Polozka& p)
@@ -198,8 +201,9 @@ int prikazPictureRender(const QStringList& argumenty)
     const QByteArray format = a[1].endsWith(QLatin1String(".ppm"), Qt::CaseInsensitive) ? "ppm" : "png";
     CilZapisu::zkontroluj(a[1]);
     QSaveFile f(a[1]);
+    errno = 0;
     if (!f.open(QIODevice::WriteOnly) || !QImageWriter(&f, format).write(obr) || !f.commit())
-        throw Error(Chyba::PristupKSouboru, QStringLiteral("Soubor %1 nelze zapsat.").arg(a[1]));
+        throw ZpravaChyby::souboru(a[1], f.errorString());
     return Cli::Hotovo;
 }
 

@@ -9,6 +9,8 @@
 #include <QFile>
 #include <QRandomGenerator>
 #include <QStandardPaths>
+#include <cerrno>
+#include <unistd.h>
 
 namespace Aplikace {
 namespace {
@@ -36,7 +38,16 @@ QString cesta(const QString& relativni)
 
 QString dataS() { return cesta(QStringLiteral("Data/DataS.db")); }
 QString cenik() { return cesta(QStringLiteral("Data/Cenik.db")); }
-QString dataK() { return cesta(QStringLiteral("Data/DataK-%1.db").arg(znackaProcesu())); }
+QString dataK()
+{
+    const QString nazev = QStringLiteral("DataK-%1.db").arg(znackaProcesu());
+    return jenProCteni() ? QDir::temp().filePath(QStringLiteral("truhlar-") + nazev) : cesta(QStringLiteral("Data/") + nazev);
+}
+
+bool jenProCteni()
+{
+    return ::access(QFile::encodeName(cesta(QStringLiteral("Data"))).constData(), W_OK) != 0 && errno != ENOENT;
+}
 QString zamek() { return cesta(QStringLiteral("Data/.lock")); }
 
 QString znackaProcesu()

@@ -4,6 +4,7 @@
 #include "core/Error.h"
 #include "core/Schema.h"
 #include "core/SqliteChyba.h"
+#include "core/ZpravaChyby.h"
 
 #include <QDeadlineTimer>
 #include <QDir>
@@ -26,10 +27,20 @@ Uloziste::Uloziste(bool zalozit)
         throw Error(Chyba::PristupKSouboru,
                     QStringLiteral("Složka programu %1 neobsahuje databáze. Založte ji příkazem init.")
                         .arg(Aplikace::domov()));
-    m_zamek = ::open(QFile::encodeName(Aplikace::zamek()).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0644);
-    if (m_zamek < 0)
+    const QByteArray zamek = QFile::encodeName(Aplikace::zamek());
+    m_zamek = ::open(zamek.constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0644);
+    if (m_zamek < 0 && Aplikace::jenProCteni()) {
+        // Reading needs no write access: the lock is shared all the same, and where the file
+        // is missing on a write-protected disk nobody can change the store anyway.
+        m_zamek = ::open(zamek.constData(), O_RDONLY | O_CLOEXEC);
+        if (m_zamek < 0) {
+            otevriData();
+            return;
+        }
+    } else if (m_zamek < 0) {
         throw Error(SqliteChyba::cisloProErrno(errno),
                     QStringLiteral("Soubor %1 nelze otevřít.").arg(Aplikace::zamek()));
+    }
     if (::flock(m_zamek, LOCK_EX | LOCK_NB) == 0) {
         Aplikace::uklid(); // nobody else holds the store: what is left in Data/ is nobody's
         ::flock(m_zamek, LOCK_SH);
@@ -43,6 +54,8 @@ Uloziste::Uloziste(bool zalozit)
 
 bool Uloziste::zamkni(int druh)
 {
+    if (m_zamek < 0)
+        return false;
     QDeadlineTimer konec(Database::CekaniMs);
     while (::flock(m_zamek, druh | LOCK_NB) != 0) {
         if (errno != EWOULDBLOCK && errno != EINTR)
@@ -117,6 +130,8 @@ void Uloziste::otevriData()
 
 Uloziste::Vyhradne::Vyhradne(Uloziste& u) : m_u(u)
 {
+    if (m_u.m_zamek < 0)
+        throw Error(Chyba::JenProCteni, ZpravaChyby::text(Chyba::JenProCteni, Aplikace::dataS()));
     if (!m_u.zamkni(LOCK_EX)) {
         ::flock(m_u.m_zamek, LOCK_SH); // a refused change of a lock gives up the old one
         throw Error(Chyba::DatabazePouzivana, Pouzivana);

@@ -1,8 +1,11 @@
 #include "core/ZpravaChyby.h"
 
+#include "core/Aplikace.h"
 #include "core/Error.h"
+#include "core/SqliteChyba.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <cerrno>
 
 namespace ZpravaChyby {
@@ -14,6 +17,8 @@ QString text(int cislo, const QString& soubor, int chyba)
     case Chyba::DiskPlny:
         return QStringLiteral("Na disku není dostatek místa!!!");
     case Chyba::JenProCteni:
+        if (Aplikace::jenProCteni() && (s.isEmpty() || QFileInfo(soubor).absolutePath() == Aplikace::cesta(QStringLiteral("Data"))))
+            return QStringLiteral("Složka s daty je jen pro čtení.");
         return QStringLiteral("Disk je chráněn proti zápisu!!!");
     case Chyba::DatabazePouzivana:
         return QStringLiteral("Databáze programu je používána jiným programem!\rUkončete toto používání!!!");
@@ -28,6 +33,13 @@ QString text(int cislo, const QString& soubor, int chyba)
     default:
         return QStringLiteral("Databáze nemohla požadavek provést.");
     }
+}
+
+Error souboru(const QString& soubor, const QString& podrobnosti)
+{
+    const int e = errno ? errno : EIO;
+    const int cislo = SqliteChyba::cisloProErrno(e);
+    return Error(cislo, text(cislo, soubor, e), podrobnosti);
 }
 
 QString pracovniDatabaze(const Error& e)

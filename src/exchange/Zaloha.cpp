@@ -117,7 +117,7 @@ QString slozka()
 void zalohuj(Uloziste& u, Schema::Soubor druh, const QString& cil)
 {
     CilZapisu::zkontroluj(cil);
-    if (druh == Schema::Soubor::Data)
+    if (druh == Schema::Soubor::Data && QFile::exists(Aplikace::cesta(QStringLiteral("Data/DataZ1.db"))))
         Soubory::odstran(Aplikace::cesta(QStringLiteral("Data/DataZ1.db")));
     zkopirujDatabazi(databaze(u, druh), druh, QFileInfo(cil).absoluteFilePath());
 }
@@ -178,8 +178,9 @@ Zprava zpravaZalohy(const Error& e)
         return {e.text(), QStringLiteral("Chyba zápisu")};
     case Chyba::DiskPlny:
         return {QStringLiteral("Na disku není dostatek místa!!!"), QStringLiteral("Chyba zápisu")};
-    case Chyba::JenProCteni:
-        return {QStringLiteral("Disk je chráněn proti zápisu!!!"), QStringLiteral("Chyba zápisu")};
+    case Chyba::JenProCteni: // the store's own folder write-protected, or the disk of the backup
+        return {e.text().startsWith(QStringLiteral("Složka s daty")) ? e.text() : QStringLiteral("Disk je chráněn proti zápisu!!!"),
+                QStringLiteral("Chyba zápisu")};
     case Chyba::DatabazePouzivana:
         return {Pouzivana + QStringLiteral("\rUkončete toto používání!!!"), QStringLiteral("Chyba při zápisu")};
     default:
@@ -203,7 +204,7 @@ Zprava zpravaObnovy(const Error& e, Schema::Soubor druh)
         return {Pouzivana + QStringLiteral("\rAž ukončíte toto používání budete moci data obnovit !!!"),
                 QStringLiteral("Chyba při zápisu")};
     case Chyba::PristupKSouboru:
-        if (e.text() == QLatin1String("Porucha databáze - restartujte PC!"))
+        if (e.text() == QStringLiteral("Porucha databáze - restartujte PC!"))
             return {e.text(), QStringLiteral("Chyba při zápisu"), true};
         break;
     case Chyba::DiskPlny:

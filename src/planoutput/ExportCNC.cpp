@@ -8,6 +8,9 @@
 #include "core/Nastaveni.h"
 #include "core/Razitko.h"
 #include "core/Recordset.h"
+#include "core/ZpravaChyby.h"
+
+#include <cerrno>
 
 #include <QLocale>
 #include <QSaveFile>
@@ -151,8 +154,11 @@ bool zapis(Database& dataS, Database& dataK, const PlanNaStrankach& plan, const 
     const QByteArray bajty = cp1250.isValid() ? QByteArray(cp1250(obsah)) : obsah.toLocal8Bit();
     CilZapisu::zkontroluj(soubor);
     QSaveFile f(soubor);
-    if (!f.open(QIODevice::WriteOnly) || f.write(bajty) != bajty.size() || !f.commit())
-        throw Error(Chyba::PristupKSouboru, QString::fromUtf8(ChybaPrevodu) + QLatin1Char(' ') + f.errorString());
+    errno = 0;
+    if (!f.open(QIODevice::WriteOnly) || f.write(bajty) != bajty.size() || !f.commit()) {
+        const Error e = ZpravaChyby::souboru(soubor, f.errorString());
+        throw Error(e.cislo(), QString::fromUtf8(ChybaPrevodu) + QLatin1Char('\n') + e.text(), e.podrobnosti());
+    }
     return true;
 }
 

@@ -70,9 +70,7 @@ struct Malir {
 
 [[noreturn]] void chybaSouboru(const QString& cesta)
 {
-    const int e = errno ? errno : EIO;
-    const int cislo = SqliteChyba::cisloProErrno(e);
-    throw Error(cislo, ZpravaChyby::text(cislo, cesta, e), QStringLiteral("Nelze zapsat %1").arg(cesta));
+    throw ZpravaChyby::souboru(cesta, QStringLiteral("Nelze zapsat %1").arg(cesta));
 }
 
 } // namespace

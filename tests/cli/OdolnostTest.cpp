@@ -190,3 +190,41 @@ TEST_F(Odolnost, NazvySRidicimiZnakyNeboPrilisDlouheNevstoupi)
     EXPECT_EQ(spust({"order-dump", "Kuchyně Novák"}).out, dump);
     EXPECT_EQ(spust({"order-copy", "Kuchyně Novák", QString(51, QLatin1Char('k'))}).kod, 3);
 }
+
+TEST_F(Odolnost, SlozkaJenProCteniSeCteAZapisOdmitne)
+{
+    // the application folder mounted read-only, in a mount namespace of the command's own
+    const auto jenProCteni = [&](const QStringList& argumenty) {
+        QProcess p;
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert(QStringLiteral("XDG_CONFIG_HOME"), m_dir.filePath(QStringLiteral("config")));
+        p.setProcessEnvironment(env);
+        p.start(QStringLiteral("unshare"), QStringList{"-m", "sh", "-c",
+                    R"(mount --bind "$0" "$0" && mount -o remount,bind,ro "$0" "$0" && exec "$@")", domov(),
+                    QStringLiteral(TRUHLAR_CLI), "--home", domov()} + argumenty);
+        EXPECT_TRUE(p.waitForFinished(60000));
+        return Vysledek{p.exitCode(), QString::fromUtf8(p.readAllStandardOutput()), QString::fromUtf8(p.readAllStandardError())};
+    };
+    if (jenProCteni({"order-list"}).err.contains(QStringLiteral("mount")))
+        GTEST_SKIP() << "no mount namespace here";
+    const QStringList plan = {"plan", "Kuchyně Novák", "--format", "5000001", "--mode", "kombinovane", "--dump"};
+    const QString planVPoradku = spust(plan).out;
+    ::unlink(QFile::encodeName(data(QStringLiteral(".lock"))).constData()); // as a folder copied to a CD would be
+
+    EXPECT_EQ(jenProCteni({"order-list"}).out, QStringLiteral("Kuchyně Novák\n"));
+    EXPECT_EQ(jenProCteni({"order-dump", "Kuchyně Novák"}).out, spust({"order-dump", "Kuchyně Novák"}).out);
+    EXPECT_EQ(jenProCteni({"check"}).kod, 0);
+    const Vysledek v = jenProCteni(plan);
+    EXPECT_EQ(v.kod, 0) << v.err.toStdString();
+    EXPECT_EQ(v.out, planVPoradku);
+    EXPECT_EQ(jenProCteni({"calc", "Kuchyně Novák", "--json"}).kod, 0);
+    EXPECT_EQ(jenProCteni({"backup", m_dir.filePath(QStringLiteral("venku.bvk"))}).kod, 0);
+    EXPECT_EQ(spust({"check", m_dir.filePath(QStringLiteral("venku.bvk"))}).kod, 0);
+
+    for (const QStringList& zapis : {QStringList{"order-load", soubor(QStringLiteral("n.json"), R"({"zakazka": "Nová"})")},
+                                     QStringList{"restore", m_dir.filePath(QStringLiteral("venku.bvk"))}}) {
+        const Vysledek z = jenProCteni(zapis);
+        EXPECT_EQ(z.kod, 4) << z.err.toStdString();
+        EXPECT_TRUE(z.err.contains(QStringLiteral("Složka s daty je jen pro čtení"))) << z.err.toStdString();
+    }
+}
