@@ -228,3 +228,13 @@ TEST_F(Odolnost, SlozkaJenProCteniSeCteAZapisOdmitne)
         EXPECT_TRUE(z.err.contains(QStringLiteral("Složka s daty je jen pro čtení"))) << z.err.toStdString();
     }
 }
+
+TEST_F(Odolnost, PolozkaCenikuSRidicimZnakemNevstoupi)
+{
+    const Vysledek v = spust({"pricelist-load", soubor(QStringLiteral("c.json"),
+        R"([{"kod": 8, "nazev": "Pant", "cena": 25, "jednotka": "ks", "skupina": "P"},
+            {"kod": 9, "nazev": "Úchyt\u0000ka", "cena": 40, "jednotka": "ks", "skupina": "P"}])")});
+    EXPECT_EQ(v.kod, 3) << v.err.toStdString();
+    EXPECT_TRUE(v.err.contains(QStringLiteral("„Název“"))) << v.err.toStdString();
+    EXPECT_TRUE(QJsonDocument::fromJson(spust({"pricelist-dump"}).out.toUtf8()).array().isEmpty());
+}
