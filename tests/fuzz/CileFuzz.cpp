@@ -186,11 +186,12 @@ QList<QByteArray> semenaJazyka()
 }
 QList<QByteArray> semenaZalohy()
 {
+    Uloziste& u = uloziste(); // first: it sets the application folder
     QList<QByteArray> s;
     for (auto druh : {Schema::Soubor::Data, Schema::Soubor::Cenik}) {
         const QString cil = Aplikace::cesta(QStringLiteral("semeno.zaloha"));
         QFile::remove(cil);
-        Zaloha::zalohuj(uloziste(), druh, cil);
+        Zaloha::zalohuj(u, druh, cil);
         QFile f(cil);
         f.open(QIODevice::ReadOnly);
         s << f.readAll();
