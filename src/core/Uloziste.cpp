@@ -70,6 +70,9 @@ bool Uloziste::zamkni(int druh)
 Uloziste::~Uloziste()
 {
     m_dataK.reset();
+    if (m_udelalDataK) // the plan copy is this process's own: it goes with it
+        for (const char* pripona : {"", "-journal", "-wal", "-shm"})
+            QFile::remove(Aplikace::dataK() + QLatin1String(pripona));
     m_cenik.reset();
     m_dataS.reset();
     if (m_zamek >= 0)
@@ -91,6 +94,7 @@ void Uloziste::zavriDataK()
 void Uloziste::ObnovPracovniDatabazi()
 {
     zavriDataK();
+    m_udelalDataK = true;
     for (const char* pripona : {"", "-journal", "-wal", "-shm"}) {
         const QString soubor = Aplikace::dataK() + QLatin1String(pripona);
         if (QFile::exists(soubor) && !QFile::remove(soubor))

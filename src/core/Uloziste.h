@@ -55,4 +55,5 @@ private:
     std::unique_ptr<Database> m_cenik;
     std::unique_ptr<Database> m_dataK;
     int m_zamek = -1;
+    bool m_udelalDataK = false; // this object made the process's plan copy and removes it
 };

@@ -188,6 +188,9 @@ TEST_F(Uloziste_, PracovniKopieMaDataAZbytekPoPaduZmizi)
     }
     EXPECT_TRUE(Aplikace::dataK().contains(Aplikace::znackaProcesu()));
     zavri();
+    EXPECT_FALSE(QFile::exists(Aplikace::dataK())); // a process takes its own plan copy with it
+    for (const QString& s : ciziSoubory)
+        EXPECT_TRUE(QFile::exists(Aplikace::cesta(s))) << s.toStdString();
 
     // the next start with the store to itself clears them all away
     Uloziste znovu(false);
