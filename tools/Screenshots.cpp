@@ -208,19 +208,19 @@ int main(int argc, char** argv)
     };
     using Po = FrmNovy::PoUlozeni;
     ramec(QStringLiteral("frmNovy-fraZakazka"), [](FrmNovy& d) {
-        d.zakazka(QStringLiteral("NovaZakazka"), QStringLiteral("Kuchyně Novák"), QStringLiteral("linka 2,4 m"),
+        d.zakazka(FrmNovy::Stav::NovaZakazka, QStringLiteral("Kuchyně Novák"), QStringLiteral("linka 2,4 m"),
                   [](const QString&, const QString&) { return Po::Zavrit; });
     });
     ramec(QStringLiteral("frmNovy-fraTyp"), [](FrmNovy& d) {
-        d.sestava(QStringLiteral("NovaSestava"), {QStringLiteral("Dřez80"), QStringLiteral("Spodní skříňka"), 1, 0},
+        d.sestava(FrmNovy::Stav::NovaSestava, {QStringLiteral("Dřez80"), QStringLiteral("Spodní skříňka"), 1, 0},
                   [](const Zakazky::Sestava&) { return Po::Zavrit; });
     });
     ramec(QStringLiteral("frmNovy-fraMaterial"), [](FrmNovy& d) {
-        d.material(QStringLiteral("UpraveniFormatu"), false, {1, QStringLiteral("DTD bílá 18"), 2800, 2070, true, 350},
+        d.material(FrmNovy::Stav::UpraveniFormatu, {1, QStringLiteral("DTD bílá 18"), 2800, 2070, true, 350},
                    [](const Materialy::Material&) { return Po::Zavrit; });
     });
     ramec(QStringLiteral("frmNovy-fraHrana"), [](FrmNovy& d) {
-        d.material(QStringLiteral("UpraveniHrany"), true, {1, QStringLiteral("ABS bílá 2"), 0, 0, false, 12.5, 255, 2},
+        d.material(FrmNovy::Stav::UpraveniHrany, {1, QStringLiteral("ABS bílá 2"), 0, 0, false, 12.5, 255, 2},
                    [](const Materialy::Material&) { return Po::Zavrit; });
     });
     ramec(QStringLiteral("frmNovy-fraPlMat"), [&](FrmNovy& d) {
@@ -231,7 +231,7 @@ int main(int argc, char** argv)
         QStringList ht;
         for (const auto& h : hrany)
             ht << Materialy::textHrany(h);
-        d.deska(QStringLiteral("UpraveniPM"), {t.format}, ht, hrany, {QStringLiteral("dvířka"), 716, 396, 2, false}, t,
+        d.deska(FrmNovy::Stav::UpraveniPM, {t.format}, ht, hrany, {QStringLiteral("dvířka"), 716, 396, 2, false}, t,
                 [](const Desky::Deska&, const FrmNovy::TextyDesky&) { return Po::Zavrit; });
     });
 
@@ -333,7 +333,7 @@ int main(int argc, char** argv)
             uloz(&dialog, vystup, QStringLiteral("frmNovy-fraNSklad"));
             dialog.reject();
         });
-        dialog.odrezek(QStringLiteral("UpraveniOdrezku"), {QStringLiteral("DTD bílá 18"), 1200, 640, 2},
+        dialog.odrezek(FrmNovy::Stav::UpraveniOdrezku, {QStringLiteral("DTD bílá 18"), 1200, 640, 2},
                        [](const Sklad::Odrezek&) { return FrmNovy::PoUlozeni::Zavrit; });
         FrmVSP vsp(prompt, &sklad);
         vsp.setWindowTitle(QString::fromUtf8(Sklad::TitulekVypisu));

@@ -9,10 +9,7 @@
 
 namespace Knihovna {
 
-QString tabulka(Druh druh)
-{
-    return druh == Druh::Obrazky ? QStringLiteral("Obrazky") : QStringLiteral("Schemata");
-}
+QString tabulka(Druh druh) { return druh == Druh::Obrazky ? QStringLiteral("Obrazky") : QStringLiteral("Schemata"); }
 
 std::vector<Zaznam> seznam(Database& db, Druh druh)
 {
@@ -62,8 +59,7 @@ int pridej(Database& db, Prompt& prompt, Druh druh, const QString& nazev, const 
     const QVariant nejvyssi = db.hodnota(QStringLiteral("SELECT max(IDE ) FROM ") + tabulka(druh));
     const int ide = nejvyssi.isNull() ? 1 : nejvyssi.toInt() + 1;
     // the bytes are bound: a picture never passes through the query's text
-    db.executeSqlite(QStringLiteral("INSERT INTO %1 (IDE, nazev, OBR) VALUES (?, ?, ?)").arg(tabulka(druh)),
-                     {ide, nazev, bajty});
+    db.executeSqlite(QStringLiteral("INSERT INTO %1 (IDE, nazev, OBR) VALUES (?, ?, ?)").arg(tabulka(druh)), {ide, nazev, bajty});
     t.commit();
     return ide;
 }
@@ -88,17 +84,4 @@ bool smaz(Database& db, Druh druh, int ide)
     return byl;
 }
 
-QImage NactiSchema(Database& dataS, Database& cenik, const QString& zakazka, const QString& sestava)
-{
-    if (zakazka.isEmpty() || sestava.isEmpty())
-        return {};
-    const Recordset r(dataS,
-                      QStringLiteral("SELECT * FROM Zakazky  WHERE Zakazka = '") + Dotaz::text(zakazka) +
-                          QStringLiteral("' and Sestava = '") + Dotaz::text(sestava) + QStringLiteral("' ORDER BY Sestava"),
-                      Recordset::Rozsah::Prvni);
-    if (r.eof() || r.cislo(QStringLiteral("schema")) == 0)
-        return {};
-    return obrazek(cenik, Druh::Schemata, int(r.cislo(QStringLiteral("schema"))));
-}
-
-}
+} // namespace Knihovna

@@ -42,8 +42,4 @@ int pridej(Database& cenik, Prompt& prompt, Druh druh, const QString& nazev, con
 // Returns whether a record was there.
 bool smaz(Database& cenik, Druh druh, int ide);
 
-// The schema drawing of an assembly (NactiSchema): null with no assembly, schema 0, a deleted
-// schema or bytes that do not decode.
-QImage NactiSchema(Database& dataS, Database& cenik, const QString& zakazka, const QString& sestava);
-
-}
+} // namespace Knihovna

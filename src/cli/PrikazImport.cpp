@@ -2,13 +2,10 @@
 #include "Cli.h"
 #include "Prikazy.h"
 
-#include "core/Dotaz.h"
 #include "core/Error.h"
-#include "core/Recordset.h"
 #include "core/Uloziste.h"
 #include "exchange/Import.h"
-
-#include <QFileInfo>
+#include "orders/RadkyZakazky.h"
 
 int prikazImport(const QStringList& vstup)
 {
@@ -17,14 +14,9 @@ int prikazImport(const QStringList& vstup)
     const QString sestava = Cli::vezmiVolbu(argumenty, QStringLiteral("--assembly"));
     if (argumenty.size() != 1 || zakazka.isNull() || sestava.isNull())
         throw Cli::ChybaPouziti(QStringLiteral("import SOUBOR --order ZAKÁZKA --assembly SESTAVA"));
-    if (QFileInfo(argumenty[0]).size() > Import::MaxVelikost)
-        throw Error(Chyba::NeplatnyVstup, QStringLiteral("Soubor je větší než 10 MB, nelze ho načíst."));
-    const QString text = Import::dekoduj(Cli::nactiSoubor(argumenty[0]));
+    const QString text = Import::nactiSoubor(argumenty[0]);
     Database& db = Cli::uloziste().dataS();
-    if (Recordset(db, QStringLiteral("SELECT * FROM Zakazky WHERE Zakazka = '") + Dotaz::text(zakazka) +
-                          QStringLiteral("' and Sestava = '") + Dotaz::text(sestava) + QStringLiteral("'"),
-                  Recordset::Rozsah::Prvni)
-            .prazdny())
+    if (!RadkyZakazky::existujeSestava(db, zakazka, sestava))
         throw Error(Chyba::NeplatnyVstup, QStringLiteral("Sestava „%1“ v zakázce „%2“ neexistuje.").arg(sestava, zakazka));
     const Import::Vysledek v = Import::importuj(db, zakazka, sestava, text);
     if (v.odmitnuti)

@@ -2,15 +2,14 @@
 #include "Cli.h"
 #include "Prikazy.h"
 
-#include "core/Dotaz.h"
 #include "core/Error.h"
-#include "core/Recordset.h"
+#include "core/Nastaveni.h"
 #include "core/Uloziste.h"
-#include "core/ZpravaChyby.h"
 #include "optimiser/OdepisOdrezky.h"
 #include "optimiser/PlanRun.h"
+#include "optimiser/StartNP.h"
 #include "optimiser/VypisNP.h"
-#include "core/Nastaveni.h"
+#include "orders/RadkyZakazky.h"
 #include "planoutput/ExportCNC.h"
 #include "planoutput/Stitky.h"
 #include "planoutput/StrankyNP.h"
@@ -38,21 +37,6 @@ double cislo(const QString& text, const char* volba)
     if (!ok)
         throw Cli::ChybaPouziti(QStringLiteral("Volba %1 potřebuje číslo.").arg(QLatin1String(volba)));
     return d;
-}
-
-// The slider of further plan variants runs from 0 to the count of the format's board rows.
-int pocetVariant(Database& dataS, const QString& zakazka, double idFormatu)
-{
-    Recordset rs(dataS, QStringLiteral("SELECT * FROM Zakazky WHERE Zakazka = '") + Dotaz::text(zakazka) +
-                            QStringLiteral("' and IDFormat =") + Dotaz::cislo(idFormatu) +
-                            QStringLiteral(" ORDER BY Oznaceni"));
-    return rs.recordCount();
-}
-
-// The messages of a failed remaking of the plan database.
-Error chybaPracovniDatabaze(const Error& e)
-{
-    return Error(e.cislo(), ZpravaChyby::pracovniDatabaze(e), e.podrobnosti());
 }
 
 // The plan pages in the layout of VykresleniTabule, and the labels, each written whole.
@@ -95,15 +79,12 @@ int prikazPlan(const QStringList& vstup)
     const ZpusobNP z = zpusob(rezim);
 
     Uloziste& u = Cli::uloziste();
-    if (Recordset(u.dataS(), QStringLiteral("SELECT * FROM Zakazky WHERE Zakazka = '") + Dotaz::text(zakazka) +
-                                 QStringLiteral("'"),
-                  Recordset::Rozsah::Prvni)
-            .prazdny())
+    if (!RadkyZakazky::existuje(u.dataS(), zakazka))
         throw Error(Chyba::NeplatnyVstup, QStringLiteral("Zakázka „%1“ neexistuje.").arg(zakazka));
     const auto formaty = PlanRun::formatySDeskami(u.dataS(), zakazka);
     if (std::none_of(formaty.begin(), formaty.end(), [&](const FormatNP& f) { return f.ID == idFormatu; }))
         throw Error(Chyba::NeplatnyVstup, QStringLiteral("V zakázce není co nařezat!!!!!"));
-    const int varianty = pocetVariant(u.dataS(), zakazka, idFormatu);
+    const int varianty = StartNP::pocetVariant(u.dataS(), zakazka, idFormatu);
     const int v = volba.isNull() ? 0 : int(cislo(volba, "--volba"));
     if (v < 0 || v > varianty)
         throw Error(Chyba::NeplatnyVstup, QStringLiteral("Volba --volba může být 0 až %1.").arg(varianty));
@@ -114,7 +95,7 @@ int prikazPlan(const QStringList& vstup)
         run.SpustNP(zakazka, idFormatu, z, v);
     } catch (const Error& e) {
         if (!u.maDataK())
-            throw chybaPracovniDatabaze(e);
+            throw StartNP::chybaPracovniDatabaze(e);
         throw;
     }
     if (!pdf.isNull() || !stitky.isNull())

@@ -4,10 +4,9 @@
 
 #include "catalogues/Cenik.h"
 #include "catalogues/Knihovna.h"
-#include "core/CilZapisu.h"
 #include "core/Error.h"
+#include "core/Soubory.h"
 #include "core/Uloziste.h"
-#include "core/ZpravaChyby.h"
 #include "orders/Prislusenstvi.h"
 #include "printing/Dokument.h"
 #include "printing/Obrazky.h"
@@ -18,8 +17,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QSaveFile>
-#include <cerrno>
 
 namespace {
 
@@ -29,10 +26,7 @@ void pocet(const QStringList& argumenty, int kolik)
         throw Cli::ChybaPouziti(QStringLiteral("Nesprávný počet údajů příkazu."));
 }
 
-[[noreturn]] void odmitni(const QString& text)
-{
-    throw Error(Chyba::NeplatnyVstup, text);
-}
+[[noreturn]] void odmitni(const QString& text) { throw Error(Chyba::NeplatnyVstup, text); }
 
 Knihovna::Druh druh(QStringList& argumenty)
 {
@@ -49,23 +43,11 @@ int ide(const QString& text)
 }
 
 // A JSON value as the window's field would hold it: numbers as their text, text as it stands.
-QString jakoText(const QJsonValue& v)
-{
-    return v.isDouble() ? QString::number(v.toDouble(), 'g', 15) : v.toString();
-}
-
-void zapis(const QString& cesta, const QByteArray& bajty)
-{
-    CilZapisu::zkontroluj(cesta);
-    QSaveFile f(cesta);
-    errno = 0;
-    if (!f.open(QIODevice::WriteOnly) || f.write(bajty) != bajty.size() || !f.commit())
-        throw ZpravaChyby::souboru(cesta, f.errorString());
-}
+QString jakoText(const QJsonValue& v) { return v.isDouble() ? QString::number(v.toDouble(), 'g', 15) : v.toString(); }
 
 QJsonObject jakoJson(const Cenik::Polozka& p)
 {
-    return {{QStringLiteral("kod"), double(p.kod)}, {QStringLiteral("nazev"), p.nazev}, {QStringLiteral("cena"), p.cena},
+    return {{QStringLiteral("kod"), double(p.kod)},   {QStringLiteral("nazev"), p.nazev},     {QStringLiteral("cena"), p.cena},
             {QStringLiteral("jednotka"), p.jednotka}, {QStringLiteral("skupina"), p.skupina}, {QStringLiteral("obr1"), p.obr1},
             {QStringLiteral("obr2"), p.obr2}};
 }
@@ -142,7 +124,7 @@ int prikazPictureGet(const QStringList& argumenty)
     const auto bajty = Knihovna::data(Cli::uloziste().cenik(), d, ide(a[0]));
     if (!bajty)
         odmitni(QStringLiteral("Obrázek č. %1 v knihovně není.").arg(a[0]));
-    zapis(a[1], *bajty);
+    Soubory::zapis(a[1], *bajty);
     return Cli::Hotovo;
 }
 
@@ -199,11 +181,7 @@ int prikazPictureRender(const QStringList& argumenty)
     if (velikost.isValid())
         obr = Obrazky::vepsany(obr, velikost);
     const QByteArray format = a[1].endsWith(QLatin1String(".ppm"), Qt::CaseInsensitive) ? "ppm" : "png";
-    CilZapisu::zkontroluj(a[1]);
-    QSaveFile f(a[1]);
-    errno = 0;
-    if (!f.open(QIODevice::WriteOnly) || !QImageWriter(&f, format).write(obr) || !f.commit())
-        throw ZpravaChyby::souboru(a[1], f.errorString());
+    Soubory::zapis(a[1], [&](QIODevice& zarizeni) { return QImageWriter(&zarizeni, format).write(obr); });
     return Cli::Hotovo;
 }
 
@@ -219,7 +197,7 @@ int prikazAccessoryAdd(const QStringList& argumenty)
         if (cena.isNull())
             cena = QString::number(p->cena, 'g', 15);
     }
-    if (!Prislusenstvi::UlozitPrislusenstvi(Cli::uloziste().dataS(), Cli::prompt(), QString(), a[0], a[1],
+    if (!Prislusenstvi::UlozitPrislusenstvi(Cli::uloziste().dataS(), Cli::prompt(), false, a[0], a[1],
                                             {a[2], a[3], jednotka, cena}))
         return Cli::Odmitnuto;
     return Cli::Hotovo;

@@ -4,13 +4,13 @@
 #include "optimiser/VypisNP.h"
 
 #include "core/Aplikace.h"
-#include "core/Dotaz.h"
+#include "core/Kolace.h"
 #include "core/Nastaveni.h"
-#include "core/Recordset.h"
 #include "core/Uloziste.h"
 #include "exchange/SkladJson.h"
-#include "orders/Kopirovani.h"
 #include "exchange/ZakazkaJson.h"
+#include "orders/Kopirovani.h"
+#include "orders/RadkyZakazky.h"
 
 #include <QJsonDocument>
 
@@ -104,10 +104,7 @@ int prikazAssemblyCopy(const QStringList& argumenty)
     const QString& sestava = argumenty[1];
     const QString& cil = argumenty[2];
     // within the order it is "save as" and needs the name; onto another order the name follows
-    const bool vZakazce = Recordset(db, QStringLiteral("SELECT * FROM Zakazky  WHERE Zakazka = '") + Dotaz::text(cil) +
-                                            QStringLiteral("' and Zakazka = '") + Dotaz::text(zakazka) + QStringLiteral("'"),
-                                    Recordset::Rozsah::Prvni)
-                              .prazdny() == false;
+    const bool vZakazce = Kolace::porovnej(cil, zakazka) == 0 && RadkyZakazky::existuje(db, zakazka);
     if (vZakazce) {
         if (argumenty.size() != 4)
             throw Cli::ChybaPouziti(QStringLiteral("Kopie sestavy ve stejné zakázce potřebuje nový název."));

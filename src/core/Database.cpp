@@ -9,18 +9,13 @@
 #include <QFileInfo>
 #include <sqlite3.h>
 
-void Database::Zavri::operator()(sqlite3* db) const noexcept
-{
-    sqlite3_close_v2(db);
-}
+void Database::Zavri::operator()(sqlite3* db) const noexcept { sqlite3_close_v2(db); }
 
 Database::Database(const QString& soubor, Rezim rezim) : m_soubor(soubor)
 {
     if (!QFileInfo(soubor).isFile())
-        throw Error(Chyba::PristupKSouboru,
-                    QStringLiteral("Soubor databáze %1 nebyl nalezen.").arg(soubor));
-    const int priznaky =
-        rezim == Rezim::JenCteni ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE;
+        throw Error(Chyba::PristupKSouboru, QStringLiteral("Soubor databáze %1 nebyl nalezen.").arg(soubor));
+    const int priznaky = rezim == Rezim::JenCteni ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE;
     sqlite3* db = nullptr;
     const int rc = sqlite3_open_v2(QFile::encodeName(soubor).constData(), &db, priznaky, nullptr);
     m_db.reset(db);
@@ -31,9 +26,7 @@ Database::Database(const QString& soubor, Rezim rezim) : m_soubor(soubor)
 
     // Reading the marks is the first touch of the file: a foreign file fails here.
     if (applicationId() != Schema::ApplicationId || userVersion() > Schema::Verze)
-        throw Error(Chyba::TabulkaChybi,
-                    QStringLiteral("Soubor %1 neobsahuje platná data pro tento program.")
-                        .arg(soubor));
+        throw Error(Chyba::TabulkaChybi, QStringLiteral("Soubor %1 neobsahuje platná data pro tento program.").arg(soubor));
     if (rezim == Rezim::Pracovni)
         executeSqlite(QStringLiteral("PRAGMA journal_mode=OFF; PRAGMA synchronous=OFF; "
                                      "PRAGMA locking_mode=EXCLUSIVE; PRAGMA temp_store=MEMORY"));
@@ -58,19 +51,17 @@ void Database::executeSqlite(const QString& sql, const QVariantList& hodnoty)
     const auto p = prikaz(sql);
     for (int i = 0; i < hodnoty.size(); ++i)
         p->navaz(i + 1, hodnoty[i]);
-    while (p->krok()) {
-    }
+    while (p->krok()) {}
     p->reset();
 }
 
-void Database::execute(const QString& jet)
-{
-    executeSqlite(Dotaz::preloz(jet));
-}
+void Database::execute(const QString& jet) { executeSqlite(Dotaz::preloz(jet)); }
 
-QVariant Database::hodnota(const QString& jet)
+QVariant Database::hodnota(const QString& jet, const QVariantList& hodnoty)
 {
     const auto p = prikaz(Dotaz::preloz(jet));
+    for (int i = 0; i < hodnoty.size(); ++i)
+        p->navaz(i + 1, hodnoty[i]);
     QVariant v;
     if (p->krok())
         v = p->sloupec(0);
@@ -78,10 +69,7 @@ QVariant Database::hodnota(const QString& jet)
     return v;
 }
 
-void Database::vacuumInto(const QString& cil)
-{
-    executeSqlite(QStringLiteral("VACUUM INTO ?"), {cil});
-}
+void Database::vacuumInto(const QString& cil) { executeSqlite(QStringLiteral("VACUUM INTO ?"), {cil}); }
 
 std::shared_ptr<Prikaz> Database::prikaz(const QString& sql)
 {
@@ -112,15 +100,9 @@ const Database::Sloupce& Database::popis(const QString& tabulka)
     return *m_sloupce.insert(klic, s);
 }
 
-const QStringList& Database::sloupce(const QString& tabulka)
-{
-    return popis(tabulka).nazvy;
-}
+const QStringList& Database::sloupce(const QString& tabulka) { return popis(tabulka).nazvy; }
 
-int Database::indexSloupce(const QString& tabulka, const QString& pole)
-{
-    return popis(tabulka).index.value(pole.toLower(), -1);
-}
+int Database::indexSloupce(const QString& tabulka, const QString& pole) { return popis(tabulka).index.value(pole.toLower(), -1); }
 
 int Database::applicationId()
 {

@@ -36,8 +36,9 @@ public:
     void execute(const QString& jet);
     // Runs SQLite text as it stands, with bound values; for our own statements.
     void executeSqlite(const QString& sql, const QVariantList& hodnoty = {});
-    // First column of the first row of a query in the old dialect; null when no row.
-    QVariant hodnota(const QString& jet);
+    // First column of the first row of a query in the old dialect, each `?` bound in order to
+    // hodnoty; null when no row.
+    QVariant hodnota(const QString& jet, const QVariantList& hodnoty = {});
     // Compacted copy into cil, which must not exist. Throws Error.
     void vacuumInto(const QString& cil);
 

@@ -3,9 +3,9 @@
 #include "core/Aplikace.h"
 #include "core/Soubory.h"
 #include "core/Error.h"
+#include "core/Soubory.h"
 
 #include <QFile>
-#include <QSaveFile>
 #include <QStringDecoder>
 
 namespace Jazyk {
@@ -16,20 +16,62 @@ using D = Druh;
 std::vector<Cil> sestav()
 {
     std::vector<Cil> c;
-    auto pridej = [&c](Druh druh, const char* nazev, int index = 0) {
-        c.push_back({int(c.size()) + 1, druh, nazev, index});
-    };
-    for (const char* n : {"Zakazka", "NZakazka", "UpraveniZakazky", "UlozeniJakoZ", "SmazaniZakazky", "Sestava",
-                          "NSestava", "USestava", "UlozeniSestavyJako", "SmazaniSestavy", "Format", "NF", "UF", "SF",
-                          "Hrana", "NH", "UH", "SH", "PlMaterial", "NovyPloM", "UpraveniPM", "SmazaniPM",
-                          "Prislusenstvi", "NoveP", "UpraveniP", "SmazaniP", "Moznosti", "Konec", "Doplnky", "SO",
-                          "CTM", "DSS", "DOC", "Zakazky", "Data", "Vz", "OD", "Vypisy", "NP", "SMZ", "SMDS",
-                          "RychlaKalkulace", "KS", "NM", "CN", "JazykNastaveni", "cestina", "Anglictina", "Napoveda",
-                          "NapovedaObsah", "OProgramu"})
+    auto pridej = [&c](Druh druh, const char* nazev, int index = 0) { c.push_back({int(c.size()) + 1, druh, nazev, index}); };
+    for (const char* n : {"Zakazka",
+                          "NZakazka",
+                          "UpraveniZakazky",
+                          "UlozeniJakoZ",
+                          "SmazaniZakazky",
+                          "Sestava",
+                          "NSestava",
+                          "USestava",
+                          "UlozeniSestavyJako",
+                          "SmazaniSestavy",
+                          "Format",
+                          "NF",
+                          "UF",
+                          "SF",
+                          "Hrana",
+                          "NH",
+                          "UH",
+                          "SH",
+                          "PlMaterial",
+                          "NovyPloM",
+                          "UpraveniPM",
+                          "SmazaniPM",
+                          "Prislusenstvi",
+                          "NoveP",
+                          "UpraveniP",
+                          "SmazaniP",
+                          "Moznosti",
+                          "Konec",
+                          "Doplnky",
+                          "SO",
+                          "CTM",
+                          "DSS",
+                          "DOC",
+                          "Zakazky",
+                          "Data",
+                          "Vz",
+                          "OD",
+                          "Vypisy",
+                          "NP",
+                          "SMZ",
+                          "SMDS",
+                          "RychlaKalkulace",
+                          "KS",
+                          "NM",
+                          "CN",
+                          "JazykNastaveni",
+                          "cestina",
+                          "Anglictina",
+                          "Napoveda",
+                          "NapovedaObsah",
+                          "OProgramu"})
         pridej(D::Popisek, n);
     pridej(D::Tip, "tbNapoveda");
-    for (const char* n : {"tbNZ", "tbOZ", "tbNPZ", "tbUPZ", "tbOPZ", "tbNPM", "tbUPM", "tbOPM", "tbNPR", "tbUPR",
-                          "tbOPR", "tbCTM", "tbNP", "tbMoznosti", "tbZD", "tbODZ", "tbSklad"})
+    for (const char* n : {"tbNZ", "tbOZ", "tbNPZ", "tbUPZ", "tbOPZ", "tbNPM", "tbUPM", "tbOPM", "tbNPR", "tbUPR", "tbOPR",
+                          "tbCTM", "tbNP", "tbMoznosti", "tbZD", "tbODZ", "tbSklad"})
         pridej(D::Tip, n);
     pridej(D::Popisek, "lblNapis1");
     pridej(D::Tip, "panel2");
@@ -57,10 +99,7 @@ std::vector<Cil> sestav()
     return c;
 }
 
-[[noreturn]] void poskozeny()
-{
-    throw Error(Chyba::NeplatnyVstup, QStringLiteral("Soubor jazykové verze je poškozený!!!"));
-}
+[[noreturn]] void poskozeny() { throw Error(Chyba::NeplatnyVstup, QStringLiteral("Soubor jazykové verze je poškozený!!!")); }
 
 } // namespace
 
@@ -83,15 +122,9 @@ const std::vector<Cil>& cile()
     return c;
 }
 
-QString nazevSouboru(Soubor s)
-{
-    return s == Soubor::Cestina ? QStringLiteral("czech.txt") : QStringLiteral("english.txt");
-}
+QString nazevSouboru(Soubor s) { return s == Soubor::Cestina ? QStringLiteral("czech.txt") : QStringLiteral("english.txt"); }
 
-QString cesta(Soubor s)
-{
-    return Aplikace::cesta(nazevSouboru(s));
-}
+QString cesta(Soubor s) { return Aplikace::cesta(nazevSouboru(s)); }
 
 QByteArray vestaveny(Soubor s)
 {
@@ -128,10 +161,8 @@ void zapisChybejici()
     for (Soubor s : {Soubor::Cestina, Soubor::Anglictina}) {
         if (QFile::exists(cesta(s)))
             continue;
-        QSaveFile f(cesta(s));
-        if (!f.open(QIODevice::WriteOnly) || f.write(vestaveny(s)) < 0 || !f.commit())
-            throw Error(Chyba::PristupKSouboru, QStringLiteral("Soubor %1 nelze zapsat.").arg(cesta(s)));
+        Soubory::zapis(cesta(s), vestaveny(s));
     }
 }
 
-}
+} // namespace Jazyk

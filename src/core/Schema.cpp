@@ -35,13 +35,10 @@ const Tabulka tabulkyDef[] = {
      "CDesky:I Oznaceni:T Sestava:T x:R y:R OV:A IDHX1:R IDHX2:R IDHY1:R IDHY2:R popis:T ID:A "
      "XD:R YD:R tabule:I OTOC:A PlochaKZ:R SumaKZ:R PlochaKZBOV:R SumaKZBOV:R PlochaKZSLOUPEC:R "
      "SumaKZSloupec:R PlochaKZBOVSLOUPEC:R SumaKZBOVSloupec:R PVT:A PD:A Part:I"},
-    {"SoupisTabuli", Soubor::Data, true,
-     "CT:I NCT:I Material:T x:R y:R OTOC:A ID:A PocetRezu:I"},
-    {"SoupisZbytku", Soubor::Data, true,
-     "Oznaceni:T CT:I Rada:I cislo:I XZP:R YZP:R XDP:R YDP:R ID:A plocha:R celkemY:R Part:I"},
+    {"SoupisTabuli", Soubor::Data, true, "CT:I NCT:I Material:T x:R y:R OTOC:A ID:A PocetRezu:I"},
+    {"SoupisZbytku", Soubor::Data, true, "Oznaceni:T CT:I Rada:I cislo:I XZP:R YZP:R XDP:R YDP:R ID:A plocha:R celkemY:R Part:I"},
     {"SoupisDesekKZ", Soubor::Data, true, "x:R y:R OV:A OTOC:A XD:R YD:R ID:A"},
-    {"SoupisZbytkuKZ", Soubor::Data, true,
-     "Oznaceni:T Rada:I cislo:I CT:I XZP:R YZP:R XDP:R YDP:R ID:A"},
+    {"SoupisZbytkuKZ", Soubor::Data, true, "Oznaceni:T Rada:I cislo:I CT:I XZP:R YZP:R XDP:R YDP:R ID:A"},
     {"Plochy", Soubor::Data, true, "plocha:T hodnota:R YPSILON1:R YPSILON2:R Rada:A"},
     {"SoupisProKalkulaci", Soubor::Data, true,
      "ID:A cislo:I Material:T Sestava:T popis:T Oznaceni:T pocetsestav:R schema:I mnozstvi:R "
@@ -53,8 +50,7 @@ const Tabulka tabulkyDef[] = {
      "ID:A cislo:I Sestava:T popis:T Poznamka:T schema:I RozmerX:R RozmerY:R IDHX1:R IDHX2:R "
      "IDHY1:R IDHY2:R BarvaVNPHX1:I BarvaVNPHX2:I BarvaVNPHY1:I BarvaVNPHY2:I BarvaHranyVNP:I "
      "Material:T Oznaceni:T OV:A mnozstvi:R pocetsestav:R delka:R jednotka:T"},
-    {"Cenik", Soubor::Cenik, false,
-     "kod:I nazev:T Cena:R jednotka:T skupina:T obr1:I obr2:I"},
+    {"Cenik", Soubor::Cenik, false, "kod:I nazev:T Cena:R jednotka:T skupina:T obr1:I obr2:I"},
     {"Obrazky", Soubor::Cenik, false, "IDE:I nazev:T OBR:B"},
     {"Schemata", Soubor::Cenik, false, "IDE:I nazev:T OBR:B"},
 };
@@ -64,16 +60,11 @@ QString definiceSloupce(const QString& popis, bool pracovni)
     const QString nazev = popis.section(QLatin1Char(':'), 0, 0);
     const QChar druh = popis.section(QLatin1Char(':'), 1, 1).at(0);
     switch (druh.toLatin1()) {
-    case 'T':
-        return nazev + QStringLiteral(" TEXT COLLATE ") + QLatin1String(Kolace::Nazev);
-    case 'R':
-        return nazev + (pracovni ? QStringLiteral(" REAL NOT NULL DEFAULT 0") : QStringLiteral(" REAL"));
-    case 'I':
-        return nazev + (pracovni ? QStringLiteral(" INTEGER NOT NULL DEFAULT 0") : QStringLiteral(" INTEGER"));
-    case 'A':
-        return nazev + QStringLiteral(" INTEGER NOT NULL DEFAULT 0");
-    default:
-        return nazev + QStringLiteral(" BLOB");
+    case 'T': return nazev + QStringLiteral(" TEXT COLLATE ") + QLatin1String(Kolace::Nazev);
+    case 'R': return nazev + (pracovni ? QStringLiteral(" REAL NOT NULL DEFAULT 0") : QStringLiteral(" REAL"));
+    case 'I': return nazev + (pracovni ? QStringLiteral(" INTEGER NOT NULL DEFAULT 0") : QStringLiteral(" INTEGER"));
+    case 'A': return nazev + QStringLiteral(" INTEGER NOT NULL DEFAULT 0");
+    default: return nazev + QStringLiteral(" BLOB");
     }
 }
 
@@ -141,9 +132,7 @@ QStringList sloupce(const QString& tabulka)
 
 void vytvor(const QString& cesta, Soubor soubor)
 {
-    QString sql = QStringLiteral("PRAGMA application_id = %1; PRAGMA user_version = %2; BEGIN;")
-                      .arg(ApplicationId)
-                      .arg(Verze);
+    QString sql = QStringLiteral("PRAGMA application_id = %1; PRAGMA user_version = %2; BEGIN;").arg(ApplicationId).arg(Verze);
     for (const Tabulka& t : tabulkyDef)
         if (t.soubor == soubor)
             sql += createTable(t);
@@ -153,8 +142,8 @@ void vytvor(const QString& cesta, Soubor soubor)
     const QString docasny = Soubory::docasny(cesta, QStringLiteral("vytvor"));
     {
         sqlite3* db = nullptr;
-        int rc = sqlite3_open_v2(QFile::encodeName(docasny).constData(), &db,
-                                 SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
+        int rc =
+            sqlite3_open_v2(QFile::encodeName(docasny).constData(), &db, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
         std::unique_ptr<sqlite3, int (*)(sqlite3*)> drzitel(db, sqlite3_close_v2);
         SqliteChyba::zkontroluj(db, rc, cesta);
         Kolace::registruj(db);
@@ -164,7 +153,7 @@ void vytvor(const QString& cesta, Soubor soubor)
             drzitel.reset();
             QFile::remove(docasny);
             if (sys)
-                throw Error(SqliteChyba::cisloProErrno(sys), ZpravaChyby::text(SqliteChyba::cisloProErrno(sys), cesta, sys),
+                throw Error(Chyba::cisloProErrno(sys), ZpravaChyby::text(Chyba::cisloProErrno(sys), cesta, sys),
                             cesta);
             SqliteChyba::vyhod(nullptr, rc, cesta);
         }
@@ -177,4 +166,4 @@ void vytvor(const QString& cesta, Soubor soubor)
     }
 }
 
-}
+} // namespace Schema

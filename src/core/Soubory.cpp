@@ -1,10 +1,11 @@
 #include "core/Soubory.h"
 
 #include "core/Aplikace.h"
+#include "core/CilZapisu.h"
 #include "core/Error.h"
-#include "core/SqliteChyba.h"
 #include "core/ZpravaChyby.h"
 
+#include <QBuffer>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -33,7 +34,7 @@ bool porucha(const char* operace, const QString& soubor)
 [[noreturn]] void chyba(const QString& text, const QString& soubor)
 {
     const int e = errno;
-    const int cislo = SqliteChyba::cisloProErrno(e);
+    const int cislo = Chyba::cisloProErrno(e);
     throw Error(cislo, ZpravaChyby::text(cislo, soubor, e),
                 QStringLiteral("%1 %2: %3").arg(text, soubor, QString::fromLocal8Bit(strerror(e))));
 }
@@ -51,6 +52,36 @@ void fsync(const QString& cesta, int priznaky)
     errno = e;
     if (rc != 0)
         chyba(QStringLiteral("Nelze uložit na disk"), cesta);
+}
+
+// Writes all of obsah to fd; false with errno set on the first failed write.
+bool zapisVse(int fd, const QString& cesta, const QByteArray& obsah)
+{
+    for (qsizetype hotovo = 0; hotovo < obsah.size();) {
+        if (porucha("write", cesta))
+            return false;
+        const ssize_t w = ::write(fd, obsah.constData() + hotovo, size_t(obsah.size() - hotovo));
+        if (w < 0 && errno != EINTR)
+            return false;
+        hotovo += qMax<ssize_t>(w, 0);
+    }
+    return true;
+}
+
+// Writes and syncs a new file; on failure it is removed and the Error thrown names cil.
+void zapisNovy(const QString& docasny, const QString& cil, const QByteArray& obsah)
+{
+    const int fd = ::open(QFile::encodeName(docasny).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+    if (fd < 0)
+        chyba(QStringLiteral("Nelze vytvořit"), cil);
+    bool dobre = zapisVse(fd, docasny, obsah) && !porucha("sync", docasny) && ::fsync(fd) == 0;
+    const int e = errno;
+    dobre = ::close(fd) == 0 && dobre;
+    if (!dobre) {
+        ::unlink(QFile::encodeName(docasny).constData());
+        errno = e ? e : EIO;
+        chyba(QStringLiteral("Nelze zapsat"), cil);
+    }
 }
 
 // Opens a regular file for reading without waiting on a pipe; throws for anything else.
@@ -93,20 +124,35 @@ QByteArray nacti(const QString& soubor, qint64 nejvys)
     return bajty;
 }
 
-void nastavPoruchu(std::function<int(const char*, const QString&)> p)
+void zapis(const QString& cil, const QByteArray& obsah)
 {
-    g_porucha = std::move(p);
+    CilZapisu::zkontroluj(cil); // what the user names as output never replaces the store
+    const QString docasny = Soubory::docasny(cil, QStringLiteral("zapis"));
+    zapisNovy(docasny, cil, obsah);
+    try {
+        prejmenuj(docasny, cil);
+    } catch (...) {
+        ::unlink(QFile::encodeName(docasny).constData());
+        throw;
+    }
 }
 
-void synchronizuj(const QString& soubor)
+void zapis(const QString& cil, const std::function<bool(QIODevice&)>& plnic)
 {
-    fsync(soubor, O_RDONLY);
+    QByteArray obsah;
+    QBuffer buffer(&obsah);
+    buffer.open(QIODevice::WriteOnly);
+    if (!plnic(buffer))
+        throw Error(Chyba::PristupKSouboru, QStringLiteral("Soubor %1 nelze sestavit.").arg(cil));
+    buffer.close();
+    zapis(cil, obsah);
 }
 
-void synchronizujSlozku(const QString& soubor)
-{
-    fsync(QFileInfo(soubor).absolutePath(), O_RDONLY | O_DIRECTORY);
-}
+void nastavPoruchu(std::function<int(const char*, const QString&)> p) { g_porucha = std::move(p); }
+
+void synchronizuj(const QString& soubor) { fsync(soubor, O_RDONLY); }
+
+void synchronizujSlozku(const QString& soubor) { fsync(QFileInfo(soubor).absolutePath(), O_RDONLY | O_DIRECTORY); }
 
 void prejmenuj(const QString& zdroj, const QString& cil)
 {
@@ -163,4 +209,4 @@ QString docasny(const QString& soubor, const QString& ucel)
            QUuid::createUuid().toString(QUuid::Id128).left(8);
 }
 
-}
+} // namespace Soubory

@@ -3,55 +3,30 @@
 #include "core/Error.h"
 #include "core/ZpravaChyby.h"
 
-#include <cerrno>
 #include <sqlite3.h>
 
 namespace SqliteChyba {
 
-int cisloProErrno(int chyba)
-{
-    switch (chyba) {
-    case ENOSPC:
-#ifdef EDQUOT
-    case EDQUOT:
-#endif
-        return Chyba::DiskPlny;
-    case EROFS:
-    case EACCES:
-    case EPERM:
-        return Chyba::JenProCteni;
-    case EWOULDBLOCK:
-        return Chyba::DatabazePouzivana;
-    default:
-        return Chyba::PristupKSouboru;
-    }
-}
-
 static int cisloPro(sqlite3* db, int rc, const QString& zprava)
 {
     switch (rc & 0xff) {
-    case SQLITE_FULL:
-        return Chyba::DiskPlny;
+    case SQLITE_FULL: return Chyba::DiskPlny;
     case SQLITE_READONLY:
-    case SQLITE_PERM:
-        return Chyba::JenProCteni;
+    case SQLITE_PERM: return Chyba::JenProCteni;
     case SQLITE_BUSY:
-    case SQLITE_LOCKED:
-        return Chyba::DatabazePouzivana;
+    case SQLITE_LOCKED: return Chyba::DatabazePouzivana;
     case SQLITE_NOTADB:
-    case SQLITE_CORRUPT:
-        return Chyba::TabulkaChybi;
+    case SQLITE_CORRUPT: return Chyba::TabulkaChybi;
     case SQLITE_IOERR:
     case SQLITE_CANTOPEN: {
         const int sys = db ? sqlite3_system_errno(db) : 0;
-        return sys ? cisloProErrno(sys) : Chyba::PristupKSouboru;
+        return sys ? Chyba::cisloProErrno(sys) : Chyba::PristupKSouboru;
     }
     case SQLITE_ERROR:
         if (zprava.startsWith(QLatin1String("no such table")))
             return Chyba::TabulkaChybi;
         return Chyba::ChybaDotazu;
-    default:
-        return Chyba::ChybaDotazu;
+    default: return Chyba::ChybaDotazu;
     }
 }
 

@@ -1,5 +1,5 @@
 #pragma once
-// The one place where SQLite result codes and errno become the store's Error numbers.
+// The one place where SQLite result codes become the store's Error numbers (errno: Error.h).
 #include <QString>
 
 struct sqlite3;
@@ -9,6 +9,4 @@ namespace SqliteChyba {
 void zkontroluj(sqlite3* db, int rc, const QString& kontext);
 // The Error for rc (with the connection's message and errno when db is given).
 [[noreturn]] void vyhod(sqlite3* db, int rc, const QString& kontext);
-// The Error number for a failed file operation with the given errno.
-int cisloProErrno(int chyba);
-}
+} // namespace SqliteChyba

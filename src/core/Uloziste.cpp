@@ -38,7 +38,7 @@ Uloziste::Uloziste(bool zalozit)
             return;
         }
     } else if (m_zamek < 0) {
-        throw Error(SqliteChyba::cisloProErrno(errno),
+        throw Error(Chyba::cisloProErrno(errno),
                     QStringLiteral("Soubor %1 nelze otevřít.").arg(Aplikace::zamek()));
     }
     if (::flock(m_zamek, LOCK_EX | LOCK_NB) == 0) {
@@ -86,10 +86,7 @@ Database& Uloziste::dataK()
     return *m_dataK;
 }
 
-void Uloziste::zavriDataK()
-{
-    m_dataK.reset();
-}
+void Uloziste::zavriDataK() { m_dataK.reset(); }
 
 void Uloziste::ObnovPracovniDatabazi()
 {
@@ -142,7 +139,4 @@ Uloziste::Vyhradne::Vyhradne(Uloziste& u) : m_u(u)
     }
 }
 
-Uloziste::Vyhradne::~Vyhradne()
-{
-    ::flock(m_u.m_zamek, LOCK_SH);
-}
+Uloziste::Vyhradne::~Vyhradne() { ::flock(m_u.m_zamek, LOCK_SH); }

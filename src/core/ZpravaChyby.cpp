@@ -2,7 +2,6 @@
 
 #include "core/Aplikace.h"
 #include "core/Error.h"
-#include "core/SqliteChyba.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -33,13 +32,6 @@ QString text(int cislo, const QString& soubor, int chyba)
     default:
         return QStringLiteral("Databáze nemohla požadavek provést.");
     }
-}
-
-Error souboru(const QString& soubor, const QString& podrobnosti)
-{
-    const int e = errno ? errno : EIO;
-    const int cislo = SqliteChyba::cisloProErrno(e);
-    return Error(cislo, text(cislo, soubor, e), podrobnosti);
 }
 
 QString pracovniDatabaze(const Error& e)

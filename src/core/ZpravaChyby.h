@@ -11,9 +11,6 @@ namespace ZpravaChyby {
 // The message for the store's error number; soubor names the file where it is known, chyba
 // the errno of a failed file operation (ENOENT: the file is missing).
 QString text(int cislo, const QString& soubor = QString(), int chyba = 0);
-// The Error of a failed write or read of soubor, by the errno the failing call left (EIO when
-// none); podrobnosti is what the writer said.
-Error souboru(const QString& soubor, const QString& podrobnosti);
 // The message of a failed remaking of the plan database: the old program's two (75 a damaged
 // store, 3356 another program), the failure's own for anything else.
 QString pracovniDatabaze(const Error& e);

@@ -8,15 +8,13 @@
 #include "core/Recordset.h"
 #include "core/Transakce.h"
 #include "core/Uloziste.h"
-#include "costing/PruchodZakazky.h"
 #include "core/Zaokrouhleni.h"
+#include "costing/PruchodZakazky.h"
 
 #include <QLocale>
 
 namespace Kalkulace {
 namespace {
-
-QString z(const QString& t) { return Dotaz::text(t); }
 
 struct Slevy {
     int pm = Sleva(Nastaveni::GetSetting(QStringLiteral("Setting"), QStringLiteral("SlevaPM")));
@@ -46,70 +44,75 @@ void napln(Database& db, const QString& zakazka, const Vyber& vyber, bool celkem
         return celkem ? p.cislo(QStringLiteral("pocetelementuVsestave")) * p.cislo(QStringLiteral("Pocet"))
                       : p.cislo(QStringLiteral("Pocet"));
     };
-    PruchodZakazky::radky(db, zakazka, vyber,
-                          celkem ? QStringLiteral(" ORDER BY Sestava") : QStringLiteral(" ORDER BY Sestava, IDFormat desc, cas"),
-                          [&](const Recordset& p, const QString& sestava) {
-        const QString oznaceni = p.text(QStringLiteral("Oznaceni"));
-        zacniRadek(p, sestava, 1);
-        const double mnozstvi = Zaokrouhli(kusu(p), 3);
-        out.set(QStringLiteral("mnozstvi"), mnozstvi);
-        if (p.cislo(QStringLiteral("IDFormat")) > 1) {
-            const Recordset f = PruchodZakazky::format(db, zakazka, p, sestava);
-            const double x = p.cislo(QStringLiteral("x")), y = p.cislo(QStringLiteral("y"));
-            const double plocha = Zaokrouhli(x * y / 1000000, 2);
-            const double jc = Zaokrouhli(f.cislo(QStringLiteral("CenaBezDPH")) * (1 - s.pm / 100.0), 2);
-            out.set(QStringLiteral("Material"),
-                    celkem ? f.text(QStringLiteral("Material")) + QStringLiteral(" (") +
-                                 Dotaz::cislo(f.cislo(QStringLiteral("RozmerX"))) + QStringLiteral("mm x ") +
-                                 Dotaz::cislo(f.cislo(QStringLiteral("RozmerY"))) + QStringLiteral("mm)")
-                           : Jednotky::RozmerDesky(f.text(QStringLiteral("Material")), f.cislo(QStringLiteral("RozmerX")), f.cislo(QStringLiteral("RozmerY"))));
-            out.set(QStringLiteral("Oznaceni"), Jednotky::RozmerDesky(oznaceni, x, y));
-            out.set(QStringLiteral("plocha"), plocha);
+    PruchodZakazky::radky(
+        db, zakazka, vyber, celkem ? QStringLiteral("Sestava") : QStringLiteral("Sestava, IDFormat desc, cas"),
+        [&](const Recordset& p, const QString& sestava) {
+            const QString oznaceni = p.text(QStringLiteral("Oznaceni"));
+            zacniRadek(p, sestava, 1);
+            const double mnozstvi = Zaokrouhli(kusu(p), 3);
+            out.set(QStringLiteral("mnozstvi"), mnozstvi);
+            if (p.cislo(QStringLiteral("IDFormat")) > 1) {
+                const Recordset f = PruchodZakazky::format(db, zakazka, p, sestava);
+                const double x = p.cislo(QStringLiteral("x")), y = p.cislo(QStringLiteral("y"));
+                const double plocha = Zaokrouhli(x * y / 1000000, 2);
+                const double jc = Zaokrouhli(f.cislo(QStringLiteral("CenaBezDPH")) * (1 - s.pm / 100.0), 2);
+                out.set(QStringLiteral("Material"),
+                        celkem ? f.text(QStringLiteral("Material")) + QStringLiteral(" (") +
+                                     Dotaz::cislo(f.cislo(QStringLiteral("RozmerX"))) + QStringLiteral("mm x ") +
+                                     Dotaz::cislo(f.cislo(QStringLiteral("RozmerY"))) + QStringLiteral("mm)")
+                               : Jednotky::RozmerDesky(f.text(QStringLiteral("Material")), f.cislo(QStringLiteral("RozmerX")),
+                                                       f.cislo(QStringLiteral("RozmerY"))));
+                out.set(QStringLiteral("Oznaceni"), Jednotky::RozmerDesky(oznaceni, x, y));
+                out.set(QStringLiteral("plocha"), plocha);
+                out.set(QStringLiteral("JC"), jc);
+                if (celkem) {
+                    const double plochacelkem = Zaokrouhli(plocha * mnozstvi, 2);
+                    out.set(QStringLiteral("plochacelkem"), plochacelkem);
+                    out.set(QStringLiteral("Cena"), Zaokrouhli(plochacelkem * jc, 2));
+                } else {
+                    out.set(QStringLiteral("Cena"), Zaokrouhli(plocha * mnozstvi * jc, 2));
+                }
+                out.set(QStringLiteral("jednotka"), f.text(QStringLiteral("pouziti")) == QLatin1String("format")
+                                                        ? QStringLiteral("m2")
+                                                        : QStringLiteral("m"));
+            } else {
+                const double jc = Zaokrouhli(p.cislo(QStringLiteral("Cena")) * (1 - s.pris / 100.0), 2);
+                out.set(QStringLiteral("Material"), oznaceni);
+                out.set(QStringLiteral("Oznaceni"), QString());
+                out.set(QStringLiteral("plocha"), 0.0);
+                out.set(QStringLiteral("JC"), jc);
+                out.set(QStringLiteral("Cena"), mnozstvi * jc); // an accessory's line stays unrounded
+                out.set(QStringLiteral("jednotka"), p.value(QStringLiteral("jednotka")));
+            }
+            out.update();
+        });
+    // bands: X sides with the sheet material's discount, Y sides with the band's
+    PruchodZakazky::hrany(
+        db, zakazka, vyber,
+        [&](const Recordset& h, const Recordset& b, const QString& sestava, PruchodZakazky::StranaHrany strana) {
+            const double kusy = kusu(b) * (strana.obe ? 2 : 1);
+            const double delka =
+                Zaokrouhli((b.cislo(QLatin1String(strana.rozmer())) + 2 * h.cislo(QStringLiteral("PresahHrany"))) / 1000, 3);
+            const double jc =
+                Zaokrouhli(h.cislo(QStringLiteral("CenaBezDPH")) * (1 - (strana.cislo == 2 ? s.pm : s.hrana) / 100.0), 2);
+            zacniRadek(b, sestava, strana.cislo);
+            out.set(QStringLiteral("Material"), h.text(QStringLiteral("Material")));
+            out.set(QStringLiteral("Oznaceni"),
+                    Jednotky::RozmerDesky(b.text(QStringLiteral("Oznaceni")), b.cislo(QStringLiteral("x")),
+                                          b.cislo(QStringLiteral("y"))));
+            out.set(QStringLiteral("mnozstvi"), kusy);
+            out.set(QStringLiteral("delka"), delka);
             out.set(QStringLiteral("JC"), jc);
             if (celkem) {
-                const double plochacelkem = Zaokrouhli(plocha * mnozstvi, 2);
-                out.set(QStringLiteral("plochacelkem"), plochacelkem);
-                out.set(QStringLiteral("Cena"), Zaokrouhli(plochacelkem * jc, 2));
+                const double delkacelkem = Zaokrouhli(delka * kusy, 3);
+                out.set(QStringLiteral("delkacelkem"), delkacelkem);
+                out.set(QStringLiteral("Cena"), Zaokrouhli(delkacelkem * jc, 2));
             } else {
-                out.set(QStringLiteral("Cena"), Zaokrouhli(plocha * mnozstvi * jc, 2));
+                out.set(QStringLiteral("Cena"), Zaokrouhli(kusy * delka * jc, 2));
             }
-            out.set(QStringLiteral("jednotka"), f.text(QStringLiteral("pouziti")) == QLatin1String("format")
-                                                    ? QStringLiteral("m2") : QStringLiteral("m"));
-        } else {
-            const double jc = Zaokrouhli(p.cislo(QStringLiteral("Cena")) * (1 - s.pris / 100.0), 2);
-            out.set(QStringLiteral("Material"), oznaceni);
-            out.set(QStringLiteral("Oznaceni"), QString());
-            out.set(QStringLiteral("plocha"), 0.0);
-            out.set(QStringLiteral("JC"), jc);
-            out.set(QStringLiteral("Cena"), mnozstvi * jc); // an accessory's line stays unrounded
-            out.set(QStringLiteral("jednotka"), p.value(QStringLiteral("jednotka")));
-        }
-        out.update();
-    });
-    // bands: X sides with the sheet material's discount, Y sides with the band's
-    PruchodZakazky::hrany(db, zakazka, vyber, [&](const Recordset& h, const Recordset& b, const QString& sestava,
-                                                  PruchodZakazky::StranaHrany strana) {
-        const double kusy = kusu(b) * (strana.obe ? 2 : 1);
-        const double delka = Zaokrouhli((b.cislo(QLatin1String(strana.rozmer())) +
-                                         2 * h.cislo(QStringLiteral("PresahHrany"))) / 1000, 3);
-        const double jc = Zaokrouhli(h.cislo(QStringLiteral("CenaBezDPH")) *
-                                         (1 - (strana.cislo == 2 ? s.pm : s.hrana) / 100.0), 2);
-        zacniRadek(b, sestava, strana.cislo);
-        out.set(QStringLiteral("Material"), h.text(QStringLiteral("Material")));
-        out.set(QStringLiteral("Oznaceni"), Jednotky::RozmerDesky(b.text(QStringLiteral("Oznaceni")), b.cislo(QStringLiteral("x")), b.cislo(QStringLiteral("y"))));
-        out.set(QStringLiteral("mnozstvi"), kusy);
-        out.set(QStringLiteral("delka"), delka);
-        out.set(QStringLiteral("JC"), jc);
-        if (celkem) {
-            const double delkacelkem = Zaokrouhli(delka * kusy, 3);
-            out.set(QStringLiteral("delkacelkem"), delkacelkem);
-            out.set(QStringLiteral("Cena"), Zaokrouhli(delkacelkem * jc, 2));
-        } else {
-            out.set(QStringLiteral("Cena"), Zaokrouhli(kusy * delka * jc, 2));
-        }
-        out.set(QStringLiteral("jednotka"), QStringLiteral("m"));
-        out.update();
-    });
+            out.set(QStringLiteral("jednotka"), QStringLiteral("m"));
+            out.update();
+        });
 }
 
 // A row's quantity in the unit of its price: area, length or pieces.
@@ -133,14 +136,21 @@ std::pair<double, double> soucet(Recordset& g, bool kratPocet)
     return {cena, mnozstvi};
 }
 
-// Each distinct Material of a walk (case-blind, as the store groups), with the group's rows.
-void kazdyMaterial(Database& db, const QString& vyber, const QString& podminka,
+// Each distinct Material of SoupisProKalkulaci (of one assembly when sestava is not null), case-blind as the
+// store groups, with the group's rows.
+void kazdyMaterial(Database& db, const QString& sestava,
                    const std::function<void(const QString& material, Recordset& skupina)>& naMaterial)
 {
-    PruchodZakazky::kazdaSkupina(Recordset(db, vyber), QStringLiteral("Material"), [&](const Recordset& m, int) {
+    const QString vSestave = sestava.isNull() ? QString() : QStringLiteral("Sestava = ? and ");
+    const QVariantList hodnoty = sestava.isNull() ? QVariantList() : QVariantList{sestava};
+    const QString vse = sestava.isNull() ? QStringLiteral("SELECT * FROM SoupisProKalkulaci ORDER BY Material")
+                                         : QStringLiteral("SELECT * FROM SoupisProKalkulaci WHERE Sestava = ? ORDER BY Material");
+    PruchodZakazky::kazdaSkupina(Recordset(db, vse, hodnoty), QStringLiteral("Material"), [&](const Recordset& m, int) {
         const QString material = m.text(QStringLiteral("Material"));
-        Recordset g(db, QStringLiteral("SELECT * FROM SoupisProKalkulaci  WHERE ") + podminka + QStringLiteral("Material = '") +
-                            z(material) + QStringLiteral("' ORDER BY Material"));
+        Recordset g(db,
+                    QStringLiteral("SELECT * FROM SoupisProKalkulaci WHERE ") + vSestave +
+                        QStringLiteral("Material = ? ORDER BY Material"),
+                    hodnoty + QVariantList{material});
         naMaterial(material, g);
     });
 }
@@ -161,23 +171,21 @@ void NaplnKalkulaciSestav(Database& dataK, const QString& zakazka, const Vyber& 
     napln(dataK, zakazka, sestavy, false);
     // totals per assembly and material
     Recordset celkem(dataK, QStringLiteral("SoupisProKalkulaciCelkem"), Recordset::Rozsah::Prvni);
-    PruchodZakazky::kazdaSkupina(Recordset(dataK, QStringLiteral("SELECT * FROM SoupisProKalkulaci  ORDER BY Sestava")),
-                                 QStringLiteral("Sestava"), [&](const Recordset& a, int) {
-        const QString sestava = a.text(QStringLiteral("Sestava"));
-        const QString vSestave = QStringLiteral("Sestava = '") + z(sestava) + QStringLiteral("' and ");
-        kazdyMaterial(dataK, QStringLiteral("SELECT * FROM SoupisProKalkulaci  WHERE Sestava = '") + z(sestava) +
-                                 QStringLiteral("' ORDER BY Material"),
-                      vSestave, [&](const QString& material, Recordset& g) {
-            const auto [cena, mnozstvi] = soucet(g, false);
-            celkem.addNew();
-            celkem.set(QStringLiteral("Material"), material);
-            for (const char* pole : {"Sestava", "schema", "pocetsestav", "popis", "JC", "jednotka", "cislo"})
-                celkem.set(QLatin1String(pole), g.value(QLatin1String(pole)));
-            celkem.set(QStringLiteral("mnozstvi"), mnozstvi);
-            celkem.set(QStringLiteral("Cena"), cena);
-            celkem.update();
+    PruchodZakazky::kazdaSkupina(
+        Recordset(dataK, QStringLiteral("SELECT * FROM SoupisProKalkulaci  ORDER BY Sestava")), QStringLiteral("Sestava"),
+        [&](const Recordset& a, int) {
+            const QString sestava = a.text(QStringLiteral("Sestava"));
+            kazdyMaterial(dataK, sestava, [&](const QString& material, Recordset& g) {
+                const auto [cena, mnozstvi] = soucet(g, false);
+                celkem.addNew();
+                celkem.set(QStringLiteral("Material"), material);
+                for (const char* pole : {"Sestava", "schema", "pocetsestav", "popis", "JC", "jednotka", "cislo"})
+                    celkem.set(QLatin1String(pole), g.value(QLatin1String(pole)));
+                celkem.set(QStringLiteral("mnozstvi"), mnozstvi);
+                celkem.set(QStringLiteral("Cena"), cena);
+                celkem.update();
+            });
         });
-    });
     t.commit();
 }
 
@@ -188,8 +196,7 @@ void NaplnKalkulaciMaterialu(Database& dataK, const QString& zakazka, const Vybe
     napln(dataK, zakazka, sestavy, false);
     // totals per material over the order: one piece's rows times the assembly count
     Recordset celkem(dataK, QStringLiteral("SoupisProKalkulaciCelkem"), Recordset::Rozsah::Prvni);
-    kazdyMaterial(dataK, QStringLiteral("SELECT * FROM SoupisProKalkulaci  ORDER BY Material"), QStringLiteral(" "),
-                  [&](const QString& material, Recordset& g) {
+    kazdyMaterial(dataK, QString(), [&](const QString& material, Recordset& g) {
         const auto [cena, mnozstvi] = soucet(g, true);
         const bool hrana = g.cislo(QStringLiteral("delka")) != 0;
         const bool prislusenstvi = !hrana && g.cislo(QStringLiteral("plocha")) == 0;
@@ -199,7 +206,9 @@ void NaplnKalkulaciMaterialu(Database& dataK, const QString& zakazka, const Vybe
             celkem.set(QLatin1String(pole), g.value(QLatin1String(pole)));
         celkem.set(QStringLiteral("mnozstvi"), mnozstvi);
         celkem.set(QStringLiteral("Cena"), cena);
-        celkem.set(QStringLiteral("popis"), hrana ? QStringLiteral("Hrana") : prislusenstvi ? QStringLiteral("Prislusenstvi") : QString());
+        celkem.set(QStringLiteral("popis"), hrana           ? QStringLiteral("Hrana")
+                                            : prislusenstvi ? QStringLiteral("Prislusenstvi")
+                                                            : QString());
         celkem.update();
     });
     t.commit();
@@ -214,8 +223,9 @@ Ceny ZobrazCeny(Uloziste& u, const QString& zakazka, const QString& sestava)
 {
     const QString mena = Nastaveni::GetSetting(QStringLiteral("Setting2"), QStringLiteral("Mena"));
     auto text = [&](const QVariant& soucet) {
-        return (soucet.isNull() ? QString() : QString::number(sDPH(Zaokrouhli(soucet.toDouble(), 2)), 'f', 2)
-                                                   .replace(QLatin1Char('.'), Jednotky::oddelovac())) +
+        return (soucet.isNull() ? QString()
+                                : QString::number(sDPH(Zaokrouhli(soucet.toDouble(), 2)), 'f', 2)
+                                      .replace(QLatin1Char('.'), Jednotky::oddelovac())) +
                QLatin1Char(' ') + mena;
     };
     Ceny c;
@@ -226,8 +236,8 @@ Ceny ZobrazCeny(Uloziste& u, const QString& zakazka, const QString& sestava)
         c.zakazka = text(k.hodnota(QStringLiteral("SELECT sum(cena) FROM SoupisProKalkulaci  ")));
         if (!sestava.isEmpty()) {
             NaplnKalkulaciSestav(k, zakazka);
-            c.sestava = text(k.hodnota(QStringLiteral("SELECT sum(cena) FROM SoupisProKalkulaciCelkem  WHERE Sestava = '") +
-                                       z(sestava) + QStringLiteral("'  ")));
+            c.sestava =
+                text(k.hodnota(QStringLiteral("SELECT sum(cena) FROM SoupisProKalkulaciCelkem WHERE Sestava = ?"), {sestava}));
         }
     } catch (...) {
         u.zavriDataK();
@@ -237,4 +247,4 @@ Ceny ZobrazCeny(Uloziste& u, const QString& zakazka, const QString& sestava)
     return c;
 }
 
-}
+} // namespace Kalkulace

@@ -20,7 +20,7 @@ bool vybrana(const Vyber& v, const QString& sestava);
 void kazdaSkupina(Recordset&& r, const QString& pole, const std::function<void(const Recordset& r, int poradi)>& naSkupinu);
 
 // Each row of each chosen assembly with a stamp (cas > 0) and a name, in the given order
-// (the text after "cas > 0 "). A header row that kept its stamp after its last item went
+// (the field list after ORDER BY). A header row that kept its stamp after its last item went
 // has no name and is left out.
 void radky(Database& db, const QString& zakazka, const Vyber& vyber, const QString& poradi,
            const std::function<void(const Recordset& radek, const QString& sestava)>& naRadek);
@@ -35,10 +35,10 @@ struct StranaHrany {
 // Each band of the order ("hrana" rows of ZakazkyMaterialy), each board of a chosen assembly
 // that uses it, each side of the board that carries it.
 void hrany(Database& db, const QString& zakazka, const Vyber& vyber,
-           const std::function<void(const Recordset& hrana, const Recordset& deska, const QString& sestava,
-                                    StranaHrany strana)>& naStranu);
+           const std::function<void(const Recordset& hrana, const Recordset& deska, const QString& sestava, StranaHrany strana)>&
+               naStranu);
 
 // The format row of a board; throws Error 5 naming board and assembly when it is gone.
 Recordset format(Database& db, const QString& zakazka, const Recordset& deska, const QString& sestava);
 
-}
+} // namespace PruchodZakazky

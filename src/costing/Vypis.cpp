@@ -1,13 +1,12 @@
 #include "costing/Vypis.h"
 
+#include "catalogues/Knihovna.h"
 #include "core/Database.h"
-#include "core/Dotaz.h"
 #include "core/Jednotky.h"
-#include "core/Recordset.h"
 #include "core/Nastaveni.h"
 #include "core/Razitko.h"
+#include "core/Recordset.h"
 #include "core/Zaokrouhleni.h"
-#include "printing/Obrazky.h"
 
 #include <algorithm>
 
@@ -18,15 +17,9 @@ QString castka(double v, int mist)
     return QString::number(Zaokrouhli(v, mist), 'f', mist).replace(QLatin1Char('.'), Jednotky::oddelovac());
 }
 
-QString mena()
-{
-    return Nastaveni::GetSetting(QStringLiteral("Setting2"), QStringLiteral("Mena"));
-}
+QString mena() { return Nastaveni::GetSetting(QStringLiteral("Setting2"), QStringLiteral("Mena")); }
 
-double procentoDPH()
-{
-    return Nastaveni::cislo(QStringLiteral("Setting2"), QStringLiteral("DPH"));
-}
+double procentoDPH() { return Nastaveni::cislo(QStringLiteral("Setting2"), QStringLiteral("DPH")); }
 
 Qt::Alignment zarovnani(int kod)
 {
@@ -71,8 +64,7 @@ void souhrn(Dokument& d, const QStringList& bunky)
 {
     d.pismo.velikost = 8;
     d.pismo.tucne = true;
-    Tabulka t{std::vector<double>(bunky.size(), Dokument::mm(25)),
-              std::vector<Qt::Alignment>(bunky.size(), zarovnani(8))};
+    Tabulka t{std::vector<double>(bunky.size(), Dokument::mm(25)), std::vector<Qt::Alignment>(bunky.size(), zarovnani(8))};
     t.vpravo = true;
     d.AddRow(t, RadekTabulky{bunky, Dokument::mm(5)});
     d.pismo.tucne = false;
@@ -100,8 +92,7 @@ void schema(Dokument& d, Database& cenik, double ide)
 {
     if (ide == 0)
         return;
-    const Recordset r(cenik, QStringLiteral("select * FROM Schemata where IDE = ") + Dotaz::cislo(ide), Recordset::Rozsah::Prvni);
-    const QImage obr = r.eof() ? QImage() : Obrazky::dekoduj(r.value(QStringLiteral("OBR")).toByteArray());
+    const QImage obr = Knihovna::obrazek(cenik, Knihovna::Druh::Schemata, int(ide));
     if (obr.isNull())
         return;
     zlomStranyPodPrahem(d);
@@ -136,9 +127,9 @@ void souhrnDane(Dokument& d, const Dan& dan, const VzhledDane& vzhled)
     const double nejsirsi = std::max({d.TextWidth(castka(dan.zaklad) + m), d.TextWidth(castka(dan.celkem) + m)}) + 120;
     const Tabulka t{{Dokument::mm(vzhled.levy), std::max(Dokument::mm(vzhled.pravy), nejsirsi)}, {Qt::AlignLeft, Qt::AlignRight}};
     d.AddRow(t, RadekTabulky{{QStringLiteral("Základ daně"), castka(dan.zaklad) + m}, Dokument::mm(7)});
-    d.AddRow(t, RadekTabulky{{QStringLiteral("DPH ( ") + Jednotky::cislo(procentoDPH()) + QStringLiteral("% )"),
-                              castka(dan.dph) + m},
-                             Dokument::mm(7)});
+    d.AddRow(
+        t, RadekTabulky{{QStringLiteral("DPH ( ") + Jednotky::cislo(procentoDPH()) + QStringLiteral("% )"), castka(dan.dph) + m},
+                        Dokument::mm(7)});
     RadekTabulky celkem{{QStringLiteral("Celkem včetně DPH"), castka(dan.celkem) + m}, Dokument::mm(7)};
     celkem.pozadiBunek = {QColor(), vzhled.pozadiCelkem};
     d.AddRow(t, celkem);
@@ -155,8 +146,7 @@ void textVRamecku(Dokument& d, const QString& text, double x, double y)
 
 } // namespace
 
-void prekryv(Dokument& d, const QString& titulek, const QString& zakazka, const QStringList& sestavy,
-             const QString& poznamka)
+void prekryv(Dokument& d, const QString& titulek, const QString& zakazka, const QStringList& sestavy, const QString& poznamka)
 {
     const Pismo puvodni = d.pismo;
     const QString ted = Razitko::ted().toString(QStringLiteral("d.M.yyyy H:mm:ss"));
@@ -187,15 +177,15 @@ void prekryv(Dokument& d, const QString& titulek, const QString& zakazka, const 
             d.pismo.podtrzene = false;
         } else {
             textVRamecku(d, QStringLiteral("Poznámka:"), d.MarginLeft, Dokument::mm(40));
-            d.TextBox(poznamka, QRectF(x, Dokument::mm(40), d.PageWidth() - d.MarginRight - 2000 - x,
-                                       Dokument::mm(10)),
+            d.TextBox(poznamka, QRectF(x, Dokument::mm(40), d.PageWidth() - d.MarginRight - 2000 - x, Dokument::mm(10)),
                       Qt::AlignLeft | Qt::AlignTop);
         }
         d.pismo.velikost = 6;
         d.pismo.kurziva = true;
         const double y = d.PageHeight() - d.MarginBottom + d.TextHeight(QStringLiteral("X"));
         textVRamecku(d, ted, d.MarginLeft, y);
-        const QString strana = QStringLiteral("Strana  ") + QString::number(p) + QStringLiteral(" / ") + QString::number(d.PageCount());
+        const QString strana =
+            QStringLiteral("Strana  ") + QString::number(p) + QStringLiteral(" / ") + QString::number(d.PageCount());
         textVRamecku(d, strana, d.PageWidth() / 2 - d.TextWidth(strana) / 2, y);
         const QString program = QStringLiteral("Pracovní stůl truhlářské dílny - Truhlář");
         textVRamecku(d, program, d.PageWidth() - d.MarginRight - d.TextWidth(program) - 20, y);
@@ -206,4 +196,4 @@ void prekryv(Dokument& d, const QString& titulek, const QString& zakazka, const 
     d.pismo = puvodni;
 }
 
-}
+} // namespace Vypis

@@ -8,9 +8,13 @@
 #include "core/Prompt.h"
 #include "core/Razitko.h"
 #include "core/Recordset.h"
+#include "core/Soubory.h"
 #include "core/Transakce.h"
 #include "core/Val.h"
+#include "orders/RadkyZakazky.h"
 
+#include <QFile>
+#include <QFileInfo>
 #include <QHash>
 #include <QMap>
 #include <QRandomGenerator>
@@ -105,19 +109,7 @@ class Zapis {
 public:
     Zapis(Database& db, const QString& zakazka, const QString& sestava) : m_db(db), m_zakazka(zakazka), m_sestava(sestava) {}
 
-    QString sestavy() const
-    {
-        return QStringLiteral("SELECT * FROM Zakazky WHERE Zakazka = '") + Dotaz::text(m_zakazka) +
-               QStringLiteral("' and Sestava = '") + Dotaz::text(m_sestava) + QStringLiteral("'");
-    }
-
-    bool existuje(const QString& nazev) const
-    {
-        return !Recordset(m_db, sestavy() + QStringLiteral(" and Oznaceni = '") + Dotaz::text(nazev) +
-                                    QStringLiteral("'ORDER BY Oznaceni"),
-                          Recordset::Rozsah::Prvni)
-                    .prazdny();
-    }
+    bool existuje(const QString& nazev) const { return RadkyZakazky::polozka(m_db, m_zakazka, m_sestava, nazev).has_value(); }
 
     // "deska n" for an empty name, "name n" for a taken one: the first free n. Names are only
     // added while importing, so the search for a base goes on from where it last stood.
@@ -138,17 +130,10 @@ public:
         const QString nazev = QStringLiteral("hrana ") + tloustka;
         if (const auto it = m_hrany.find(nazev.toLower()); it != m_hrany.end())
             return *it;
-        const Recordset rs(m_db, QStringLiteral("SELECT * FROM ZakazkyMaterialy WHERE Zakazka = '") + Dotaz::text(m_zakazka) +
-                                     QStringLiteral("' and Material = '") + Dotaz::text(nazev) + QStringLiteral("'"),
-                           Recordset::Rozsah::Prvni);
-        double id = rs.eof() ? 0 : rs.cislo(QStringLiteral("ID"));
-        if (rs.eof()) {
-            id = Razitko::volne([&](double s) {
-                return !Recordset(m_db, QStringLiteral("SELECT * FROM ZakazkyMaterialy WHERE Zakazka = '") +
-                                            Dotaz::text(m_zakazka) + QStringLiteral("' and ID = ") + Dotaz::cislo(s),
-                                  Recordset::Rozsah::Prvni)
-                            .prazdny();
-            });
+        const auto rs = RadkyZakazky::materialPodleNazvu(m_db, m_zakazka, nazev);
+        double id = rs ? rs->cislo(QStringLiteral("ID")) : 0;
+        if (!rs) {
+            id = Razitko::volne([&](double s) { return RadkyZakazky::material(m_db, m_zakazka, s).has_value(); });
             Recordset n(m_db, QStringLiteral("ZakazkyMaterialy"), Recordset::Rozsah::Prvni);
             n.addNew();
             n.set(QStringLiteral("ID"), id);
@@ -169,7 +154,7 @@ public:
     void deska(const Radek& r, const QString& nazev, double idFormat, const double hrany[4], double cas)
     {
         if (!m_nactena) {
-            Recordset vse(m_db, sestavy() + QStringLiteral("ORDER BY Sestava"));
+            Recordset vse = RadkyZakazky::radkySestavy(m_db, m_zakazka, m_sestava, QStringLiteral("Sestava"));
             for (const char* pole : {"Zakazka", "Sestava", "pocetelementuVsestave", "popis", "schema", "Poznamka", "datum"})
                 m_hlavicka[QLatin1String(pole)] = vse.eof() ? QVariant() : vse.value(QLatin1String(pole));
             vse.moveLast();
@@ -213,10 +198,23 @@ private:
 
 } // namespace
 
+namespace {
+
+[[noreturn]] void velky() { throw Error(Chyba::NeplatnyVstup, QStringLiteral("Soubor je větší než 10 MB, nelze ho načíst.")); }
+
+} // namespace
+
+QString nactiSoubor(const QString& cesta)
+{
+    if (QFileInfo(cesta).size() > MaxVelikost)
+        velky();
+    return dekoduj(Soubory::nacti(cesta)); // a regular file only: a pipe or a device is refused
+}
+
 QString dekoduj(const QByteArray& obsah)
 {
     if (obsah.size() > MaxVelikost)
-        throw Error(Chyba::NeplatnyVstup, QStringLiteral("Soubor je větší než 10 MB, nelze ho načíst."));
+        velky();
     if (obsah.startsWith("\xFF\xFE") || obsah.startsWith("\xFE\xFF")) {
         QStringDecoder d(obsah.startsWith("\xFF\xFE") ? QStringConverter::Utf16LE : QStringConverter::Utf16BE);
         return d(obsah.mid(2));
@@ -235,9 +233,7 @@ QString dekoduj(const QByteArray& obsah)
 
 Vysledek importuj(Database& db, const QString& zakazka, const QString& sestava, const QString& text, Prubeh* prubeh)
 {
-    const Recordset format(db, QStringLiteral("SELECT * FROM ZakazkyMaterialy  WHERE Zakazka = '") + Dotaz::text(zakazka) +
-                                   QStringLiteral("' and Pouziti <> 'hrana' "),
-                           Recordset::Rozsah::Prvni);
+    const Recordset format = RadkyZakazky::materialy(db, zakazka, RadkyZakazky::Pouziti::Formaty);
     const bool maFormat = !format.eof();
     const double idFormat = maFormat ? format.cislo(QStringLiteral("ID")) : 0;
 
@@ -291,4 +287,4 @@ Vysledek importuj(Database& db, const QString& zakazka, const QString& sestava, 
     return v;
 }
 
-}
+} // namespace Import

@@ -17,6 +17,9 @@ constexpr qint64 MaxVelikost = 10 * 1024 * 1024;
 // UTF-8 (with a BOM or valid), else Windows-1250. Throws Error 5 for a file with NUL bytes
 // (not UTF-16) or over MaxVelikost.
 QString dekoduj(const QByteArray& obsah);
+// The file's text by dekoduj, its size checked before it is read. Throws Error 5 as dekoduj,
+// 75 when the file cannot be read.
+QString nactiSoubor(const QString& cesta);
 
 // A refused import: the message and the line (from 1, empty lines counted; 0 for none).
 struct Odmitnuti {
@@ -35,4 +38,4 @@ struct Vysledek {
 Vysledek importuj(Database& db, const QString& zakazka, const QString& sestava, const QString& text,
                   Prubeh* prubeh = nullptr);
 
-}
+} // namespace Import

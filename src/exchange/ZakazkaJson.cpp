@@ -1,13 +1,13 @@
 #include "exchange/ZakazkaJson.h"
 
 #include "core/Database.h"
-#include "core/Dotaz.h"
 #include "core/Error.h"
 #include "core/Kolace.h"
 #include "core/Razitko.h"
 #include "core/Recordset.h"
 #include "core/Transakce.h"
 #include "exchange/CteniJson.h"
+#include "orders/RadkyZakazky.h"
 #include "orders/Strom.h"
 
 #include <QJsonArray>
@@ -24,10 +24,7 @@ constexpr int MaxNazevPrislusenstvi = 100;
 constexpr double MaxRozmer = 100000;
 constexpr double MaxId = 1e15; // spliced with 15 digits, so it must stay exact
 
-[[noreturn]] void odmitni(const QString& text)
-{
-    CteniJson::odmitni(text);
-}
+[[noreturn]] void odmitni(const QString& text) { CteniJson::odmitni(text); }
 
 struct Material {
     double id;
@@ -60,10 +57,7 @@ struct Zakazka {
     std::vector<Sestava> sestavy{};
 };
 
-bool stejneJmeno(const QString& a, const QString& b)
-{
-    return Kolace::porovnej(a, b) == 0;
-}
+bool stejneJmeno(const QString& a, const QString& b) { return Kolace::porovnej(a, b) == 0; }
 
 std::vector<Material> ctiMaterialy(const CteniJson& z, bool hrany, std::set<double>& idy)
 {
@@ -92,8 +86,7 @@ std::vector<Material> ctiMaterialy(const CteniJson& z, bool hrany, std::set<doub
 
 bool maMaterial(const std::vector<Material>& materialy, double id, bool hrana)
 {
-    return std::any_of(materialy.begin(), materialy.end(),
-                       [&](const Material& m) { return m.id == id && m.hrana == hrana; });
+    return std::any_of(materialy.begin(), materialy.end(), [&](const Material& m) { return m.id == id && m.hrana == hrana; });
 }
 
 // A board left without a name is named as the board dialog names it: "deska N", the first N
@@ -142,14 +135,16 @@ Polozka ctiPrislusenstvi(const CteniJson& p, const QJsonObject& o, const std::ve
     if (pr.oznaceni.size() > MaxNazevPrislusenstvi)
         odmitni(QStringLiteral("%1: Název nového příslušenstvi smí obsahovat maximálně 100 znaků!!!").arg(p.kde()));
     const QJsonValue mnozstvi = o.value(QStringLiteral("mnozstvi")), cena = o.value(QStringLiteral("cena"));
-    if (!mnozstvi.isDouble() || !(mnozstvi.toDouble() > 0) || (!cena.isUndefined() && (!cena.isDouble() || !(cena.toDouble() >= 0))))
+    if (!mnozstvi.isDouble() || !(mnozstvi.toDouble() > 0) ||
+        (!cena.isUndefined() && (!cena.isDouble() || !(cena.toDouble() >= 0))))
         odmitni(QStringLiteral("%1: Zadejte množství a cenu číslem.").arg(p.kde()));
     pr.pocet = p.cislo("mnozstvi", 0, 1e9, true);
     pr.jednotka = p.text("jednotka", false);
     pr.cena = p.cislo("cena", 0, 1e9, false);
     for (const Polozka& d : dosud)
         if (d.oznaceni.compare(pr.oznaceni, Qt::CaseInsensitive) == 0)
-            odmitni(QStringLiteral("%1: Příslušenství v sestavě již pod tímto názvem existuje, zadejte jiný název !!!").arg(p.kde()));
+            odmitni(
+                QStringLiteral("%1: Příslušenství v sestavě již pod tímto názvem existuje, zadejte jiný název !!!").arg(p.kde()));
     return pr;
 }
 
@@ -165,10 +160,10 @@ Sestava ctiSestavu(const CteniJson& s, const std::vector<Material>& materialy)
                                            materialy, sestava.polozky));
     const QJsonArray prislusenstvi = s.pole("prislusenstvi");
     for (int j = 0; j < prislusenstvi.size(); ++j)
-        sestava.polozky.push_back(ctiPrislusenstvi(CteniJson(prislusenstvi[j],
-                                                             QStringLiteral("%1, příslušenství č. %2").arg(kde).arg(j + 1),
-                                                             {"oznaceni", "mnozstvi", "jednotka", "cena"}),
-                                                     prislusenstvi[j].toObject(), sestava.polozky));
+        sestava.polozky.push_back(
+            ctiPrislusenstvi(CteniJson(prislusenstvi[j], QStringLiteral("%1, příslušenství č. %2").arg(kde).arg(j + 1),
+                                       {"oznaceni", "mnozstvi", "jednotka", "cena"}),
+                             prislusenstvi[j].toObject(), sestava.polozky));
     return sestava;
 }
 
@@ -289,10 +284,7 @@ QString nacti(Database& dataS, const QByteArray& json)
 {
     Zakazka z = cti(json);
     Transakce t(dataS);
-    const Recordset existuje(dataS, QStringLiteral("SELECT * FROM Zakazky  WHERE Zakazka = '") +
-                                        Dotaz::text(z.nazev) + QStringLiteral("'"),
-                             Recordset::Rozsah::Prvni);
-    if (!existuje.prazdny())
+    if (RadkyZakazky::existuje(dataS, z.nazev))
         odmitni(QStringLiteral("Zakazka pod tímhle názvem již existuje, zadejte jiný nazev !!!"));
     zapisMaterialy(dataS, z);
     zapisRadky(dataS, z);
@@ -302,12 +294,11 @@ QString nacti(Database& dataS, const QByteArray& json)
 
 QJsonObject vypis(Database& dataS, const QString& zakazka)
 {
-    const QString kde = QStringLiteral(" WHERE Zakazka = '") + Dotaz::text(zakazka) + QStringLiteral("'");
-    Recordset radky(dataS, QStringLiteral("SELECT * FROM Zakazky") + kde);
+    Recordset radky = RadkyZakazky::radky(dataS, zakazka);
     if (radky.prazdny())
         odmitni(QStringLiteral("Zakázka „%1“ neexistuje.").arg(zakazka));
     QJsonArray formaty, hrany;
-    for (Recordset m(dataS, QStringLiteral("SELECT * FROM ZakazkyMaterialy") + kde); !m.eof(); m.moveNext()) {
+    for (Recordset m = RadkyZakazky::materialy(dataS, zakazka); !m.eof(); m.moveNext()) {
         QJsonObject o{{QStringLiteral("id"), cislo(m.cislo(QStringLiteral("ID")))},
                       {QStringLiteral("material"), m.text(QStringLiteral("Material"))},
                       {QStringLiteral("cena"), cislo(m.cislo(QStringLiteral("CenaBezDPH")))}};
@@ -390,4 +381,4 @@ QStringList seznam(Database& dataS)
     return zakazky;
 }
 
-}
+} // namespace ZakazkaJson

@@ -1,28 +1,26 @@
 #include "orders/Desky.h"
 
 #include "core/Database.h"
-#include "core/Dotaz.h"
 #include "core/KontrolaTextu.h"
-#include "orders/RadkySestavy.h"
 #include "core/Jednotky.h"
 #include "core/Prompt.h"
 #include "core/Razitko.h"
 #include "core/Recordset.h"
 #include "core/Transakce.h"
 #include "orders/Materialy.h"
+#include "orders/RadkyZakazky.h"
 
 namespace Desky {
 namespace {
 
 const char* const hranyPole[] = {"IDHX1", "IDHX2", "IDHY1", "IDHY2"};
 
-using RadkySestavy::podleNazvu;
-
+using RadkyZakazky::polozka;
 
 Deska cti(const Recordset& rs)
 {
     Deska d{rs.text(QStringLiteral("Oznaceni")), rs.cislo(QStringLiteral("x")), rs.cislo(QStringLiteral("y")),
-            rs.cislo(QStringLiteral("Pocet")), rs.ano(QStringLiteral("OV")), rs.cislo(QStringLiteral("IDFormat"))};
+            rs.cislo(QStringLiteral("Pocet")),   rs.ano(QStringLiteral("OV")),  rs.cislo(QStringLiteral("IDFormat"))};
     for (int i = 0; i < 4; ++i)
         d.hrany[i] = rs.cislo(QLatin1String(hranyPole[i]));
     return d;
@@ -46,14 +44,14 @@ QString nazevNoveDesky(Database& db, const QString& zakazka, const QString& sest
         return nazev;
     for (int n = 1;; ++n) {
         const QString zkouska = QStringLiteral("deska %1").arg(n);
-        if (!podleNazvu(db, zakazka, sestava, zkouska))
+        if (!polozka(db, zakazka, sestava, zkouska))
             return zkouska;
     }
 }
 
 bool duplicita(Database& db, Prompt& p, const QString& zakazka, const QString& sestava, const QString& nazev)
 {
-    if (!podleNazvu(db, zakazka, sestava, nazev))
+    if (!polozka(db, zakazka, sestava, nazev))
         return false;
     p.zprava(QStringLiteral("Název desky již v sestavě existuje"), QString(), Prompt::Ikona::Kriticka);
     return true;
@@ -61,8 +59,8 @@ bool duplicita(Database& db, Prompt& p, const QString& zakazka, const QString& s
 
 } // namespace
 
-Nahled NahledDesky(const QString& x, const QString& y, const QString& pocet, const QString& format,
-                   const QString (&hrany)[4], const std::vector<Materialy::Material>& pasky)
+Nahled NahledDesky(const QString& x, const QString& y, const QString& pocet, const QString& format, const QString (&hrany)[4],
+                   const std::vector<Materialy::Material>& pasky)
 {
     Nahled n;
     n.vykreslit = !x.isEmpty() && !y.isEmpty();
@@ -77,17 +75,13 @@ Nahled NahledDesky(const QString& x, const QString& y, const QString& pocet, con
 std::vector<RadekGridu> NaplnitGridPM(Database& db, const QString& zakazka, const QString& sestava)
 {
     std::vector<RadekGridu> radky;
-    for (Recordset rs(db, QStringLiteral("SELECT * FROM Zakazky  WHERE Zakazka = '") + Dotaz::text(zakazka) +
-                              QStringLiteral("' and Sestava = '") + Dotaz::text(sestava) +
-                              QStringLiteral("' and IDFormat > 1  ORDER BY cas"));
+    for (Recordset rs(db, QStringLiteral("SELECT * FROM Zakazky WHERE Zakazka = ? and Sestava = ? and IDFormat > 1 ORDER BY cas"),
+                      {zakazka, sestava});
          !rs.eof(); rs.moveNext()) {
         RadekGridu r{cti(rs), QString()};
-        const Recordset f(db, QStringLiteral("SELECT * FROM ZakazkyMaterialy  WHERE Zakazka = '") + Dotaz::text(zakazka) +
-                                  QStringLiteral("' and ID = ") + Dotaz::cislo(r.deska.idFormat),
-                          Recordset::Rozsah::Prvni);
-        if (!f.eof())
-            r.format = Jednotky::RozmerDesky(f.text(QStringLiteral("Material")), f.cislo(QStringLiteral("RozmerX")),
-                                             f.cislo(QStringLiteral("RozmerY")));
+        if (const auto f = RadkyZakazky::material(db, zakazka, r.deska.idFormat))
+            r.format = Jednotky::RozmerDesky(f->text(QStringLiteral("Material")), f->cislo(QStringLiteral("RozmerX")),
+                                             f->cislo(QStringLiteral("RozmerY")));
         radky.push_back(r);
     }
     return radky;
@@ -95,7 +89,7 @@ std::vector<RadekGridu> NaplnitGridPM(Database& db, const QString& zakazka, cons
 
 Deska nacti(Database& db, const QString& zakazka, const QString& sestava, const QString& oznaceni)
 {
-    auto rs = podleNazvu(db, zakazka, sestava, oznaceni);
+    auto rs = polozka(db, zakazka, sestava, oznaceni);
     return rs ? cti(*rs) : Deska{};
 }
 
@@ -103,40 +97,28 @@ QString UlozitNovyPM(Database& db, Prompt& p, const QString& zakazka, const QStr
 {
     if (!KontrolaTextu::prijmi(p, {{d.oznaceni, QStringLiteral("Označení desky")}}))
         return QString();
-    Transakce t(db);
     const QString nazev = nazevNoveDesky(db, zakazka, sestava, d.oznaceni);
     if (duplicita(db, p, zakazka, sestava, nazev))
-        return QString();
-    Recordset vse(db, RadkySestavy::dotaz(zakazka, sestava) + QStringLiteral("ORDER BY Sestava"));
-    vse.moveLast();
-    if (vse.recordCount() < 2 && !vse.eof() && vse.text(QStringLiteral("Oznaceni")).isEmpty()) {
-        vse.edit(); // the first item takes over the assembly's header row
-        zapis(vse, d, nazev);
-        vse.set(QStringLiteral("cas"), Razitko::sekundy(Razitko::ted()));
-        vse.update();
-    } else {
-        Recordset rs(db, QStringLiteral("Zakazky"), Recordset::Rozsah::Prvni);
-        rs.addNew();
-        for (const char* pole : {"Zakazka", "Sestava", "pocetelementuVsestave", "popis", "schema", "Poznamka", "datum"})
-            rs.set(QLatin1String(pole), vse.eof() ? QVariant() : vse.value(QLatin1String(pole)));
-        zapis(rs, d, nazev);
-        rs.set(QStringLiteral("cas"), Razitko::sekundy(Razitko::ted()));
-        rs.update();
-    }
+        return QString(); // refused before the transaction: no lock is held while the message stands
+    Transakce t(db);
+    Recordset rs = RadkyZakazky::radekProPolozku(db, zakazka, sestava);
+    zapis(rs, d, nazev);
+    rs.set(QStringLiteral("cas"), Razitko::sekundy(Razitko::ted()));
+    rs.update();
     t.commit();
     return nazev;
 }
 
-QString UlozitUpravuPM(Database& db, Prompt& p, const QString& zakazka, const QString& sestava,
-                       const QString& staryNazev, const Deska& d)
+QString UlozitUpravuPM(Database& db, Prompt& p, const QString& zakazka, const QString& sestava, const QString& staryNazev,
+                       const Deska& d)
 {
     if (!KontrolaTextu::prijmi(p, {{d.oznaceni, QStringLiteral("Označení desky")}}))
         return QString();
-    Transakce t(db);
     const QString nazev = nazevNoveDesky(db, zakazka, sestava, d.oznaceni);
     if (nazev != staryNazev && duplicita(db, p, zakazka, sestava, nazev))
         return QString();
-    auto rs = podleNazvu(db, zakazka, sestava, staryNazev);
+    Transakce t(db);
+    auto rs = polozka(db, zakazka, sestava, staryNazev);
     if (!rs)
         return QString();
     rs->edit();
@@ -149,15 +131,13 @@ QString UlozitUpravuPM(Database& db, Prompt& p, const QString& zakazka, const QS
 bool SmazatPM(Database& db, Prompt& p, const QString& zakazka, const QString& sestava, const QString& oznaceni)
 {
     const Deska d = nacti(db, zakazka, sestava, oznaceni);
-    if (p.zprava(QStringLiteral("Chcete odstranit tuto desku - ") + oznaceni + QStringLiteral(" (") +
-                     Jednotky::ZMilimetru(d.x) + QStringLiteral(" x ") + Jednotky::ZMilimetru(d.y) + QStringLiteral(")") +
-                     QStringLiteral(" - ?"),
-                 QStringLiteral("Odstranění desky"), Prompt::Ikona::Otaznik, Prompt::Tlacitka::AnoNe) !=
-        Prompt::Odpoved::Ano)
+    if (p.zprava(QStringLiteral("Chcete odstranit tuto desku - ") + oznaceni + QStringLiteral(" (") + Jednotky::ZMilimetru(d.x) +
+                     QStringLiteral(" x ") + Jednotky::ZMilimetru(d.y) + QStringLiteral(")") + QStringLiteral(" - ?"),
+                 QStringLiteral("Odstranění desky"), Prompt::Ikona::Otaznik, Prompt::Tlacitka::AnoNe) != Prompt::Odpoved::Ano)
         return false;
     Transakce t(db);
-    Recordset vse(db, RadkySestavy::dotaz(zakazka, sestava));
-    auto rs = podleNazvu(db, zakazka, sestava, oznaceni);
+    Recordset vse = RadkyZakazky::radkySestavy(db, zakazka, sestava);
+    auto rs = polozka(db, zakazka, sestava, oznaceni);
     if (rs && vse.recordCount() < 2) {
         rs->edit(); // the row stays as the assembly's header
         rs->set(QStringLiteral("Oznaceni"), QString());
@@ -171,4 +151,4 @@ bool SmazatPM(Database& db, Prompt& p, const QString& zakazka, const QString& se
     return true;
 }
 
-}
+} // namespace Desky

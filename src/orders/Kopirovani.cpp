@@ -1,13 +1,13 @@
 #include "orders/Kopirovani.h"
 
 #include "core/Database.h"
-#include "core/Dotaz.h"
 #include "core/KontrolaTextu.h"
 #include "core/Error.h"
 #include "core/Prompt.h"
 #include "core/Razitko.h"
 #include "core/Recordset.h"
 #include "core/Transakce.h"
+#include "orders/RadkyZakazky.h"
 
 #include <QHash>
 #include <functional>
@@ -15,18 +15,12 @@
 namespace Kopirovani {
 namespace {
 
-const char* const PoleZakazky[] = {"Zakazka", "Poznamka", "datum", "Sestava", "pocetelementuVsestave", "popis", "schema",
-                                   "IDFormat", "Oznaceni", "cas", "x", "y", "OV", "Pocet", "Cena", "jednotka",
-                                   "IDHX1", "IDHX2", "IDHY1", "IDHY2"};
-const char* const PoleMaterialu[] = {"ID", "Zakazka", "Material", "RozmerX", "RozmerY", "OV", "pouziti",
-                                     "CenaBezDPH", "BarvaVNP", "PresahHrany"};
-
-QString z(const QString& t) { return Dotaz::text(t); }
-
-QString sZakazkou(const QString& zakazka)
-{
-    return QStringLiteral("SELECT * FROM Zakazky  WHERE Zakazka = '") + z(zakazka) + QStringLiteral("'");
-}
+const char* const PoleZakazky[] = {"Zakazka",  "Poznamka", "datum",    "Sestava",  "pocetelementuVsestave",
+                                   "popis",    "schema",   "IDFormat", "Oznaceni", "cas",
+                                   "x",        "y",        "OV",       "Pocet",    "Cena",
+                                   "jednotka", "IDHX1",    "IDHX2",    "IDHY1",    "IDHY2"};
+const char* const PoleMaterialu[] = {"ID", "Zakazka", "Material",   "RozmerX",  "RozmerY",
+                                     "OV", "pouziti", "CenaBezDPH", "BarvaVNP", "PresahHrany"};
 
 // Adds a copy of each row of zdroj to its table, the fields listed, then zmena on top.
 template <size_t N>
@@ -47,22 +41,21 @@ void kopiruj(Database& db, const QString& tabulka, Recordset& zdroj, const char*
 
 void kontrolaZakazky(Database& db, const QString& zakazka, const QString& novy)
 {
-    if (Recordset(db, sZakazkou(zakazka), Recordset::Rozsah::Prvni).eof())
+    if (!RadkyZakazky::existuje(db, zakazka))
         odmitni(QStringLiteral("Zakázka „%1“ neexistuje.").arg(zakazka));
     if (novy.size() > MaxNazevZakazky)
         odmitni(QStringLiteral("nazev zakázky smí obsahovat maximálně 50-sát znaků! "));
-    if (!Recordset(db, sZakazkou(novy) + QStringLiteral(" ORDER BY Zakazka"), Recordset::Rozsah::Prvni).eof())
+    if (RadkyZakazky::existuje(db, novy))
         odmitni(QStringLiteral("Zakazka pod tímhle názvem již existuje, zadejte jiný nazev !!!"));
 }
 
 void kontrolaSestavy(Database& db, const QString& zakazka, const QString& sestava, const QString& novy)
 {
-    const QString v = sZakazkou(zakazka) + QStringLiteral(" and Sestava = '");
-    if (sestava.isEmpty() || Recordset(db, v + z(sestava) + QStringLiteral("' "), Recordset::Rozsah::Prvni).eof())
+    if (sestava.isEmpty() || !RadkyZakazky::existujeSestava(db, zakazka, sestava))
         odmitni(QStringLiteral("Sestava „%1“ v zakázce „%2“ neexistuje.").arg(sestava, zakazka));
     if (novy.size() > MaxNazevSestavy)
         odmitni(QStringLiteral("Název sestavy smí obsahovat maximálně 7 znaků! "));
-    if (!Recordset(db, v + z(novy) + QStringLiteral("' "), Recordset::Rozsah::Prvni).eof())
+    if (RadkyZakazky::existujeSestava(db, zakazka, novy))
         odmitni(QStringLiteral("Sestava pod tímhle názvem již v  zakázce existuje, zadejte jiný název !!!"));
 }
 
@@ -95,13 +88,12 @@ void kopirujZakazku(Database& db, const QString& zakazka, const QString& novy)
     kontrolaZakazky(db, zakazka, novy);
     Transakce t(db);
     const double datum = Razitko::den(Razitko::ted());
-    Recordset radky(db, sZakazkou(zakazka) + QStringLiteral(" ORDER BY Zakazka"));
+    Recordset radky = RadkyZakazky::radky(db, zakazka, QStringLiteral("Zakazka"));
     kopiruj(db, QStringLiteral("Zakazky"), radky, PoleZakazky, [&](Recordset& c, const Recordset&) {
         c.set(QStringLiteral("Zakazka"), novy);
         c.set(QStringLiteral("datum"), datum);
     });
-    Recordset materialy(db, QStringLiteral("SELECT * FROM ZakazkyMaterialy  WHERE Zakazka = '") + z(zakazka) +
-                                QStringLiteral("' ORDER BY Zakazka"));
+    Recordset materialy = RadkyZakazky::materialy(db, zakazka);
     kopiruj(db, QStringLiteral("ZakazkyMaterialy"), materialy, PoleMaterialu,
             [&](Recordset& c, const Recordset&) { c.set(QStringLiteral("Zakazka"), novy); });
     t.commit();
@@ -114,7 +106,7 @@ void kopirujSestavu(Database& db, const QString& zakazka, const QString& sestava
     KontrolaTextu::zkontroluj(novy, QStringLiteral("Název sestavy"));
     kontrolaSestavy(db, zakazka, sestava, novy);
     Transakce t(db);
-    Recordset radky(db, sZakazkou(zakazka) + QStringLiteral(" and Sestava = '") + z(sestava) + QStringLiteral("' ORDER BY Sestava"));
+    Recordset radky = RadkyZakazky::radkySestavy(db, zakazka, sestava, QStringLiteral("Sestava"));
     kopiruj(db, QStringLiteral("Zakazky"), radky, PoleZakazky,
             [&](Recordset& c, const Recordset&) { c.set(QStringLiteral("Sestava"), novy); });
     t.commit();
@@ -122,47 +114,36 @@ void kopirujSestavu(Database& db, const QString& zakazka, const QString& sestava
 
 QString KopirovaniSestavy(Database& db, const QString& zakazka, const QString& sestava, const QString& cil)
 {
-    const Recordset cilova(db, sZakazkou(cil), Recordset::Rozsah::Prvni);
+    const Recordset cilova = RadkyZakazky::radky(db, cil, {}, Recordset::Rozsah::Prvni);
     if (cilova.eof())
         odmitni(QStringLiteral("Zakázka „%1“ neexistuje.").arg(cil));
-    if (sestava.isEmpty() ||
-        Recordset(db, sZakazkou(zakazka) + QStringLiteral(" and Sestava = '") + z(sestava) + QStringLiteral("' "),
-                  Recordset::Rozsah::Prvni)
-            .eof())
+    if (sestava.isEmpty() || !RadkyZakazky::existujeSestava(db, zakazka, sestava))
         odmitni(QStringLiteral("Sestava „%1“ v zakázce „%2“ neexistuje.").arg(sestava, zakazka));
     Transakce t(db);
     QString nazev = sestava;
-    while (!Recordset(db, sZakazkou(cil) + QStringLiteral(" and Sestava = '") + z(nazev) + QStringLiteral("' "),
-                      Recordset::Rozsah::Prvni)
-                .eof())
+    while (RadkyZakazky::existujeSestava(db, cil, nazev))
         nazev += QLatin1Char('_');
     // the materials first: an ID the target uses for another material gets a stamp of its own
     QHash<qint64, double> noveId;
-    for (Recordset m(db, QStringLiteral("SELECT * FROM ZakazkyMaterialy  WHERE Zakazka = '") + z(zakazka) +
-                             QStringLiteral("' ORDER BY Zakazka"));
-         !m.eof(); m.moveNext()) {
+    for (Recordset m = RadkyZakazky::materialy(db, zakazka); !m.eof(); m.moveNext()) {
         const double id = m.cislo(QStringLiteral("ID"));
         const QString material = m.text(QStringLiteral("Material"));
-        const QString vCili = QStringLiteral("SELECT * FROM ZakazkyMaterialy  WHERE Zakazka = '") + z(cil) + QStringLiteral("' and ");
-        const Recordset stejne(db, vCili + QStringLiteral("ID = ") + Dotaz::cislo(id), Recordset::Rozsah::Prvni);
-        if (!stejne.eof() && stejne.text(QStringLiteral("Material")) == material)
+        const auto stejne = RadkyZakazky::material(db, cil, id);
+        if (stejne && stejne->text(QStringLiteral("Material")) == material)
             continue;
         double idVCili = id;
-        if (!stejne.eof()) {
-            const Recordset podleJmena(db, vCili + QStringLiteral("Material = '") + z(material) + QStringLiteral("' and pouziti = '") +
-                                               z(m.text(QStringLiteral("pouziti"))) + QStringLiteral("'"),
-                                       Recordset::Rozsah::Prvni);
+        if (stejne) {
+            const Recordset podleJmena(
+                db, QStringLiteral("SELECT * FROM ZakazkyMaterialy WHERE Zakazka = ? and Material = ? and pouziti = ?"),
+                {cil, material, m.text(QStringLiteral("pouziti"))}, Recordset::Rozsah::Prvni);
             if (!podleJmena.eof()) {
                 noveId.insert(qint64(id), podleJmena.cislo(QStringLiteral("ID")));
                 continue;
             }
-            idVCili = Razitko::volne([&](double kandidat) {
-                return !Recordset(db, vCili + QStringLiteral("ID = ") + Dotaz::cislo(kandidat), Recordset::Rozsah::Prvni).eof();
-            });
+            idVCili = Razitko::volne([&](double kandidat) { return RadkyZakazky::material(db, cil, kandidat).has_value(); });
             noveId.insert(qint64(id), idVCili);
         }
-        Recordset jeden(db, QStringLiteral("SELECT * FROM ZakazkyMaterialy  WHERE Zakazka = '") + z(zakazka) +
-                                QStringLiteral("' and ID = ") + Dotaz::cislo(id));
+        Recordset jeden = *RadkyZakazky::material(db, zakazka, id);
         kopiruj(db, QStringLiteral("ZakazkyMaterialy"), jeden, PoleMaterialu, [&](Recordset& c, const Recordset&) {
             c.set(QStringLiteral("Zakazka"), cil);
             c.set(QStringLiteral("ID"), idVCili);
@@ -172,7 +153,7 @@ QString KopirovaniSestavy(Database& db, const QString& zakazka, const QString& s
         return noveId.contains(qint64(v.toDouble())) ? QVariant(noveId.value(qint64(v.toDouble()))) : v;
     };
     const QVariant poznamka = cilova.value(QStringLiteral("Poznamka")), datum = cilova.value(QStringLiteral("datum"));
-    Recordset radky(db, sZakazkou(zakazka) + QStringLiteral(" and Sestava = '") + z(sestava) + QStringLiteral("' ORDER BY Sestava"));
+    Recordset radky = RadkyZakazky::radkySestavy(db, zakazka, sestava, QStringLiteral("Sestava"));
     kopiruj(db, QStringLiteral("Zakazky"), radky, PoleZakazky, [&](Recordset& c, const Recordset& r) {
         c.set(QStringLiteral("Zakazka"), cil);
         c.set(QStringLiteral("Sestava"), nazev);
@@ -182,7 +163,7 @@ QString KopirovaniSestavy(Database& db, const QString& zakazka, const QString& s
             c.set(QLatin1String(p), preved(r.value(QLatin1String(p))));
     });
     // a target that held only its header row: the copy takes its place
-    for (Recordset h(db, sZakazkou(cil) + QStringLiteral(" and Sestava = ''")); !h.eof(); h.moveNext())
+    for (Recordset h = RadkyZakazky::radkySestavy(db, cil, QString()); !h.eof(); h.moveNext())
         h.remove();
     t.commit();
     return nazev;
@@ -199,4 +180,4 @@ QString UlozitSestavuJako(Database& db, Prompt& prompt, const QString& zakazka, 
                     [&](const QString& n) { kopirujSestavu(db, zakazka, sestava, n); });
 }
 
-}
+} // namespace Kopirovani

@@ -1,53 +1,41 @@
 #include "orders/Materialy.h"
 
 #include "core/Database.h"
-#include "core/Dotaz.h"
 #include "core/Jednotky.h"
 #include "core/Prompt.h"
 #include "core/Razitko.h"
 #include "core/Recordset.h"
 #include "core/Transakce.h"
+#include "orders/RadkyZakazky.h"
 
 namespace Materialy {
 namespace {
 
-QString z(const QString& t) { return Dotaz::text(t); }
-
-QString dotaz(const QString& zakazka, bool hrany)
-{
-    return QStringLiteral("SELECT * FROM ZakazkyMaterialy  WHERE Zakazka = '") + z(zakazka) +
-           (hrany ? QStringLiteral("' and Pouziti = 'hrana' ") : QStringLiteral("' and Pouziti <> 'hrana' "));
-}
-
 Material cti(const Recordset& rs)
 {
-    return {rs.cislo(QStringLiteral("ID")),        rs.text(QStringLiteral("Material")),
-            rs.cislo(QStringLiteral("RozmerX")),   rs.cislo(QStringLiteral("RozmerY")),
-            rs.ano(QStringLiteral("OV")),          rs.cislo(QStringLiteral("CenaBezDPH")),
-            qint64(rs.cislo(QStringLiteral("BarvaVNP"))), rs.cislo(QStringLiteral("PresahHrany"))};
+    return {rs.cislo(QStringLiteral("ID")),
+            rs.text(QStringLiteral("Material")),
+            rs.cislo(QStringLiteral("RozmerX")),
+            rs.cislo(QStringLiteral("RozmerY")),
+            rs.ano(QStringLiteral("OV")),
+            rs.cislo(QStringLiteral("CenaBezDPH")),
+            qint64(rs.cislo(QStringLiteral("BarvaVNP"))),
+            rs.cislo(QStringLiteral("PresahHrany"))};
 }
 
 std::vector<Material> vsechny(Database& db, const QString& zakazka, bool hrany)
 {
     std::vector<Material> v;
-    for (Recordset rs(db, dotaz(zakazka, hrany)); !rs.eof(); rs.moveNext())
+    for (Recordset rs =
+             RadkyZakazky::materialy(db, zakazka, hrany ? RadkyZakazky::Pouziti::Hrany : RadkyZakazky::Pouziti::Formaty);
+         !rs.eof(); rs.moveNext())
         v.push_back(cti(rs));
     return v;
 }
 
-std::optional<Recordset> radek(Database& db, const QString& zakazka, double id)
-{
-    Recordset rs(db, QStringLiteral("SELECT * FROM ZakazkyMaterialy  WHERE Zakazka = '") + z(zakazka) +
-                         QStringLiteral("' and ID = ") + Dotaz::cislo(id),
-                 Recordset::Rozsah::Prvni);
-    if (rs.eof())
-        return std::nullopt;
-    return rs;
-}
-
 double noveId(Database& db, const QString& zakazka)
 {
-    return Razitko::volne([&](double id) { return radek(db, zakazka, id).has_value(); });
+    return Razitko::volne([&](double id) { return RadkyZakazky::material(db, zakazka, id).has_value(); });
 }
 
 void zapisFormat(Recordset& rs, const Material& m)
@@ -67,20 +55,14 @@ void zapisHranu(Recordset& rs, const Material& m)
     rs.set(QStringLiteral("PresahHrany"), m.presah);
 }
 
-bool pouzit(Database& db, const QString& zakazka, double id)
-{
-    return !Recordset(db, QStringLiteral("SELECT * FROM Zakazky  WHERE Zakazka = '") + z(zakazka) +
-                              QStringLiteral("'  and IDFormat = ") + Dotaz::cislo(id),
-                      Recordset::Rozsah::Prvni)
-                .prazdny();
-}
+bool pouzit(Database& db, const QString& zakazka, double id) { return !RadkyZakazky::deskyFormatu(db, zakazka, id).prazdny(); }
 
 bool smazat(Database& db, Prompt& p, const QString& zakazka, const Material& m, bool hrana)
 {
     if (p.zprava(hrana ? QStringLiteral("Chcete odstranit tuto hranu - ") + m.nazev + QStringLiteral(" - ?")
                        : QStringLiteral("Chcete odstranit formát - ") + m.nazev + QStringLiteral(" - ?"),
-                 hrana ? QStringLiteral("Odstranění hrany") : QStringLiteral("Odstranění formátu"),
-                 Prompt::Ikona::Otaznik, Prompt::Tlacitka::AnoNe) != Prompt::Odpoved::Ano)
+                 hrana ? QStringLiteral("Odstranění hrany") : QStringLiteral("Odstranění formátu"), Prompt::Ikona::Otaznik,
+                 Prompt::Tlacitka::AnoNe) != Prompt::Odpoved::Ano)
         return false;
     // a band's ID never stands in IDFormat: a band in use is deleted all the same
     if (pouzit(db, zakazka, m.ID)) {
@@ -89,7 +71,7 @@ bool smazat(Database& db, Prompt& p, const QString& zakazka, const Material& m, 
                  QString(), Prompt::Ikona::Vykricnik);
         return false;
     }
-    if (auto rs = radek(db, zakazka, m.ID))
+    if (auto rs = RadkyZakazky::material(db, zakazka, m.ID))
         rs->remove();
     return true;
 }
@@ -101,14 +83,14 @@ std::vector<Material> hrany(Database& db, const QString& zakazka) { return vsech
 
 QString textFormatu(const Material& m)
 {
-    return m.nazev + QStringLiteral(" (") + Jednotky::ZMilimetru(m.x) + QStringLiteral(" x ") +
-           Jednotky::ZMilimetru(m.y) + QLatin1Char(')');
+    return m.nazev + QStringLiteral(" (") + Jednotky::ZMilimetru(m.x) + QStringLiteral(" x ") + Jednotky::ZMilimetru(m.y) +
+           QLatin1Char(')');
 }
 
 QString textHrany(const Material& m)
 {
-    return m.nazev + QStringLiteral(" ( ") + Jednotky::cislo(m.cena) + QStringLiteral(" - ") +
-           Jednotky::cislo(m.presah) + QStringLiteral(" ) ");
+    return m.nazev + QStringLiteral(" ( ") + Jednotky::cislo(m.cena) + QStringLiteral(" - ") + Jednotky::cislo(m.presah) +
+           QStringLiteral(" ) ");
 }
 
 double idPodleTextu(Database& db, const QString& zakazka, const QString& text, bool hrana)
@@ -133,47 +115,49 @@ bool UlozitNovyFormat(Database& db, const QString& zakazka, const Material& m)
     return true;
 }
 
+namespace {
+
+// The ID of another format of the order with the same name, size, price and grain; 0 when none.
+double dvojce(Database& db, const QString& zakazka, const Material& m)
+{
+    const Recordset r(db,
+                      QStringLiteral("SELECT * FROM ZakazkyMaterialy WHERE Zakazka = ? and Material = ? and RozmerX = ? and "
+                                     "RozmerY = ? and CenaBezDPH*10 = ? and OV = ? and ID <> ?"),
+                      {zakazka, m.nazev, m.x, m.y, m.cena * 10, m.ov, m.ID}, Recordset::Rozsah::Prvni);
+    return r.eof() ? 0 : r.cislo(QStringLiteral("ID"));
+}
+
+} // namespace
+
 Uprava UlozitUpravuFormatu(Database& db, Prompt& p, const QString& zakazka, const Material& m)
 {
-    if (m.x == 0 || m.y == 0 || m.nazev.isEmpty() || m.cena == 0)
+    if (m.x == 0 || m.y == 0 || m.nazev.isEmpty() || m.cena == 0 || !RadkyZakazky::material(db, zakazka, m.ID))
         return Uprava::Odmitnuto;
-    Transakce t(db);
-    auto rs = radek(db, zakazka, m.ID);
-    if (!rs)
-        return Uprava::Odmitnuto;
-    rs->edit();
-    zapisFormat(*rs, m);
-    rs->update();
-    const Recordset dvojce(db, QStringLiteral("SELECT * FROM ZakazkyMaterialy  WHERE Zakazka = '") + z(zakazka) +
-                                   QStringLiteral("' and Material = '") + z(m.nazev) + QStringLiteral("' and RozmerX = ") +
-                                   Dotaz::cislo(m.x) + QStringLiteral(" and RozmerY = ") + Dotaz::cislo(m.y) +
-                                   QStringLiteral(" and  CenaBezDPH*10 = ") + Dotaz::cislo(m.cena * 10) +
-                                   QStringLiteral(" and OV = ") + (m.ov ? QStringLiteral("True") : QStringLiteral("False")) +
-                                   QStringLiteral(" and ID <> ") + Dotaz::cislo(m.ID),
-                           Recordset::Rozsah::Prvni);
-    Uprava vysledek = Uprava::Upraveno;
-    if (!dvojce.eof() &&
+    // the question comes before the transaction: no lock is held while the joiner thinks
+    const double dvojceId = dvojce(db, zakazka, m);
+    const bool sloucit =
+        dvojceId != 0 &&
         p.zprava(QStringLiteral("V zakázce již máte formát se stejnými parametry, chcete je sloučit?"),
-                 QStringLiteral("Upozornění"), Prompt::Ikona::Otaznik, Prompt::Tlacitka::AnoNe) == Prompt::Odpoved::Ano) {
-        const double dvojceId = dvojce.cislo(QStringLiteral("ID"));
+                 QStringLiteral("Upozornění"), Prompt::Ikona::Otaznik, Prompt::Tlacitka::AnoNe) == Prompt::Odpoved::Ano;
+    Transakce t(db);
+    auto rs = RadkyZakazky::material(db, zakazka, m.ID);
+    if (sloucit) {
         rs->remove();
-        for (Recordset desky(db, QStringLiteral("SELECT * FROM Zakazky  WHERE Zakazka = '") + z(zakazka) +
-                                     QStringLiteral("' and IDFormat = ") + Dotaz::cislo(m.ID));
-             !desky.eof(); desky.moveNext()) {
+        for (Recordset desky = RadkyZakazky::deskyFormatu(db, zakazka, m.ID); !desky.eof(); desky.moveNext()) {
             desky.edit();
             desky.set(QStringLiteral("IDFormat"), dvojceId);
             desky.update();
         }
-        vysledek = Uprava::Slouceno;
+    } else {
+        rs->edit();
+        zapisFormat(*rs, m);
+        rs->update();
     }
     t.commit();
-    return vysledek;
+    return sloucit ? Uprava::Slouceno : Uprava::Upraveno;
 }
 
-bool SmazatFormat(Database& db, Prompt& p, const QString& zakazka, const Material& m)
-{
-    return smazat(db, p, zakazka, m, false);
-}
+bool SmazatFormat(Database& db, Prompt& p, const QString& zakazka, const Material& m) { return smazat(db, p, zakazka, m, false); }
 
 bool UlozitNovouHranu(Database& db, const QString& zakazka, const Material& m)
 {
@@ -193,7 +177,7 @@ bool UlozitUpravuHrany(Database& db, const QString& zakazka, const Material& m)
 {
     if (m.nazev.isEmpty() || m.cena == 0)
         return false;
-    auto rs = radek(db, zakazka, m.ID);
+    auto rs = RadkyZakazky::material(db, zakazka, m.ID);
     if (!rs)
         return false;
     rs->edit();
@@ -202,9 +186,6 @@ bool UlozitUpravuHrany(Database& db, const QString& zakazka, const Material& m)
     return true;
 }
 
-bool SmazatHranu(Database& db, Prompt& p, const QString& zakazka, const Material& m)
-{
-    return smazat(db, p, zakazka, m, true);
-}
+bool SmazatHranu(Database& db, Prompt& p, const QString& zakazka, const Material& m) { return smazat(db, p, zakazka, m, true); }
 
-}
+} // namespace Materialy

@@ -1,9 +1,7 @@
 #include "orders/Prislusenstvi.h"
 
 #include "core/Database.h"
-#include "core/Dotaz.h"
 #include "core/KontrolaTextu.h"
-#include "orders/RadkySestavy.h"
 #include "core/Error.h"
 #include "core/Jednotky.h"
 #include "core/Nastaveni.h"
@@ -12,6 +10,7 @@
 #include "core/Recordset.h"
 #include "core/Transakce.h"
 #include "core/Zaokrouhleni.h"
+#include "orders/RadkyZakazky.h"
 
 #include <cmath>
 #include <optional>
@@ -19,8 +18,7 @@
 namespace Prislusenstvi {
 namespace {
 
-using RadkySestavy::podleNazvu;
-
+using RadkyZakazky::polozka;
 
 std::optional<double> cislo(const QString& text)
 {
@@ -74,44 +72,22 @@ void zapis(Recordset& rs, const Polozka& p)
     rs.set(QStringLiteral("IDFormat"), 1);
 }
 
-bool nova(Database& db, Prompt& prompt, const QString& zakazka, const QString& sestava, const Polozka& p)
+void nova(Database& db, const QString& zakazka, const QString& sestava, const Polozka& p)
 {
-    if (podleNazvu(db, zakazka, sestava, p.oznaceni))
-        return odmitni(prompt, QStringLiteral("Příslušenství v sestavě již pod tímto názvem existuje, zadejte jiný název !!!"));
-    Recordset vse(db, RadkySestavy::dotaz(zakazka, sestava) + QStringLiteral("ORDER BY Sestava"));
-    if (vse.prazdny())
-        throw Error(Chyba::NeplatnyVstup, QStringLiteral("Sestava „%1“ v zakázce „%2“ není.").arg(sestava, zakazka));
-    vse.moveLast();
-    const double cas = Razitko::sekundy(Razitko::ted());
-    if (vse.recordCount() < 2 && vse.text(QStringLiteral("Oznaceni")).isEmpty()) {
-        vse.edit(); // the first item takes over the assembly's header row
-        zapis(vse, p);
-        vse.set(QStringLiteral("cas"), cas);
-        vse.update();
-        return true;
-    }
-    Recordset rs(db, QStringLiteral("Zakazky"), Recordset::Rozsah::Prvni);
-    rs.addNew();
-    for (const char* pole : {"Zakazka", "Sestava", "pocetelementuVsestave", "popis", "schema", "Poznamka", "datum"})
-        rs.set(QLatin1String(pole), vse.value(QLatin1String(pole)));
+    Recordset rs = RadkyZakazky::radekProPolozku(db, zakazka, sestava);
     zapis(rs, p);
-    rs.set(QStringLiteral("cas"), cas);
+    rs.set(QStringLiteral("cas"), Razitko::sekundy(Razitko::ted()));
     rs.update();
-    return true;
 }
 
-bool uprava(Database& db, Prompt& prompt, const QString& zakazka, const QString& sestava, const Polozka& p)
+void uprava(Database& db, const QString& zakazka, const QString& sestava, const QString& stary, const Polozka& p)
 {
-    const QString stary = Nastaveni::GetSetting(QStringLiteral("Editor"), QStringLiteral("Prislusenstvi"));
-    if (p.oznaceni != stary && podleNazvu(db, zakazka, sestava, p.oznaceni))
-        return odmitni(prompt, QStringLiteral("Příslušenstvi v sestavě již pod tímto názvem existuje, zadejte jiný nazev !!!"));
-    auto rs = podleNazvu(db, zakazka, sestava, stary);
+    auto rs = polozka(db, zakazka, sestava, stary);
     if (!rs)
         throw Error(Chyba::NeplatnyVstup, QStringLiteral("Příslušenství „%1“ v sestavě „%2“ není.").arg(stary, sestava));
     rs->edit();
     zapis(*rs, p); // the stamp stays: the item keeps its place
     rs->update();
-    return true;
 }
 
 } // namespace
@@ -119,19 +95,15 @@ bool uprava(Database& db, Prompt& prompt, const QString& zakazka, const QString&
 std::vector<Polozka> NaplnitGridPR(Database& db, const QString& zakazka, const QString& sestava)
 {
     std::vector<Polozka> v;
-    for (Recordset rs(db, QStringLiteral("SELECT * FROM Zakazky  WHERE Zakazka = '") + Dotaz::text(zakazka) +
-                              QStringLiteral("' and Sestava = '") + Dotaz::text(sestava) +
-                              QStringLiteral("' and IDFormat = 1  ORDER BY cas"));
+    for (Recordset rs(db, QStringLiteral("SELECT * FROM Zakazky WHERE Zakazka = ? and Sestava = ? and IDFormat = 1 ORDER BY cas"),
+                      {zakazka, sestava});
          !rs.eof(); rs.moveNext())
         v.push_back({rs.text(QStringLiteral("Oznaceni")), rs.cislo(QStringLiteral("Pocet")), rs.text(QStringLiteral("jednotka")),
                      rs.cislo(QStringLiteral("Cena"))});
     return v;
 }
 
-QString textMnozstvi(const Polozka& p)
-{
-    return sOddelovacem(p.pocet, 3) + QLatin1Char(' ') + p.jednotka;
-}
+QString textMnozstvi(const Polozka& p) { return sOddelovacem(p.pocet, 3) + QLatin1Char(' ') + p.jednotka; }
 
 QString textCeny(const Polozka& p, const QString& mena)
 {
@@ -159,25 +131,33 @@ Polozka UpravitPrislusenstvi(Database& db, const QString& zakazka, const QString
 {
     Polozka p;
     p.oznaceni = oznaceni;
-    if (auto rs = podleNazvu(db, zakazka, sestava, oznaceni))
-        p = {oznaceni, rs->cislo(QStringLiteral("Pocet")), rs->text(QStringLiteral("jednotka")), rs->cislo(QStringLiteral("Cena"))};
+    if (auto rs = polozka(db, zakazka, sestava, oznaceni))
+        p = {oznaceni, rs->cislo(QStringLiteral("Pocet")), rs->text(QStringLiteral("jednotka")),
+             rs->cislo(QStringLiteral("Cena"))};
     Nastaveni::SaveSetting(QStringLiteral("Editor"), QStringLiteral("Prislusenstvi"), oznaceni);
     Nastaveni::SaveSetting(QStringLiteral("Editor"), QStringLiteral("CenaPrislusenstvi"), QString::number(p.cena, 'g', 15));
     return p;
 }
 
-bool UlozitPrislusenstvi(Database& db, Prompt& prompt, const QString& tag, const QString& zakazka, const QString& sestava,
+bool UlozitPrislusenstvi(Database& db, Prompt& prompt, bool upravit, const QString& zakazka, const QString& sestava,
                          const Zadani& z)
 {
     const auto p = platne(prompt, z);
     if (!p)
         return false;
+    const QString stary = upravit ? Nastaveni::GetSetting(QStringLiteral("Editor"), QStringLiteral("Prislusenstvi")) : QString();
+    // refusals come before the transaction: no lock is held while a message stands
+    if ((!upravit || p->oznaceni != stary) && polozka(db, zakazka, sestava, p->oznaceni))
+        return odmitni(prompt,
+                       upravit ? QStringLiteral("Příslušenstvi v sestavě již pod tímto názvem existuje, zadejte jiný nazev !!!")
+                               : QStringLiteral("Příslušenství v sestavě již pod tímto názvem existuje, zadejte jiný název !!!"));
     Transakce t(db);
-    const bool ulozeno = tag == QLatin1String(TagUprava) ? uprava(db, prompt, zakazka, sestava, *p)
-                                                         : nova(db, prompt, zakazka, sestava, *p);
-    if (ulozeno)
-        t.commit();
-    return ulozeno;
+    if (upravit)
+        uprava(db, zakazka, sestava, stary, *p);
+    else
+        nova(db, zakazka, sestava, *p);
+    t.commit();
+    return true;
 }
 
 bool SmazatPrislusenstvi(Database& db, Prompt& prompt, const QString& zakazka, const QString& sestava, const QString& oznaceni)
@@ -187,8 +167,8 @@ bool SmazatPrislusenstvi(Database& db, Prompt& prompt, const QString& zakazka, c
                       Prompt::Tlacitka::AnoNe) != Prompt::Odpoved::Ano)
         return false;
     Transakce t(db);
-    const int radku = Recordset(db, RadkySestavy::dotaz(zakazka, sestava)).recordCount();
-    auto rs = podleNazvu(db, zakazka, sestava, oznaceni);
+    const int radku = RadkyZakazky::radkySestavy(db, zakazka, sestava).recordCount();
+    auto rs = polozka(db, zakazka, sestava, oznaceni);
     if (!rs)
         return false;
     if (radku < 2) {
@@ -205,4 +185,4 @@ bool SmazatPrislusenstvi(Database& db, Prompt& prompt, const QString& zakazka, c
     return true;
 }
 
-}
+} // namespace Prislusenstvi

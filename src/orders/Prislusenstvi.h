@@ -14,7 +14,6 @@ class Prompt;
 namespace Prislusenstvi {
 
 constexpr int MaxNazev = 100;
-inline const char* const TagUprava = "UP";
 
 struct Polozka {
     QString oznaceni;
@@ -42,12 +41,12 @@ QStringList jednotky(const QStringList& jednotkyCeniku);
 // (Prislusenstvi, CenaPrislusenstvi).
 Polozka UpravitPrislusenstvi(Database& dataS, const QString& zakazka, const QString& sestava, const QString& oznaceni);
 
-// Saves what fraPřís holds: tag "UP" edits the row named in Editor/Prislusenstvi, any other tag
-// adds a new item. Returns whether it was stored; a refusal showed its message.
-bool UlozitPrislusenstvi(Database& dataS, Prompt& prompt, const QString& tag, const QString& zakazka,
-                         const QString& sestava, const Zadani& z);
+// Saves what fraPřís holds: uprava edits the row named in Editor/Prislusenstvi, else a new item
+// is added. Returns whether it was stored; a refusal showed its message.
+bool UlozitPrislusenstvi(Database& dataS, Prompt& prompt, bool uprava, const QString& zakazka, const QString& sestava,
+                         const Zadani& z);
 // Asks first; returns whether the item went.
 bool SmazatPrislusenstvi(Database& dataS, Prompt& prompt, const QString& zakazka, const QString& sestava,
                          const QString& oznaceni);
 
-}
+} // namespace Prislusenstvi

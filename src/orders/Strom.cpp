@@ -2,13 +2,11 @@
 
 #include "core/Dotaz.h"
 #include "core/Recordset.h"
+#include "orders/RadkyZakazky.h"
 
 #include <set>
 
-QString UzelSestavy::text() const
-{
-    return nazev + QStringLiteral(" ( ") + Dotaz::cislo(pocet) + QStringLiteral(" ks )");
-}
+QString UzelSestavy::text() const { return nazev + QStringLiteral(" ( ") + Dotaz::cislo(pocet) + QStringLiteral(" ks )"); }
 
 std::vector<UzelZakazky> NaplnitStrom(Database& dataS)
 {
@@ -25,8 +23,7 @@ std::vector<UzelZakazky> NaplnitStrom(Database& dataS)
         if (!videne.insert(zakazka).second)
             continue;
         UzelZakazky uzel{zakazka, {}};
-        Recordset sestavy(dataS, QStringLiteral("SELECT * FROM Zakazky  WHERE Zakazka = '") + Dotaz::text(zakazka) +
-                                     QStringLiteral("' ORDER BY Sestava"));
+        Recordset sestavy = RadkyZakazky::radky(dataS, zakazka, QStringLiteral("Sestava"));
         // an order whose first row (in name order) has no assembly has no children
         if (!sestavy.eof() && sestavy.text(QStringLiteral("Sestava")).isEmpty())
             sestavy.moveLast(), sestavy.moveNext();

@@ -1,33 +1,15 @@
 #include "orders/Zakazky.h"
 
 #include "core/Database.h"
-#include "core/Dotaz.h"
 #include "core/KontrolaTextu.h"
 #include "core/Prompt.h"
 #include "core/Razitko.h"
 #include "core/Recordset.h"
 #include "core/Transakce.h"
+#include "orders/RadkyZakazky.h"
 
 namespace Zakazky {
 namespace {
-
-QString z(const QString& t) { return Dotaz::text(t); }
-
-QString radkyZakazky(const QString& zakazka)
-{
-    return QStringLiteral("SELECT * FROM Zakazky  WHERE Zakazka = '") + z(zakazka) + QStringLiteral("'");
-}
-
-QString radkySestavy(const QString& zakazka, const QString& sestava)
-{
-    return QStringLiteral("SELECT * FROM Zakazky  WHERE Zakazka = '") + z(zakazka) + QStringLiteral("' and Sestava = '") +
-           z(sestava) + QStringLiteral("' ");
-}
-
-bool existuje(Database& db, const QString& sql)
-{
-    return !Recordset(db, sql, Recordset::Rozsah::Prvni).prazdny();
-}
 
 void zapisSestavu(Recordset& rs, const Sestava& s)
 {
@@ -73,7 +55,7 @@ bool UlozitNovouZakazku(Database& db, Prompt& p, const QString& nazev, const QSt
 {
     if (!platnaZakazka(p, nazev, poznamka))
         return false;
-    if (existuje(db, radkyZakazky(nazev))) {
+    if (RadkyZakazky::existuje(db, nazev)) {
         p.zprava(QStringLiteral("Zakazka pod tímhle názvem již existuje, zadejte jiný nazev !!!"),
                  QStringLiteral("Špatné zadání názvu zakázky"), Prompt::Ikona::Kriticka);
         return false;
@@ -93,22 +75,20 @@ bool UlozitUpravuZakazky(Database& db, Prompt& p, const QString& stary, const QS
 {
     if (!platnaZakazka(p, nazev, poznamka))
         return false;
-    if (nazev != stary && existuje(db, radkyZakazky(nazev))) {
+    if (nazev != stary && RadkyZakazky::existuje(db, nazev)) {
         p.zprava(QStringLiteral("Zakazka pod tímhle názvem již existuje, zadejte jiný nazev !!!"),
                  QStringLiteral("Špatné zadání názvu zakázky"), Prompt::Ikona::Kriticka);
         return false;
     }
     Transakce t(db);
-    for (Recordset rs(db, radkyZakazky(stary)); !rs.eof(); rs.moveNext()) {
+    for (Recordset rs = RadkyZakazky::radky(db, stary); !rs.eof(); rs.moveNext()) {
         rs.edit();
         rs.set(QStringLiteral("Zakazka"), nazev);
         rs.set(QStringLiteral("Poznamka"), poznamka);
         rs.update();
     }
     if (nazev != stary)
-        for (Recordset rs(db, QStringLiteral("SELECT * FROM ZakazkyMaterialy  WHERE Zakazka = '") + z(stary) +
-                                  QStringLiteral("'"));
-             !rs.eof(); rs.moveNext()) {
+        for (Recordset rs = RadkyZakazky::materialy(db, stary); !rs.eof(); rs.moveNext()) {
             rs.edit();
             rs.set(QStringLiteral("Zakazka"), nazev);
             rs.update();
@@ -120,15 +100,12 @@ bool UlozitUpravuZakazky(Database& db, Prompt& p, const QString& stary, const QS
 bool SmazatZakazku(Database& db, Prompt& p, const QString& nazev)
 {
     if (p.zprava(QStringLiteral("Chcete zakázku:  ") + nazev + QStringLiteral("      odstranit ?"),
-                 QStringLiteral("Odstranění zakázky"), Prompt::Ikona::Otaznik, Prompt::Tlacitka::AnoNe) !=
-        Prompt::Odpoved::Ano)
+                 QStringLiteral("Odstranění zakázky"), Prompt::Ikona::Otaznik, Prompt::Tlacitka::AnoNe) != Prompt::Odpoved::Ano)
         return false;
     Transakce t(db);
-    for (Recordset rs(db, QStringLiteral("SELECT * FROM Zakazky WHERE Zakazka = '") + z(nazev) + QStringLiteral("'"));
-         !rs.eof(); rs.moveNext())
+    for (Recordset rs = RadkyZakazky::radky(db, nazev); !rs.eof(); rs.moveNext())
         rs.remove();
-    for (Recordset rs(db, QStringLiteral("SELECT * FROM ZakazkyMaterialy WHERE Zakazka = '") + z(nazev) + QStringLiteral("'"));
-         !rs.eof(); rs.moveNext())
+    for (Recordset rs = RadkyZakazky::materialy(db, nazev); !rs.eof(); rs.moveNext())
         rs.remove();
     t.commit();
     return true;
@@ -136,7 +113,7 @@ bool SmazatZakazku(Database& db, Prompt& p, const QString& nazev)
 
 Sestava nactiSestavu(Database& db, const QString& zakazka, const QString& nazev)
 {
-    const Recordset rs(db, radkySestavy(zakazka, nazev) + QStringLiteral("ORDER BY Zakazka"), Recordset::Rozsah::Prvni);
+    const Recordset rs = RadkyZakazky::radkySestavy(db, zakazka, nazev, QStringLiteral("Zakazka"), Recordset::Rozsah::Prvni);
     if (rs.eof())
         return {nazev, QString(), 1, 0};
     return {nazev, rs.text(QStringLiteral("popis")), rs.cislo(QStringLiteral("pocetelementuVsestave")),
@@ -147,13 +124,13 @@ bool UlozitNovouSestavu(Database& db, Prompt& p, const QString& zakazka, const S
 {
     if (!platnaSestava(p, s))
         return false;
-    if (existuje(db, radkySestavy(zakazka, s.nazev))) {
+    if (RadkyZakazky::existujeSestava(db, zakazka, s.nazev)) {
         p.zprava(QStringLiteral("Sestava pod tímhle názvem již existuje, zadejte jiný nazev !!!"), QString(),
                  Prompt::Ikona::Kriticka);
         return false;
     }
     Transakce t(db);
-    Recordset vse(db, radkyZakazky(zakazka));
+    Recordset vse = RadkyZakazky::radky(db, zakazka);
     if (vse.recordCount() == 1 && vse.text(QStringLiteral("Sestava")).isEmpty()) {
         vse.edit(); // the order's header row becomes the first assembly
         zapisSestavu(vse, s);
@@ -175,13 +152,13 @@ bool UlozitUpravuSestavy(Database& db, Prompt& p, const QString& zakazka, const 
 {
     if (!platnaSestava(p, s))
         return false;
-    if (s.nazev != stary && existuje(db, radkySestavy(zakazka, s.nazev) + QStringLiteral("ORDER BY Zakazka"))) {
+    if (s.nazev != stary && RadkyZakazky::existujeSestava(db, zakazka, s.nazev)) {
         p.zprava(QStringLiteral("Sestava pod tímhle názvem již existuje, zadejte jiný nazev !!!"), QString(),
                  Prompt::Ikona::Kriticka);
         return false;
     }
     Transakce t(db);
-    for (Recordset rs(db, radkySestavy(zakazka, stary)); !rs.eof(); rs.moveNext()) {
+    for (Recordset rs = RadkyZakazky::radkySestavy(db, zakazka, stary); !rs.eof(); rs.moveNext()) {
         rs.edit();
         zapisSestavu(rs, s);
         rs.update();
@@ -193,13 +170,13 @@ bool UlozitUpravuSestavy(Database& db, Prompt& p, const QString& zakazka, const 
 bool SmazatSestavu(Database& db, Prompt& p, const QString& zakazka, const QString& nazev)
 {
     if (p.zprava(QStringLiteral("Chcete smazat sestavu - ") + nazev + QStringLiteral(" - ?"),
-                 QStringLiteral("Odstranění sestavy"), Prompt::Ikona::Otaznik, Prompt::Tlacitka::AnoNe) !=
-        Prompt::Odpoved::Ano)
+                 QStringLiteral("Odstranění sestavy"), Prompt::Ikona::Otaznik, Prompt::Tlacitka::AnoNe) != Prompt::Odpoved::Ano)
         return false;
     Transakce t(db);
-    const bool jine = existuje(db, QStringLiteral("SELECT * FROM Zakazky  WHERE Zakazka = '") + z(zakazka) +
-                                       QStringLiteral("' and Sestava <> '") + z(nazev) + QStringLiteral("'"));
-    Recordset rs(db, radkySestavy(zakazka, nazev));
+    const bool jine = !Recordset(db, QStringLiteral("SELECT * FROM Zakazky WHERE Zakazka = ? and Sestava <> ?"), {zakazka, nazev},
+                                 Recordset::Rozsah::Prvni)
+                           .eof();
+    Recordset rs = RadkyZakazky::radkySestavy(db, zakazka, nazev);
     for (int i = 0; !rs.eof(); rs.moveNext(), ++i) {
         if (!jine && i == rs.recordCount() - 1)
             naHlavickuZakazky(rs); // the last row stays as the order's header
@@ -212,8 +189,8 @@ bool SmazatSestavu(Database& db, Prompt& p, const QString& zakazka, const QStrin
 
 QString poznamka(Database& db, const QString& zakazka)
 {
-    const Recordset rs(db, radkyZakazky(zakazka), Recordset::Rozsah::Prvni);
+    const Recordset rs = RadkyZakazky::radky(db, zakazka, {}, Recordset::Rozsah::Prvni);
     return rs.eof() ? QString() : rs.text(QStringLiteral("Poznamka"));
 }
 
-}
+} // namespace Zakazky

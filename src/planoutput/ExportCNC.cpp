@@ -2,18 +2,14 @@
 
 #include "core/Database.h"
 #include "core/Dotaz.h"
-#include "core/CilZapisu.h"
-#include "core/Error.h"
 #include "core/Jednotky.h"
 #include "core/Nastaveni.h"
 #include "core/Razitko.h"
 #include "core/Recordset.h"
-#include "core/ZpravaChyby.h"
-
-#include <cerrno>
+#include "core/Soubory.h"
+#include "orders/RadkyZakazky.h"
 
 #include <QLocale>
-#include <QSaveFile>
 #include <QStringEncoder>
 
 namespace ExportCNC {
@@ -45,7 +41,8 @@ void kazdyDruh(Database& k, F&& naDruh)
 
 QString sZbytky()
 {
-    return QStringLiteral("SELECT * FROM SoupisZbytku WHERE ID = True and (XZP / 10) > %1 And (YZP / 10) > %2 ORDER BY CT,XZP,YZP ")
+    return QStringLiteral(
+               "SELECT * FROM SoupisZbytku WHERE ID = True and (XZP / 10) > %1 And (YZP / 10) > %2 ORDER BY CT,XZP,YZP ")
         .arg(Dotaz::cislo(Nastaveni::cislo(QStringLiteral("Setting2"), QStringLiteral("XZ"))),
              Dotaz::cislo(Nastaveni::cislo(QStringLiteral("Setting2"), QStringLiteral("YZ"))));
 }
@@ -55,7 +52,7 @@ QString sZbytky()
 QStringList konstantyMaterialu()
 {
     return {QStringLiteral("CutParams=4736"), QStringLiteral("CuttingSpeed=200"), QStringLiteral("SawSpeed=4500"),
-            QStringLiteral("CuttingWide=44"),  QStringLiteral("MaxBudget=1"),       QStringLiteral("Thickness=180"),
+            QStringLiteral("CuttingWide=44"), QStringLiteral("MaxBudget=1"),      QStringLiteral("Thickness=180"),
             QStringLiteral("ShortName=MO")};
 }
 
@@ -89,21 +86,20 @@ QString text(Database& dataS, Database& k, const PlanNaStrankach& plan)
     Recordset desky(k, QStringLiteral("SELECT * FROM SoupisDesek ORDER BY Tabule "));
     desky.moveLast();
     const int tabuli = int(desky.cislo(QStringLiteral("Tabule")));
-    const Recordset format(dataS, QStringLiteral("SELECT * FROM ZakazkyMaterialy WHERE Zakazka = '") + Dotaz::text(plan.zakazka) +
-                                      QStringLiteral("'and ID = ") + Dotaz::cislo(plan.idFormatu),
-                           Recordset::Rozsah::Prvni);
+    const auto format = RadkyZakazky::material(dataS, plan.zakazka, plan.idFormatu);
     r << QStringLiteral("[COMMON]") << QStringLiteral("OrderNote=") + datum + QLatin1Char(' ') + cas
       << QStringLiteral("OrderName=") + datum + QLatin1Char(' ') + cas << QStringLiteral("OrderNumber=") + plan.zakazka
       << QStringLiteral("TimeOfExport=") + cas << QStringLiteral("DateOfExport=") + datum
       << QStringLiteral("SerialID=") + Nastaveni::verze() << QStringLiteral("Organization=") << QStringLiteral("User=")
       << QStringLiteral("OptiProgram=") + program << QStringLiteral("ExportProgram=") + program
       << QStringLiteral("ImportFormatVersion=") << QString();
-    r << QStringLiteral("[MATERIAL]") << QStringLiteral("SheetCount=") + QString::number(tabuli)
-      << konstantyMaterialu() << QStringLiteral("Name=") + (format.eof() ? QString() : format.text(QStringLiteral("Material"))) << QString();
+    r << QStringLiteral("[MATERIAL]") << QStringLiteral("SheetCount=") + QString::number(tabuli) << konstantyMaterialu()
+      << QStringLiteral("Name=") + (format ? format->text(QStringLiteral("Material")) : QString()) << QString();
     r << QStringLiteral("[PARTS]") << QStringLiteral("PrintMode=0")
-      << QStringLiteral("Count=") + n(Recordset(k, QStringLiteral("SELECT * FROM SoupisDesek WHERE ID = True  ORDER BY Part Desc "),
-                                                Recordset::Rozsah::Prvni)
-                                          .cislo(QStringLiteral("Part")));
+      << QStringLiteral("Count=") +
+             n(Recordset(k, QStringLiteral("SELECT * FROM SoupisDesek WHERE ID = True  ORDER BY Part Desc "),
+                         Recordset::Rozsah::Prvni)
+                   .cislo(QStringLiteral("Part")));
     int druh = 0;
     kazdyDruh(k, [&](Recordset& d) {
         ++druh;
@@ -118,23 +114,26 @@ QString text(Database& dataS, Database& k, const PlanNaStrankach& plan)
     r << QStringLiteral("Count=") + QString::number(rest.recordCount());
     for (; !rest.eof(); rest.moveNext())
         r << QStringLiteral("Part%1=%1;%2;%3")
-                 .arg(n(rest.cislo(QStringLiteral("Part"))), n(rest.cislo(QStringLiteral("XZP"))), n(rest.cislo(QStringLiteral("YZP"))));
+                 .arg(n(rest.cislo(QStringLiteral("Part"))), n(rest.cislo(QStringLiteral("XZP"))),
+                      n(rest.cislo(QStringLiteral("YZP"))));
     r << QString();
     for (int t = 1; t <= tabuli; ++t) {
         const Recordset hlava(k, QStringLiteral("SELECT * FROM SoupisTabuli WHERE ID = True and NCT = %1 ORDER BY NCT ").arg(t),
                               Recordset::Rozsah::Prvni);
         r << QStringLiteral("[SHEET%1]").arg(t);
         if (!hlava.eof())
-            r << QStringLiteral("Sheet=%1;%2;%3;1;1;0").arg(QString::number(t), n(hlava.cislo(QStringLiteral("x"))),
-                                                            n(hlava.cislo(QStringLiteral("y"))));
-        Recordset casti(k, QStringLiteral("SELECT * FROM SoupisDesek WHERE ID = True and tabule = %1 ORDER BY Part desc, XD desc").arg(t));
+            r << QStringLiteral("Sheet=%1;%2;%3;1;1;0")
+                     .arg(QString::number(t), n(hlava.cislo(QStringLiteral("x"))), n(hlava.cislo(QStringLiteral("y"))));
+        Recordset casti(
+            k, QStringLiteral("SELECT * FROM SoupisDesek WHERE ID = True and tabule = %1 ORDER BY Part desc, XD desc").arg(t));
         r << QStringLiteral("PartCount=%1").arg(casti.recordCount());
         for (int i = casti.recordCount(); !casti.eof(); casti.moveNext(), --i)
             r << QStringLiteral("Part%1=%2;%3;%4;%5")
-                     .arg(QString::number(i), n(casti.cislo(QStringLiteral("Part"))), n(casti.cislo(QStringLiteral("XD")) + plan.srez),
-                          n(casti.cislo(QStringLiteral("YD")) + plan.srez),
+                     .arg(QString::number(i), n(casti.cislo(QStringLiteral("Part"))),
+                          n(casti.cislo(QStringLiteral("XD")) + plan.srez), n(casti.cislo(QStringLiteral("YD")) + plan.srez),
                           casti.ano(QStringLiteral("OTOC")) ? QStringLiteral("1") : QStringLiteral("0"));
-        Recordset zb(k, QStringLiteral("SELECT * FROM SoupisZbytku WHERE ID = True and Part <> 0 and CT = %1 ORDER BY part desc ").arg(t));
+        Recordset zb(
+            k, QStringLiteral("SELECT * FROM SoupisZbytku WHERE ID = True and Part <> 0 and CT = %1 ORDER BY part desc ").arg(t));
         r << QStringLiteral("RestCount=%1").arg(zb.recordCount());
         for (int i = zb.recordCount(); !zb.eof(); zb.moveNext(), --i)
             r << QStringLiteral("Rest%1=%2;%3;%4;0")
@@ -152,14 +151,8 @@ bool zapis(Database& dataS, Database& dataK, const PlanNaStrankach& plan, const 
         return false;
     QStringEncoder cp1250("windows-1250");
     const QByteArray bajty = cp1250.isValid() ? QByteArray(cp1250(obsah)) : obsah.toLocal8Bit();
-    CilZapisu::zkontroluj(soubor);
-    QSaveFile f(soubor);
-    errno = 0;
-    if (!f.open(QIODevice::WriteOnly) || f.write(bajty) != bajty.size() || !f.commit()) {
-        const Error e = ZpravaChyby::souboru(soubor, f.errorString());
-        throw Error(e.cislo(), QString::fromUtf8(ChybaPrevodu) + QLatin1Char('\n') + e.text(), e.podrobnosti());
-    }
+    Soubory::zapis(soubor, bajty);
     return true;
 }
 
-}
+} // namespace ExportCNC

@@ -24,8 +24,9 @@ QStringList konstantyMaterialu();
 // (then no file is to be made); numbers Part in SoupisDesek and SoupisZbytku on the way.
 QString text(Database& dataS, Database& dataK, const PlanNaStrankach& plan);
 
-// text() written through a save file: all or nothing under the name. Returns false, writing
-// nothing, when there is nothing to export; throws Error 75 when the file cannot be written.
+// text() written as a whole file (Soubory::zapis): all or nothing under the name. Returns false,
+// writing nothing, when there is nothing to export; throws Error 3799 disk full, 3051
+// read-only, 75 other failures of the file.
 bool zapis(Database& dataS, Database& dataK, const PlanNaStrankach& plan, const QString& soubor);
 
-}
+} // namespace ExportCNC

@@ -1,19 +1,16 @@
 #include "planoutput/KresleniNP.h"
 
-#include "core/Dotaz.h"
 #include "core/Jednotky.h"
 #include "core/Moznosti.h"
 #include "core/Nastaveni.h"
 #include "core/Recordset.h"
+#include "orders/RadkyZakazky.h"
 
 #include <cmath>
 
 namespace {
 
-QString nastaveni(const char* klic)
-{
-    return Nastaveni::GetSetting(QStringLiteral("Setting"), QLatin1String(klic));
-}
+QString nastaveni(const char* klic) { return Nastaveni::GetSetting(QStringLiteral("Setting"), QLatin1String(klic)); }
 
 StylNP styl(Moznosti::Popis popis, const char* vypln)
 {
@@ -37,8 +34,12 @@ struct Obdelnik {
 
 Obdelnik naStrance(double X, double Y, double OkrajX, double OkrajY, double SirkaX, double SirkaY, double M)
 {
-    return {OkrajX + std::floor(M * X), OkrajY + std::floor(M * Y), OkrajX + std::floor(M * (X + SirkaX)),
-            OkrajY + std::floor(M * (Y + SirkaY)), std::nearbyint(M * SirkaX), std::nearbyint(M * SirkaY)};
+    return {OkrajX + std::floor(M * X),
+            OkrajY + std::floor(M * Y),
+            OkrajX + std::floor(M * (X + SirkaX)),
+            OkrajY + std::floor(M * (Y + SirkaY)),
+            std::nearbyint(M * SirkaX),
+            std::nearbyint(M * SirkaY)};
 }
 
 // A length of the plan (tenths of a millimetre) in the user's unit.
@@ -48,9 +49,9 @@ QString vJednotce(double desetiny) { return Jednotky::ZMilimetru(desetiny / 10);
 // sizes, aText and bText written at the top and the left edge; l is the long text of form 5.
 struct Texty {
     QString n, l, a, b, aText, bText;
-    QString zkracene;        // the long text when the name has to go at size 5
-    bool nahoru = false;     // the name is written upward
-    bool zastupny = false;   // n only keeps room and is never written (remnants)
+    QString zkracene;      // the long text when the name has to go at size 5
+    bool nahoru = false;   // the name is written upward
+    bool zastupny = false; // n only keeps room and is never written (remnants)
     int uhelMereni = 0;
 };
 
@@ -170,21 +171,13 @@ Texty textyDesky(double SirkaX, double SirkaY, const QString& Oznaceni, const QS
 
 } // namespace
 
-StylNP StylNP::desky()
-{
-    return styl(Moznosti::Popis::Deska, "BarvaDesky");
-}
+StylNP StylNP::desky() { return styl(Moznosti::Popis::Deska, "BarvaDesky"); }
 
-StylNP StylNP::odrezku()
-{
-    return styl(Moznosti::Popis::Odrezek, "BarvaOdrezku");
-}
+StylNP StylNP::odrezku() { return styl(Moznosti::Popis::Odrezek, "BarvaOdrezku"); }
 
 BarvyHran::BarvyHran(Database& dataS, const QString& zakazka)
 {
-    Recordset rs(dataS, QStringLiteral("SELECT * FROM ZakazkyMaterialy  WHERE Zakazka = '") + Dotaz::text(zakazka) +
-                            QStringLiteral("' and Pouziti = 'hrana' "));
-    for (; !rs.eof(); rs.moveNext())
+    for (Recordset rs = RadkyZakazky::materialy(dataS, zakazka, RadkyZakazky::Pouziti::Hrany); !rs.eof(); rs.moveNext())
         if (!m_barvy.contains(qint64(rs.cislo(QStringLiteral("ID")))))
             m_barvy.insert(qint64(rs.cislo(QStringLiteral("ID"))), Barva::zVB(qint64(rs.cislo(QStringLiteral("BarvaVNP")))));
 }
@@ -210,9 +203,9 @@ QString PopisNP(const QString& popis, bool zobrazeniHran, bool otoceno)
     return popis + (zobrazeniHran ? QLatin1Char('1') : QLatin1Char('0')) + (otoceno ? QLatin1Char('1') : QLatin1Char('0'));
 }
 
-int KresliDesku(Dokument& d, double X, double Y, double OkrajX, double OkrajY, double SirkaX, double SirkaY,
-                double Meritko, const QString& Oznaceni, const QString& Popis, const QString& Sestava,
-                const HranyDesky& hrany, double SamovaniNP, const StylNP& styl)
+int KresliDesku(Dokument& d, double X, double Y, double OkrajX, double OkrajY, double SirkaX, double SirkaY, double Meritko,
+                const QString& Oznaceni, const QString& Popis, const QString& Sestava, const HranyDesky& hrany, double SamovaniNP,
+                const StylNP& styl)
 {
     const Obdelnik r = naStrance(X + SamovaniNP, Y + SamovaniNP, OkrajX, OkrajY, SirkaX, SirkaY, Meritko);
     d.pero = Pero{styl.barvaPisma, 1, true};
@@ -221,8 +214,8 @@ int KresliDesku(Dokument& d, double X, double Y, double OkrajX, double OkrajY, d
     return vepis(d, r, textyDesky(SirkaX, SirkaY, Oznaceni, Sestava), styl.pismo.velikost);
 }
 
-int KresliOdrezek(Dokument& d, double X, double Y, double OkrajX, double OkrajY, double SirkaX, double SirkaY,
-                  double Meritko, const QString& /*Oznaceni*/, double SamovaniNP, const StylNP& styl)
+int KresliOdrezek(Dokument& d, double X, double Y, double OkrajX, double OkrajY, double SirkaX, double SirkaY, double Meritko,
+                  const QString& /*Oznaceni*/, double SamovaniNP, const StylNP& styl)
 {
     const Obdelnik r = naStrance(X + SamovaniNP, Y + SamovaniNP, OkrajX, OkrajY, SirkaX, SirkaY, Meritko);
     d.pero = Pero{styl.barvaPisma, 1, true};
@@ -238,9 +231,9 @@ int KresliOdrezek(Dokument& d, double X, double Y, double OkrajX, double OkrajY,
     return vepis(d, r, t, styl.pismo.velikost);
 }
 
-int KresliStitek(Dokument& d, double delka, double sirka, double X, double Y, double SirkaX, double SirkaY,
-                 double /*Meritko*/, const QString& Oznaceni, const QString& Popis, const QString& Sestava, bool OV,
-                 const HranyDesky& hrany, const StylNP& styl)
+int KresliStitek(Dokument& d, double delka, double sirka, double X, double Y, double SirkaX, double SirkaY, double /*Meritko*/,
+                 const QString& Oznaceni, const QString& Popis, const QString& Sestava, bool OV, const HranyDesky& hrany,
+                 const StylNP& styl)
 {
     const Obdelnik r{X, Y, X + delka, Y + sirka, delka, sirka};
     d.pero = Pero{styl.barvaPisma, 1, true};

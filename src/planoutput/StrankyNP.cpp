@@ -1,5 +1,7 @@
 #include "planoutput/StrankyNP.h"
 
+#include "catalogues/Cenik.h"
+#include "catalogues/Knihovna.h"
 #include "core/Dotaz.h"
 #include "core/Jednotky.h"
 #include "core/Nastaveni.h"
@@ -7,18 +9,15 @@
 #include "core/Uloziste.h"
 #include "core/Val.h"
 #include "optimiser/PlanRun.h"
+#include "orders/RadkyZakazky.h"
 #include "planoutput/KresleniNP.h"
-#include "printing/Obrazky.h"
 
 #include <QFontMetricsF>
 #include <cmath>
 
 namespace {
 
-QString nastaveni2(const char* klic)
-{
-    return Nastaveni::GetSetting(QStringLiteral("Setting2"), QLatin1String(klic));
-}
+QString nastaveni2(const char* klic) { return Nastaveni::GetSetting(QStringLiteral("Setting2"), QLatin1String(klic)); }
 
 // Where one sheet stands on its page: its cell, and the height of its block of information.
 struct Bunka {
@@ -88,14 +87,10 @@ struct Kontext {
 
 QImage vzorMaterialu(Uloziste& u, const QString& material)
 {
-    Recordset cenik(u.cenik(), QStringLiteral("SELECT * FROM Cenik WHERE nazev = '") + Dotaz::text(material) +
-                                   QStringLiteral("' and obr1 > 0 ORDER BY nazev"),
-                    Recordset::Rozsah::Prvni);
-    if (cenik.eof())
+    const auto polozka = Cenik::nacti(u.cenik(), material);
+    if (!polozka || polozka->obr1 <= 0)
         return {};
-    Recordset obr(u.cenik(), QStringLiteral("select * FROM Obrazky where IDE = ") + Dotaz::cislo(cenik.cislo(QStringLiteral("obr1"))),
-                  Recordset::Rozsah::Prvni);
-    return obr.eof() ? QImage() : Obrazky::dekoduj(obr.value(QStringLiteral("OBR")).toByteArray());
+    return Knihovna::obrazek(u.cenik(), Knihovna::Druh::Obrazky, polozka->obr1);
 }
 
 // A caption in its frame (its size plus 20) and its value beside it; returns the width used.
@@ -126,8 +121,7 @@ double legenda(Dokument& d, Kontext& k, const QRectF& blok, int tabule)
         return blok.right();
     QStringList nazvy;
     QList<QColor> barvy;
-    Recordset hrany(k.u.dataS(), QStringLiteral("SELECT * FROM ZakazkyMaterialy  WHERE Zakazka = '") +
-                                      Dotaz::text(k.plan.zakazka) + QStringLiteral("' and Pouziti = 'hrana' "));
+    Recordset hrany = RadkyZakazky::materialy(k.u.dataS(), k.plan.zakazka, RadkyZakazky::Pouziti::Hrany);
     for (; !hrany.eof(); hrany.moveNext()) {
         const QString id = Dotaz::cislo(hrany.cislo(QStringLiteral("ID")));
         if (Recordset(k.u.dataK(),
@@ -194,7 +188,8 @@ bool blokInformaci(Dokument& d, Kontext& k, const QRectF& blok, int n, double x,
         {QStringLiteral("Tabule:"), QString::number(n) + QLatin1Char('/') + QString::number(k.posledni)},
         {QStringLiteral("Rozměr tabule:"), Jednotky::ZMilimetru(x / 10) + QStringLiteral(" x ") + Jednotky::ZMilimetru(y / 10)},
         {QStringLiteral("Využití tabule [%]:"), Jednotky::cislo(vyuziti)},
-        {QStringLiteral("Šířka řezu:"), Jednotky::ZMilimetru(Nastaveni::cislo(QStringLiteral("Setting2"), QStringLiteral("Srez")))},
+        {QStringLiteral("Šířka řezu:"),
+         Jednotky::ZMilimetru(Nastaveni::cislo(QStringLiteral("Setting2"), QStringLiteral("Srez")))},
         {QStringLiteral("Počet řezů:"), QString::number(rez == k.plan.rezy.end() ? 0 : rez->second)},
         {QStringLiteral("Zakázka:"), k.plan.zakazka},
         {QStringLiteral("Materiál:"), k.material},
@@ -210,8 +205,8 @@ bool blokInformaci(Dokument& d, Kontext& k, const QRectF& blok, int n, double x,
         d.pismo.tucne = true;
         const double celaHodnota = d.TextWidth(radky[i].second);
         d.pismo.tucne = false;
-        const double pouzito = popisek(d, x0, blok.top() + (i % naSloupec) * radek, radky[i].first, radky[i].second,
-                                       qMax(0.0, prava - x0));
+        const double pouzito =
+            popisek(d, x0, blok.top() + (i % naSloupec) * radek, radky[i].first, radky[i].second, qMax(0.0, prava - x0));
         vejde = vejde && pouzito >= d.TextWidth(radky[i].first) + 100 + celaHodnota - 1;
         sirkaSloupce = qMax(sirkaSloupce, pouzito);
     }
@@ -221,8 +216,8 @@ bool blokInformaci(Dokument& d, Kontext& k, const QRectF& blok, int n, double x,
 void tabule(Kontext& k, const Bunka& b, int n)
 {
     Dokument& d = k.d;
-    Recordset t(k.u.dataK(), QStringLiteral("SELECT * FROM SoupisTabuli  WHERE NCT = ") + QString::number(n) +
-                                 QStringLiteral(" ORDER BY x,y"),
+    Recordset t(k.u.dataK(),
+                QStringLiteral("SELECT * FROM SoupisTabuli  WHERE NCT = ") + QString::number(n) + QStringLiteral(" ORDER BY x,y"),
                 Recordset::Rozsah::Prvni);
     if (t.eof())
         return;
@@ -263,13 +258,13 @@ void tabule(Kontext& k, const Bunka& b, int n)
     }
     blokInformaci(d, k, blok, n, x, y, ct, vyuziti, velikost);
 
-    Recordset desky(k.u.dataK(), QStringLiteral("SELECT * FROM SoupisDesek  WHERE ID = True and tabule = ") +
-                                     QString::number(n) + QStringLiteral(" ORDER BY YD,XD,Y desc"));
+    Recordset desky(k.u.dataK(), QStringLiteral("SELECT * FROM SoupisDesek  WHERE ID = True and tabule = ") + QString::number(n) +
+                                     QStringLiteral(" ORDER BY YD,XD,Y desc"));
     for (; !desky.eof(); desky.moveNext()) {
         const bool otoc = desky.ano(QStringLiteral("OTOC"));
         const double dx = desky.cislo(QStringLiteral("x")), dy = desky.cislo(QStringLiteral("y"));
-        KresliDesku(d, desky.cislo(QStringLiteral("XD")), desky.cislo(QStringLiteral("YD")), u.OkrajX, u.OkrajY,
-                    otoc ? dy : dx, otoc ? dx : dy, u.Meritko, desky.text(QStringLiteral("Oznaceni")),
+        KresliDesku(d, desky.cislo(QStringLiteral("XD")), desky.cislo(QStringLiteral("YD")), u.OkrajX, u.OkrajY, otoc ? dy : dx,
+                    otoc ? dx : dy, u.Meritko, desky.text(QStringLiteral("Oznaceni")),
                     PopisNP(desky.text(QStringLiteral("popis")), k.zobrazeniHran, otoc), desky.text(QStringLiteral("Sestava")),
                     k.hrany.desky(desky), k.plan.samovani, k.deska);
     }
@@ -278,8 +273,8 @@ void tabule(Kontext& k, const Bunka& b, int n)
     for (; !zbytky.eof(); zbytky.moveNext()) {
         const double xz = zbytky.cislo(QStringLiteral("XZP")), yz = zbytky.cislo(QStringLiteral("YZP"));
         if (xz / 10 > k.XZ && yz / 10 > k.YZ)
-            KresliOdrezek(d, zbytky.cislo(QStringLiteral("XDP")), zbytky.cislo(QStringLiteral("YDP")), u.OkrajX, u.OkrajY,
-                          xz, yz, u.Meritko, zbytky.text(QStringLiteral("Oznaceni")), k.plan.samovani, k.odrezek);
+            KresliOdrezek(d, zbytky.cislo(QStringLiteral("XDP")), zbytky.cislo(QStringLiteral("YDP")), u.OkrajX, u.OkrajY, xz, yz,
+                          u.Meritko, zbytky.text(QStringLiteral("Oznaceni")), k.plan.samovani, k.odrezek);
     }
 }
 
@@ -320,15 +315,22 @@ bool StrankyNP(Dokument& d, Uloziste& u, const PlanNaStrankach& plan, int kolik)
     d.MarginRight = okraj("OkrajStrankyZprava", 10);
     d.StartDoc();
 
-    Kontext k{d, u, plan, StylNP::desky(), StylNP::odrezku(), BarvyHran(u.dataS(), plan.zakazka),
-              Barva::zTextu(Nastaveni::GetSetting(QStringLiteral("Setting"), QStringLiteral("BarvaOdpadu")), QColor(0xe0, 0xe0, 0xe0)),
-              nastaveni2("ZobrazeniHran").toDouble() == 1, Nastaveni::cislo(QStringLiteral("Setting2"), QStringLiteral("XZ")),
-              Nastaveni::cislo(QStringLiteral("Setting2"), QStringLiteral("YZ")), QString(), QImage(), posledni};
-    Recordset format(u.dataS(), QStringLiteral("SELECT * FROM ZakazkyMaterialy  WHERE Zakazka = '") + Dotaz::text(plan.zakazka) +
-                                    QStringLiteral("' and ID = ") + Dotaz::cislo(plan.idFormatu),
-                     Recordset::Rozsah::Prvni);
-    if (!format.eof()) {
-        k.material = format.text(QStringLiteral("Material"));
+    Kontext k{
+        d,
+        u,
+        plan,
+        StylNP::desky(),
+        StylNP::odrezku(),
+        BarvyHran(u.dataS(), plan.zakazka),
+        Barva::zTextu(Nastaveni::GetSetting(QStringLiteral("Setting"), QStringLiteral("BarvaOdpadu")), QColor(0xe0, 0xe0, 0xe0)),
+        nastaveni2("ZobrazeniHran").toDouble() == 1,
+        Nastaveni::cislo(QStringLiteral("Setting2"), QStringLiteral("XZ")),
+        Nastaveni::cislo(QStringLiteral("Setting2"), QStringLiteral("YZ")),
+        QString(),
+        QImage(),
+        posledni};
+    if (const auto format = RadkyZakazky::material(u.dataS(), plan.zakazka, plan.idFormatu)) {
+        k.material = format->text(QStringLiteral("Material"));
         k.vzor = vzorMaterialu(u, k.material);
     }
     for (int n = 1; n <= posledni; ++n) {

@@ -1,17 +1,9 @@
 #include "printing/Vykresleni.h"
 
-#include "core/CilZapisu.h"
-#include "core/Error.h"
 #include "core/Soubory.h"
-#include "core/SqliteChyba.h"
-#include "core/ZpravaChyby.h"
 
-#include <QFile>
-#include <QFileInfo>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QPrinter>
-#include <cerrno>
 
 namespace Vykresleni {
 namespace {
@@ -26,10 +18,7 @@ QPen qPero(const Pero& p)
     return pen;
 }
 
-QBrush qStetec(const Stetec& s)
-{
-    return s.pruhledny ? QBrush(Qt::NoBrush) : QBrush(s.barva);
-}
+QBrush qStetec(const Stetec& s) { return s.pruhledny ? QBrush(Qt::NoBrush) : QBrush(s.barva); }
 
 struct Malir {
     QPainter& p;
@@ -62,16 +51,8 @@ struct Malir {
         p.setPen(qPero(c.pero));
         p.drawLine(QPointF(c.x1, c.y1), QPointF(c.x2, c.y2));
     }
-    void operator()(const OpObrazek& o) const
-    {
-        p.drawImage(o.ramec, o.obrazek);
-    }
+    void operator()(const OpObrazek& o) const { p.drawImage(o.ramec, o.obrazek); }
 };
-
-[[noreturn]] void chybaSouboru(const QString& cesta)
-{
-    throw ZpravaChyby::souboru(cesta, QStringLiteral("Nelze zapsat %1").arg(cesta));
-}
 
 } // namespace
 
@@ -98,56 +79,24 @@ QImage obraz(const Dokument& dokument, int cislo, int zoom)
     return img;
 }
 
-void tisk(const Dokument& dokument, QPrinter& tiskarna)
-{
-    tiskarna.setFullPage(true);
-    tiskarna.setPageOrientation(dokument.naSirku ? QPageLayout::Landscape : QPageLayout::Portrait);
-    QPainter p(&tiskarna);
-    const double meritko = tiskarna.resolution() / 1440.0;
-    for (int i = 1; i <= dokument.PageCount(); ++i) {
-        if (i > 1)
-            tiskarna.newPage();
-        p.save();
-        p.scale(meritko, meritko);
-        strana(p, dokument, i);
-        p.restore();
-    }
-}
-
 void pdf(const Dokument& dokument, const QString& cesta, const QString& titulek)
 {
-    CilZapisu::zkontroluj(cesta);
-    const QString docasny = Soubory::docasny(cesta, QStringLiteral("pdf"));
-    try {
-        {
-            QFile soubor(docasny);
-            errno = 0;
-            if (!soubor.open(QIODevice::WriteOnly | QIODevice::NewOnly))
-                chybaSouboru(cesta);
-            QPdfWriter w(&soubor);
-            w.setResolution(1440);
-            w.setTitle(titulek);
-            w.setCreator(QStringLiteral("Truhlář"));
-            w.setPageSize(QPageSize(QPageSize::A4));
-            w.setPageOrientation(dokument.naSirku ? QPageLayout::Landscape : QPageLayout::Portrait);
-            w.setPageMargins(QMarginsF(0, 0, 0, 0));
-            QPainter p(&w);
-            for (int i = 1; i <= dokument.PageCount(); ++i) {
-                if (i > 1)
-                    w.newPage();
-                strana(p, dokument, i);
-            }
-            p.end();
-            errno = 0;
-            if (!soubor.flush() || soubor.error() != QFileDevice::NoError)
-                chybaSouboru(cesta);
+    Soubory::zapis(cesta, [&](QIODevice& zarizeni) {
+        QPdfWriter w(&zarizeni);
+        w.setResolution(1440);
+        w.setTitle(titulek);
+        w.setCreator(QStringLiteral("Truhlář"));
+        w.setPageSize(QPageSize(QPageSize::A4));
+        w.setPageOrientation(dokument.naSirku ? QPageLayout::Landscape : QPageLayout::Portrait);
+        w.setPageMargins(QMarginsF(0, 0, 0, 0));
+        QPainter p(&w);
+        for (int i = 1; i <= dokument.PageCount(); ++i) {
+            if (i > 1)
+                w.newPage();
+            strana(p, dokument, i);
         }
-        Soubory::synchronizuj(docasny);
-        Soubory::prejmenuj(docasny, cesta);
-    } catch (...) {
-        QFile::remove(docasny);
-        throw;
-    }
+        return p.end();
+    });
 }
 
-}
+} // namespace Vykresleni

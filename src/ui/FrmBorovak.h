@@ -1,16 +1,21 @@
 #pragma once
 // The main window frmBorovak: the tree of orders and assemblies, the two-page tab with the four
-// grids, the menu bar, the toolbar and the status bar. It routes every command to the routine
-// that carries it out. The selection lives in txtzakazka and txtSestava: writing them refreshes
-// the page, exactly as the hidden text boxes of the old window did.
+// grids, the menu bar, the toolbar and the status bar. Every command goes through one table
+// (TabulkaPrikazu); the window's own routines are the tree and the grids (FrmBorovakZaznamy.cpp,
+// FrmBorovakKatalog.cpp for the accessories) and the language (FrmBorovakJazyk.cpp); data,
+// catalogues, plans and reports are controllers of their own (Ovladac…). The selection lives in txtzakazka and txtSestava:
+// writing them refreshes the page, exactly as the hidden text boxes of the old window did.
 #include "core/Jazyk.h"
 #include "orders/Materialy.h"
+#include "orders/Prislusenstvi.h"
 #include "orders/Vyber.h"
+#include "ui/OvladacDat.h"
+#include "ui/OvladacKatalogu.h"
+#include "ui/OvladacVypisu.h"
+#include "ui/TabulkaPrikazu.h"
 
 #include <QMainWindow>
 #include <optional>
-
-enum class DruhVypisu;
 
 class QAction;
 class QLabel;
@@ -55,20 +60,24 @@ protected:
     bool eventFilter(QObject* o, QEvent* e) override;
 
 private:
+    // the widgets (FrmBorovakStavba.cpp)
+    QWidget* vytvorStrom();
+    QWidget* vytvorZalozky();
+    void vytvorStavovyRadek();
     void vytvorMenu();
     void vytvorNastroje();
-    QWidget* vytvorStranku(const char* nazevRamce1, const QString& titulek1, QTableWidget*& grid1,
-                           const QStringList& sloupce1, const char* nazevRamce2, const QString& titulek2,
-                           QTableWidget*& grid2, const QStringList& sloupce2, const QStringList& tlacitka1,
-                           const QStringList& tlacitka2);
+    QWidget* vytvorStranku(const char* nazevRamce1, const QString& titulek1, QTableWidget*& grid1, const QStringList& sloupce1,
+                           const char* nazevRamce2, const QString& titulek2, QTableWidget*& grid2, const QStringList& sloupce2,
+                           const QStringList& tlacitka1, const QStringList& tlacitka2);
     void povol(const QStringList& nazvy, bool ano);
     void klikNaUzel(QTreeWidgetItem* uzel);
     void obnovZakazku();
     void obnovSestavu();
     void obnovCeny(); // panels 2 and 3: the order and one piece of the assembly, with VAT
-    void Vypis(DruhVypisu druh, const QString& nazev);
     // the entry commands (FrmBorovakZaznamy.cpp)
-    bool zaznam(const QString& nazev);
+    void pridejPrikazy();
+    void pridejPrikazyZaznamu();
+    QString popisekPrikazu(const QString& nazev) const;
     void NovaZakazka();
     void UpravitZakazku();
     void SmazatZakazku();
@@ -87,25 +96,28 @@ private:
     void NaplnitGridHrany(const QString& akce);
     void NaplnitGridPM(const QString& akce);
     // the accessories, the price list and the libraries (FrmBorovakKatalog.cpp)
-    bool katalog(const QString& nazev);
+    void pridejPrikazyPrislusenstvi();
     void pripojKatalog();
     void NovePrislusenstvi();
     void UpravitPrislusenstvi();
     void SmazatPrislusenstvi();
+    void otevriPrislusenstvi(bool uprava, const QStringList& jednotkyCeniku, const Prislusenstvi::Polozka& p);
     void NaplnitGridPR(const QString& akce);
     void NactiSchema();
     void vyberUzel(QString zakazka, QString sestava); // by value: callers pass the selection itself
-    void ZahajNP();
     void zvolJazyk(bool anglicky);
     void otevriMoznosti();
-    void ZalohaDat();
-    void ObnovaDat();
+    void poObnoveDat();
     void obnovGeometrii();
     void ulozGeometrii();
 
     Uloziste& m_uloziste;
     Prompt& m_prompt;
     Vyber m_vyber;
+    TabulkaPrikazu m_prikazy;
+    OvladacDat m_data;
+    OvladacVypisu m_vypisy;
+    OvladacKatalogu m_katalogy;
     QString m_AktZakazka, m_AktSestava;
     QTreeWidget* m_tvzakazky;
     QTabWidget* m_stZakazky;

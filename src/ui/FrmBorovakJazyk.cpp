@@ -70,8 +70,7 @@ void FrmBorovak::nastavPopisek(const Jazyk::Cil& c, const QString& text)
             if (QTableWidgetItem* h = g->horizontalHeaderItem(c.index))
                 h->setText(text);
         break;
-    case Jazyk::Druh::Nic:
-        break;
+    case Jazyk::Druh::Nic: break;
     }
 }
 
@@ -104,8 +103,7 @@ QString FrmBorovak::popisek(const Jazyk::Cil& c) const
             if (QTableWidgetItem* h = g->horizontalHeaderItem(c.index))
                 return h->text();
         break;
-    case Jazyk::Druh::Nic:
-        break;
+    case Jazyk::Druh::Nic: break;
     }
     return QString();
 }

@@ -1,5 +1,4 @@
-// The main window's accessories (GPR and fraPřís), its schema picture img1, and the price list
-// and library windows of the Doplňky menu.
+// The main window's accessories (GPR and fraPřís) and its schema picture img1.
 #include "ui/FrmBorovak.h"
 
 #include "catalogues/Cenik.h"
@@ -7,35 +6,21 @@
 #include "core/Nastaveni.h"
 #include "core/Uloziste.h"
 #include "orders/Prislusenstvi.h"
+#include "orders/Zakazky.h"
 #include "printing/Obrazky.h"
-#include "ui/FrmCenik.h"
 #include "ui/FrmNovy.h"
-#include "ui/FrmObr.h"
 
 #include <QAction>
 #include <QLabel>
 #include <QSplitter>
 #include <QTableWidget>
 
-bool FrmBorovak::katalog(const QString& n)
+void FrmBorovak::pridejPrikazyPrislusenstvi()
 {
-    if (n == QLatin1String("NoveP") || n == QLatin1String("cmdNovePrislusenstvi"))
-        NovePrislusenstvi();
-    else if (n == QLatin1String("UpraveniP") || n == QLatin1String("cmdUpravitPrislusenstvi"))
-        UpravitPrislusenstvi();
-    else if (n == QLatin1String("SmazaniP") || n == QLatin1String("cmdSmazatPrislusenstvi"))
-        SmazatPrislusenstvi();
-    else if (n == QLatin1String("CTM")) {
-        FrmCenik cenik(m_uloziste.cenik(), m_prompt, this);
-        cenik.exec();
-    } else if (n == QLatin1String("DSS") || n == QLatin1String("DOC")) {
-        FrmObr okno(m_uloziste.cenik(), m_prompt, n == QLatin1String("DSS") ? Knihovna::Druh::Schemata : Knihovna::Druh::Obrazky,
-                    0, false, this);
-        okno.exec();
-        NactiSchema();
-    } else
-        return false;
-    return true;
+    m_prikazy.pridej({QStringLiteral("NoveP"), QStringLiteral("cmdNovePrislusenstvi")}, [this] { NovePrislusenstvi(); });
+    m_prikazy.pridej({QStringLiteral("UpraveniP"), QStringLiteral("cmdUpravitPrislusenstvi")},
+                     [this] { UpravitPrislusenstvi(); });
+    m_prikazy.pridej({QStringLiteral("SmazaniP"), QStringLiteral("cmdSmazatPrislusenstvi")}, [this] { SmazatPrislusenstvi(); });
 }
 
 void FrmBorovak::pripojKatalog()
@@ -71,32 +56,12 @@ void FrmBorovak::NaplnitGridPR(const QString& akce)
 
 void FrmBorovak::NovePrislusenstvi()
 {
-    const QString zakazka = m_vyber.txtzakazka(), sestava = m_vyber.txtSestava();
-    if (sestava.isEmpty())
+    if (m_vyber.txtSestava().isEmpty())
         return;
-    Database& cenik = m_uloziste.cenik();
     QStringList jednotkyCeniku;
-    for (const Cenik::Polozka& p : Cenik::NaplnCenik(cenik, QStringLiteral("VSE"), QStringLiteral("Jednotka")))
+    for (const Cenik::Polozka& p : Cenik::NaplnCenik(m_uloziste.cenik(), QStringLiteral("VSE"), QStringLiteral("Jednotka")))
         jednotkyCeniku << p.jednotka;
-    FrmNovy d(this, m_uloziste.cenik(), m_prompt);
-    auto zCeniku = [&cenik](const QString& nazev) -> std::optional<Prislusenstvi::Polozka> {
-        const auto p = Cenik::nacti(cenik, nazev);
-        if (!p)
-            return std::nullopt;
-        Prislusenstvi::Polozka v;
-        v.oznaceni = p->nazev;
-        v.jednotka = p->jednotka;
-        v.cena = p->cena;
-        return v;
-    };
-    d.prislusenstvi(QString(), Cenik::NaplnitSeznamCeniku(cenik, Cenik::ulozenyVyber(), Cenik::ulozeneRazeni()),
-                    Prislusenstvi::jednotky(jednotkyCeniku), {}, zCeniku, [&](const Prislusenstvi::Zadani& z) {
-                        if (!Prislusenstvi::UlozitPrislusenstvi(m_uloziste.dataS(), m_prompt, d.Tag, zakazka, sestava, z))
-                            return FrmNovy::PoUlozeni::Odmitnuto;
-                        NaplnitGridPR(QStringLiteral("Novy zaznam"));
-                        obnovCeny();
-                        return FrmNovy::PoUlozeni::Dalsi;
-                    });
+    otevriPrislusenstvi(false, jednotkyCeniku, {});
 }
 
 void FrmBorovak::UpravitPrislusenstvi()
@@ -104,28 +69,32 @@ void FrmBorovak::UpravitPrislusenstvi()
     const int r = m_GPR->currentRow();
     if (r < 0 || !m_GPR->item(r, 0))
         return;
+    otevriPrislusenstvi(true, {},
+                        Prislusenstvi::UpravitPrislusenstvi(m_uloziste.dataS(), m_vyber.txtzakazka(), m_vyber.txtSestava(),
+                                                            m_GPR->item(r, 0)->text()));
+}
+
+void FrmBorovak::otevriPrislusenstvi(bool uprava, const QStringList& jednotkyCeniku, const Prislusenstvi::Polozka& p)
+{
     const QString zakazka = m_vyber.txtzakazka(), sestava = m_vyber.txtSestava();
     Database& cenik = m_uloziste.cenik();
-    const Prislusenstvi::Polozka p = Prislusenstvi::UpravitPrislusenstvi(m_uloziste.dataS(), zakazka, sestava, m_GPR->item(r, 0)->text());
-    FrmNovy d(this, m_uloziste.cenik(), m_prompt);
-    d.prislusenstvi(QLatin1String(Prislusenstvi::TagUprava),
+    // a name chosen from the price list brings its price and unit
+    auto zCeniku = [&cenik](const QString& nazev) -> std::optional<Prislusenstvi::Polozka> {
+        const auto c = Cenik::nacti(cenik, nazev);
+        if (!c)
+            return std::nullopt;
+        return Prislusenstvi::Polozka{c->nazev, 0, c->jednotka, c->cena};
+    };
+    FrmNovy d(this, cenik, m_prompt);
+    d.prislusenstvi(uprava ? FrmNovy::Stav::UpraveniPrislusenstvi : FrmNovy::Stav::NovePrislusenstvi,
                     Cenik::NaplnitSeznamCeniku(cenik, Cenik::ulozenyVyber(), Cenik::ulozeneRazeni()),
-                    Prislusenstvi::jednotky({}), p,
-                    [&cenik](const QString& nazev) -> std::optional<Prislusenstvi::Polozka> {
-                        const auto c = Cenik::nacti(cenik, nazev);
-                        if (!c)
-                            return std::nullopt;
-                        Prislusenstvi::Polozka v;
-                        v.jednotka = c->jednotka;
-                        v.cena = c->cena;
-                        return v;
-                    },
-                    [&](const Prislusenstvi::Zadani& z) {
-                        if (!Prislusenstvi::UlozitPrislusenstvi(m_uloziste.dataS(), m_prompt, d.Tag, zakazka, sestava, z))
+                    Prislusenstvi::jednotky(jednotkyCeniku), p, zCeniku, [&](const Prislusenstvi::Zadani& z) {
+                        if (!Prislusenstvi::UlozitPrislusenstvi(m_uloziste.dataS(), m_prompt, uprava, zakazka, sestava, z))
                             return FrmNovy::PoUlozeni::Odmitnuto;
-                        NaplnitGridPR(QStringLiteral("Upravení záznamu"));
+                        NaplnitGridPR(uprava ? QStringLiteral("Upravení záznamu") : QStringLiteral("Novy zaznam"));
                         obnovCeny();
-                        return FrmNovy::PoUlozeni::Zavrit;
+                        // a new item keeps the frame open for the next one
+                        return uprava ? FrmNovy::PoUlozeni::Zavrit : FrmNovy::PoUlozeni::Dalsi;
                     });
 }
 
@@ -143,7 +112,9 @@ void FrmBorovak::SmazatPrislusenstvi()
 
 void FrmBorovak::NactiSchema()
 {
-    const QImage obr = Knihovna::NactiSchema(m_uloziste.dataS(), m_uloziste.cenik(), m_vyber.txtzakazka(), m_AktSestava);
+    const int schema =
+        m_AktSestava.isEmpty() ? 0 : Zakazky::nactiSestavu(m_uloziste.dataS(), m_vyber.txtzakazka(), m_AktSestava).schema;
+    const QImage obr = Knihovna::obrazek(m_uloziste.cenik(), Knihovna::Druh::Schemata, schema);
     if (obr.isNull()) {
         m_img1->clear();
         return;

@@ -5,9 +5,9 @@
 
 #include "printing/Operace.h"
 
+#include "core/Database.h"
 #include "core/Jednotky.h"
 #include "core/Nastaveni.h"
-#include "core/Database.h"
 #include "core/Uloziste.h"
 #include "orders/Desky.h"
 #include "orders/Materialy.h"
@@ -23,9 +23,9 @@
 
 using PoUlozeni = FrmNovy::PoUlozeni;
 
-bool FrmBorovak::zaznam(const QString& n)
+void FrmBorovak::pridejPrikazyZaznamu()
 {
-    static const std::vector<std::pair<QStringList, void (FrmBorovak::*)()>> prikazy = {
+    const std::pair<QStringList, void (FrmBorovak::*)()> prikazy[] = {
         {{"NZakazka"}, &FrmBorovak::NovaZakazka},
         {{"UpraveniZakazky"}, &FrmBorovak::UpravitZakazku},
         {{"SmazaniZakazky"}, &FrmBorovak::SmazatZakazku},
@@ -38,24 +38,17 @@ bool FrmBorovak::zaznam(const QString& n)
         {{"cmdImport"}, &FrmBorovak::ImportDesek},
     };
     for (const auto& [nazvy, f] : prikazy)
-        if (nazvy.contains(n)) {
-            (this->*f)();
-            return true;
-        }
-    const bool hrana = n == QLatin1String("NH") || n == QLatin1String("UH") || n == QLatin1String("SH") ||
-                       n.endsWith(QLatin1String("Hrana"));
-    if (n == QLatin1String("NF") || n == QLatin1String("NH") || n == QLatin1String("cmdNovyFormat") ||
-        n == QLatin1String("cmdNovaHrana"))
-        NovyMaterial(hrana);
-    else if (n == QLatin1String("UF") || n == QLatin1String("UH") || n == QLatin1String("cmdUpravitFormat") ||
-             n == QLatin1String("cmdUpravitHrana"))
-        UpravitMaterial(hrana);
-    else if (n == QLatin1String("SF") || n == QLatin1String("SH") || n == QLatin1String("cmdSmazatFormat") ||
-             n == QLatin1String("cmdSmazatHrana"))
-        SmazatMaterial(hrana);
-    else
-        return false;
-    return true;
+        m_prikazy.pridej(nazvy, [this, f = f] { (this->*f)(); });
+    // formats and bands share their routines; the table says which is which
+    const std::pair<QStringList, void (FrmBorovak::*)(bool)> materialy[] = {
+        {{"NF", "cmdNovyFormat", "NH", "cmdNovaHrana"}, &FrmBorovak::NovyMaterial},
+        {{"UF", "cmdUpravitFormat", "UH", "cmdUpravitHrana"}, &FrmBorovak::UpravitMaterial},
+        {{"SF", "cmdSmazatFormat", "SH", "cmdSmazatHrana"}, &FrmBorovak::SmazatMaterial},
+    };
+    for (const auto& [nazvy, f] : materialy) {
+        m_prikazy.pridej(nazvy.mid(0, 2), [this, f = f] { (this->*f)(false); });
+        m_prikazy.pridej(nazvy.mid(2, 2), [this, f = f] { (this->*f)(true); });
+    }
 }
 
 void FrmBorovak::vyberUzel(QString zakazka, QString sestava)
@@ -81,7 +74,7 @@ void FrmBorovak::NovaZakazka()
 {
     FrmNovy d(this, m_uloziste.cenik(), m_prompt);
     QString ulozena;
-    d.zakazka(QStringLiteral("NovaZakazka"), QString(), QString(), [&](const QString& nazev, const QString& poznamka) {
+    d.zakazka(FrmNovy::Stav::NovaZakazka, QString(), QString(), [&](const QString& nazev, const QString& poznamka) {
         if (!Zakazky::UlozitNovouZakazku(m_uloziste.dataS(), m_prompt, nazev, poznamka))
             return PoUlozeni::Odmitnuto;
         ulozena = nazev;
@@ -98,7 +91,7 @@ void FrmBorovak::UpravitZakazku()
     FrmNovy d(this, m_uloziste.cenik(), m_prompt);
     const QString stara = m_vyber.txtzakazka();
     QString nova;
-    d.zakazka(QStringLiteral("UpraveniZakazky"), stara, Zakazky::poznamka(m_uloziste.dataS(), stara),
+    d.zakazka(FrmNovy::Stav::UpraveniZakazky, stara, Zakazky::poznamka(m_uloziste.dataS(), stara),
               [&](const QString& nazev, const QString& poznamka) {
                   if (!Zakazky::UlozitUpravuZakazky(m_uloziste.dataS(), m_prompt, stara, nazev, poznamka))
                       return PoUlozeni::Odmitnuto;
@@ -122,7 +115,7 @@ void FrmBorovak::NovaSestava()
 {
     FrmNovy d(this, m_uloziste.cenik(), m_prompt);
     QString ulozena;
-    d.sestava(QStringLiteral("NovaSestava"), {QString(), QString(), 1, 0}, [&](const Zakazky::Sestava& s) {
+    d.sestava(FrmNovy::Stav::NovaSestava, {QString(), QString(), 1, 0}, [&](const Zakazky::Sestava& s) {
         if (!Zakazky::UlozitNovouSestavu(m_uloziste.dataS(), m_prompt, m_vyber.txtzakazka(), s))
             return PoUlozeni::Odmitnuto;
         ulozena = s.nazev;
@@ -141,7 +134,7 @@ void FrmBorovak::UpravitSestavu()
     const QString stara = m_vyber.txtSestava();
     Nastaveni::SaveSetting(QStringLiteral("Editor"), QStringLiteral("Sestava"), stara);
     QString nova;
-    d.sestava(QStringLiteral("UpraveniSestavy"), Zakazky::nactiSestavu(m_uloziste.dataS(), m_vyber.txtzakazka(), stara),
+    d.sestava(FrmNovy::Stav::UpraveniSestavy, Zakazky::nactiSestavu(m_uloziste.dataS(), m_vyber.txtzakazka(), stara),
               [&](const Zakazky::Sestava& s) {
                   if (!Zakazky::UlozitUpravuSestavy(m_uloziste.dataS(), m_prompt, m_vyber.txtzakazka(), stara, s))
                       return PoUlozeni::Odmitnuto;
@@ -209,7 +202,7 @@ void FrmBorovak::NovyMaterial(bool hrana)
 {
     m_stZakazky->setCurrentIndex(0);
     FrmNovy d(this, m_uloziste.cenik(), m_prompt);
-    d.material(hrana ? QStringLiteral("NovaHrana") : QStringLiteral("NovyFormat"), hrana, {}, [&](const Materialy::Material& m) {
+    d.material(hrana ? FrmNovy::Stav::NovaHrana : FrmNovy::Stav::NovyFormat, {}, [&](const Materialy::Material& m) {
         const bool ok = hrana ? Materialy::UlozitNovouHranu(m_uloziste.dataS(), m_vyber.txtzakazka(), m)
                               : Materialy::UlozitNovyFormat(m_uloziste.dataS(), m_vyber.txtzakazka(), m);
         if (!ok)
@@ -233,22 +226,21 @@ void FrmBorovak::UpravitMaterial(bool hrana)
     if (!m)
         return;
     FrmNovy d(this, m_uloziste.cenik(), m_prompt);
-    d.material(hrana ? QStringLiteral("UpraveniHrany") : QStringLiteral("UpraveniFormatu"), hrana, *m,
-               [&](const Materialy::Material& z) {
-                   if (hrana) {
-                       if (!Materialy::UlozitUpravuHrany(m_uloziste.dataS(), m_vyber.txtzakazka(), z))
-                           return PoUlozeni::Odmitnuto;
-                       NaplnitGridHrany(QStringLiteral("Upraveni zaznamu"));
-                       return PoUlozeni::Zavrit;
-                   }
-                   const auto u = Materialy::UlozitUpravuFormatu(m_uloziste.dataS(), m_prompt, m_vyber.txtzakazka(), z);
-                   if (u == Materialy::Uprava::Odmitnuto)
-                       return PoUlozeni::Odmitnuto;
-                   NaplnitGridFormaty(u == Materialy::Uprava::Slouceno ? QStringLiteral("Odstraneni zaznamu")
-                                                                        : QStringLiteral("Upraveni zaznamu"));
-                   NaplnitGridPM(QStringLiteral("Upravení záznamu"));
-                   return PoUlozeni::Zavrit;
-               });
+    d.material(hrana ? FrmNovy::Stav::UpraveniHrany : FrmNovy::Stav::UpraveniFormatu, *m, [&](const Materialy::Material& z) {
+        if (hrana) {
+            if (!Materialy::UlozitUpravuHrany(m_uloziste.dataS(), m_vyber.txtzakazka(), z))
+                return PoUlozeni::Odmitnuto;
+            NaplnitGridHrany(QStringLiteral("Upraveni zaznamu"));
+            return PoUlozeni::Zavrit;
+        }
+        const auto u = Materialy::UlozitUpravuFormatu(m_uloziste.dataS(), m_prompt, m_vyber.txtzakazka(), z);
+        if (u == Materialy::Uprava::Odmitnuto)
+            return PoUlozeni::Odmitnuto;
+        NaplnitGridFormaty(u == Materialy::Uprava::Slouceno ? QStringLiteral("Odstraneni zaznamu")
+                                                            : QStringLiteral("Upraveni zaznamu"));
+        NaplnitGridPM(QStringLiteral("Upravení záznamu"));
+        return PoUlozeni::Zavrit;
+    });
 }
 
 void FrmBorovak::SmazatMaterial(bool hrana)
@@ -270,8 +262,8 @@ void FrmBorovak::NaplnitGridFormaty(const QString& akce)
     for (int i = 0; i < int(vse.size()); ++i) {
         const auto& m = vse[i];
         const QString cena = Jednotky::cislo(m.cena);
-        const QStringList bunky = {m.nazev, Jednotky::ZMilimetru(m.x), Jednotky::ZMilimetru(m.y),
-                                   Jednotky::CenaZaPlochu(cena), Jednotky::CenaZaPlochuSDPH(cena)};
+        const QStringList bunky = {m.nazev, Jednotky::ZMilimetru(m.x), Jednotky::ZMilimetru(m.y), Jednotky::CenaZaPlochu(cena),
+                                   Jednotky::CenaZaPlochuSDPH(cena)};
         for (int j = 0; j < bunky.size(); ++j)
             m_GridFormaty->setItem(i, j, new QTableWidgetItem(bunky[j]));
     }
@@ -305,8 +297,9 @@ void FrmBorovak::NaplnitGridHrany(const QString& akce)
 void FrmBorovak::NaplnitGridPM(const QString& akce)
 {
     const int predtim = m_GPM->currentRow();
-    const auto radky = m_AktSestava.isEmpty() ? std::vector<Desky::RadekGridu>{}
-                                              : Desky::NaplnitGridPM(m_uloziste.dataS(), m_vyber.txtzakazka(), m_vyber.txtSestava());
+    const auto radky = m_AktSestava.isEmpty()
+                           ? std::vector<Desky::RadekGridu>{}
+                           : Desky::NaplnitGridPM(m_uloziste.dataS(), m_vyber.txtzakazka(), m_vyber.txtSestava());
     m_GPM->setRowCount(int(radky.size()));
     for (int i = 0; i < int(radky.size()); ++i) {
         const auto& d = radky[i].deska;
@@ -328,10 +321,9 @@ void FrmBorovak::NovyPM()
     const QString zakazka = m_vyber.txtzakazka(), sestava = m_vyber.txtSestava();
     const Nabidka n = nabidka(m_uloziste.dataS(), zakazka);
     FrmNovy d(this, m_uloziste.cenik(), m_prompt);
-    d.deska(QStringLiteral("NovyPM"), n.textyFormatu, n.textyHran, n.hrany, {QString(), 0, 0, 1}, {},
+    d.deska(FrmNovy::Stav::NovyPM, n.textyFormatu, n.textyHran, n.hrany, {QString(), 0, 0, 1}, {},
             [&](const Desky::Deska& z, const FrmNovy::TextyDesky& t) {
-                if (Desky::UlozitNovyPM(m_uloziste.dataS(), m_prompt, zakazka, sestava,
-                                        sIdy(m_uloziste.dataS(), zakazka, z, t))
+                if (Desky::UlozitNovyPM(m_uloziste.dataS(), m_prompt, zakazka, sestava, sIdy(m_uloziste.dataS(), zakazka, z, t))
                         .isNull())
                     return PoUlozeni::Odmitnuto;
                 NaplnitGridPM(QStringLiteral("Novy zaznam"));
@@ -359,7 +351,7 @@ void FrmBorovak::UpravitPM()
             if (n.hrany[i].ID == deska.hrany[s])
                 texty.hrany[s] = n.textyHran[int(i)];
     FrmNovy d(this, m_uloziste.cenik(), m_prompt);
-    d.deska(QStringLiteral("UpraveniPM"), n.textyFormatu, n.textyHran, n.hrany, deska, texty,
+    d.deska(FrmNovy::Stav::UpraveniPM, n.textyFormatu, n.textyHran, n.hrany, deska, texty,
             [&](const Desky::Deska& z, const FrmNovy::TextyDesky& t) {
                 const QString puvodni = Nastaveni::GetSetting(QStringLiteral("Editor"), QStringLiteral("PM"));
                 if (Desky::UlozitUpravuPM(m_uloziste.dataS(), m_prompt, zakazka, sestava, puvodni,

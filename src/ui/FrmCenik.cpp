@@ -33,66 +33,17 @@ const char* const vybery[][2] = {{Cenik::Skupiny[0], Cenik::NazvySkupin[0]},
 
 } // namespace
 
-FrmCenik::FrmCenik(Database& cenik, Prompt& prompt, QWidget* rodic, const QString& volajici)
-    : QDialog(rodic), m_cenik(cenik), m_prompt(prompt)
+// The item's detail: code, prices and its two pictures (a click shows one at full size).
+QGroupBox* FrmCenik::vytvorDetail()
 {
-    setObjectName(QStringLiteral("frmCenik"));
-    setWindowTitle(QStringLiteral("Ceník borováckých materiálů"));
-    auto* nastroje = new QToolBar;
-    for (auto [klic, text] : {std::pair{"NPoložka", "Nová položka"}, {"UPoložky", "Upravit položku"}, {"OPoložky", "Odstranit položku"},
-                              {"ZD", "Záloha ceníku"}, {"OZ", "Obnova ceníku"}, {"TiskPC", "Tisk ceníku"}, {"Konec", "Konec"}}) {
-        QAction* a = nastroje->addAction(QString::fromUtf8(text));
-        a->setObjectName(QString::fromUtf8(klic));
-        a->setEnabled(QString::fromUtf8(klic) != QLatin1String("ZD") && QString::fromUtf8(klic) != QLatin1String("OZ"));
-        connect(a, &QAction::triggered, this, [this, k = QString::fromUtf8(klic)] { prikaz(k); });
-    }
-    // the choosing keys, on a row of their own: the caller's own, and VM (any material) for every caller
-    auto* volba = new QToolBar;
-    volba->setVisible(!volajici.isEmpty());
-    for (auto [klic, text] : {std::pair{"VM", "Vybrat materiál"}, {"VF", "Vybrat formát"}, {"VH", "Vybrat hranu"},
-                              {"EP", "Vybrat příslušenství"}}) {
-        QAction* a = volba->addAction(QString::fromUtf8(text));
-        a->setObjectName(QLatin1String(klic));
-        a->setEnabled(!volajici.isEmpty() && (volajici == QLatin1String(klic) || QLatin1String(klic) == QLatin1String("VM")));
-        connect(a, &QAction::triggered, this, [this, k = QString::fromLatin1(klic)] { prikaz(k); });
-    }
-    m_lstCenik = new QListWidget;
-    m_lstCenik->setObjectName(QStringLiteral("lstCenik"));
-    m_lstCenik->setToolTip(QStringLiteral("kliknutím zobrazíte detail vybraného materiálu"));
-    m_lstCenik->setMinimumWidth(300);
-    connect(m_lstCenik, &QListWidget::currentTextChanged, this, &FrmCenik::detail);
-    m_chVyber = new QCheckBox(QStringLiteral("Vyhledat:"));
-    m_chVyber->setObjectName(QStringLiteral("chVyber"));
-    m_txtMaterial = new QLineEdit;
-    m_txtMaterial->setObjectName(QStringLiteral("txtMaterial"));
-    connect(m_txtMaterial, &QLineEdit::textChanged, this, &FrmCenik::NaplnCenik);
-    connect(m_chVyber, &QCheckBox::toggled, this, &FrmCenik::NaplnCenik);
-    auto skupinaRadiu = [this](const QString& titulek, const char* const (*volby)[2], bool jeRazeni) {
-        auto* box = new QGroupBox(titulek);
-        auto* l = new QVBoxLayout(box);
-        const QString ulozene = jeRazeni ? Cenik::ulozeneRazeni() : Cenik::ulozenyVyber();
-        for (int i = 0; i < 4; ++i) {
-            auto* r = new QRadioButton(QString::fromUtf8(volby[i][1]));
-            r->setObjectName(QStringLiteral("opt") + QLatin1String(volby[i][0]));
-            r->setChecked(ulozene == QLatin1String(volby[i][0]));
-            connect(r, &QRadioButton::toggled, this, [this, r, hodnota = QString::fromLatin1(volby[i][0]), jeRazeni](bool ano) {
-                if (!ano)
-                    return; // VyberRazeniCeniku: saved at once, then the list again
-                Cenik::VyberRazeniCeniku(jeRazeni ? Cenik::ulozenyVyber() : hodnota, jeRazeni ? hodnota : Cenik::ulozeneRazeni());
-                NaplnCenik();
-            });
-            l->addWidget(r);
-        }
-        return box;
-    };
     m_lblKod = new QLabel;
     m_lblKod->setObjectName(QStringLiteral("lblKod"));
     m_lblCena = new QLabel;
     m_lblCena->setObjectName(QStringLiteral("lblCena"));
     m_lblCenaDPH = new QLabel;
     m_lblCenaDPH->setObjectName(QStringLiteral("lblCenaDPH"));
-    m_lblDPH = new QLabel(QStringLiteral("Cena s DPH (") + Nastaveni::GetSetting(QStringLiteral("Setting2"), QStringLiteral("DPH")) +
-                          QStringLiteral("%)"));
+    m_lblDPH = new QLabel(QStringLiteral("Cena s DPH (") +
+                          Nastaveni::GetSetting(QStringLiteral("Setting2"), QStringLiteral("DPH")) + QStringLiteral("%)"));
     auto* detailBox = new QGroupBox(QStringLiteral("Detail položky"));
     auto* f = new QFormLayout(detailBox);
     f->addRow(QStringLiteral("Kód:"), m_lblKod);
@@ -115,6 +66,67 @@ FrmCenik::FrmCenik(Database& cenik, Prompt& prompt, QWidget* rodic, const QStrin
         obrazky->addWidget(m_img[i], 0, i);
     }
     f->addRow(obrazky);
+    return detailBox;
+}
+
+FrmCenik::FrmCenik(Database& cenik, Prompt& prompt, QWidget* rodic, const QString& volajici)
+    : QDialog(rodic), m_cenik(cenik), m_prompt(prompt)
+{
+    setObjectName(QStringLiteral("frmCenik"));
+    setWindowTitle(QStringLiteral("Ceník borováckých materiálů"));
+    auto* nastroje = new QToolBar;
+    for (auto [klic, text] : {std::pair{"NPoložka", "Nová položka"},
+                              {"UPoložky", "Upravit položku"},
+                              {"OPoložky", "Odstranit položku"},
+                              {"ZD", "Záloha ceníku"},
+                              {"OZ", "Obnova ceníku"},
+                              {"TiskPC", "Tisk ceníku"},
+                              {"Konec", "Konec"}}) {
+        QAction* a = nastroje->addAction(QString::fromUtf8(text));
+        a->setObjectName(QString::fromUtf8(klic));
+        a->setEnabled(QString::fromUtf8(klic) != QLatin1String("ZD") && QString::fromUtf8(klic) != QLatin1String("OZ"));
+        connect(a, &QAction::triggered, this, [this, k = QString::fromUtf8(klic)] { prikaz(k); });
+    }
+    // the choosing keys, on a row of their own: the caller's own, and VM (any material) for every caller
+    auto* volba = new QToolBar;
+    volba->setVisible(!volajici.isEmpty());
+    for (auto [klic, text] :
+         {std::pair{"VM", "Vybrat materiál"}, {"VF", "Vybrat formát"}, {"VH", "Vybrat hranu"}, {"EP", "Vybrat příslušenství"}}) {
+        QAction* a = volba->addAction(QString::fromUtf8(text));
+        a->setObjectName(QLatin1String(klic));
+        a->setEnabled(!volajici.isEmpty() && (volajici == QLatin1String(klic) || QLatin1String(klic) == QLatin1String("VM")));
+        connect(a, &QAction::triggered, this, [this, k = QString::fromLatin1(klic)] { prikaz(k); });
+    }
+    m_lstCenik = new QListWidget;
+    m_lstCenik->setObjectName(QStringLiteral("lstCenik"));
+    m_lstCenik->setToolTip(QStringLiteral("kliknutím zobrazíte detail vybraného materiálu"));
+    m_lstCenik->setMinimumWidth(300);
+    connect(m_lstCenik, &QListWidget::currentTextChanged, this, &FrmCenik::detail);
+    m_chVyber = new QCheckBox(QStringLiteral("Vyhledat:"));
+    m_chVyber->setObjectName(QStringLiteral("chVyber"));
+    m_txtMaterial = new QLineEdit;
+    m_txtMaterial->setObjectName(QStringLiteral("txtMaterial"));
+    connect(m_txtMaterial, &QLineEdit::textChanged, this, &FrmCenik::NaplnCenik);
+    connect(m_chVyber, &QCheckBox::toggled, this, &FrmCenik::NaplnCenik);
+    auto skupinaRadiu = [this](const QString& titulek, const char* const(*volby)[2], bool jeRazeni) {
+        auto* box = new QGroupBox(titulek);
+        auto* l = new QVBoxLayout(box);
+        const QString ulozene = jeRazeni ? Cenik::ulozeneRazeni() : Cenik::ulozenyVyber();
+        for (int i = 0; i < 4; ++i) {
+            auto* r = new QRadioButton(QString::fromUtf8(volby[i][1]));
+            r->setObjectName(QStringLiteral("opt") + QLatin1String(volby[i][0]));
+            r->setChecked(ulozene == QLatin1String(volby[i][0]));
+            connect(r, &QRadioButton::toggled, this, [this, r, hodnota = QString::fromLatin1(volby[i][0]), jeRazeni](bool ano) {
+                if (!ano)
+                    return; // VyberRazeniCeniku: saved at once, then the list again
+                Cenik::VyberRazeniCeniku(jeRazeni ? Cenik::ulozenyVyber() : hodnota, jeRazeni ? hodnota : Cenik::ulozeneRazeni());
+                NaplnCenik();
+            });
+            l->addWidget(r);
+        }
+        return box;
+    };
+    auto* detailBox = vytvorDetail();
     auto* hledani = new QHBoxLayout;
     hledani->addWidget(m_chVyber);
     hledani->addWidget(m_txtMaterial);
@@ -142,8 +154,9 @@ void FrmCenik::NaplnCenik()
 {
     const QString predtim = m_lstCenik->currentItem() ? m_lstCenik->currentItem()->text() : QString();
     m_lstCenik->clear();
-    m_lstCenik->addItems(m_chVyber->isChecked() ? Cenik::hledej(m_cenik, m_txtMaterial->text())
-                                                : Cenik::NaplnitSeznamCeniku(m_cenik, Cenik::ulozenyVyber(), Cenik::ulozeneRazeni()));
+    m_lstCenik->addItems(m_chVyber->isChecked()
+                             ? Cenik::hledej(m_cenik, m_txtMaterial->text())
+                             : Cenik::NaplnitSeznamCeniku(m_cenik, Cenik::ulozenyVyber(), Cenik::ulozeneRazeni()));
     const auto nalezene = m_lstCenik->findItems(predtim, Qt::MatchExactly);
     m_lstCenik->setCurrentRow(nalezene.isEmpty() ? 0 : m_lstCenik->row(nalezene.first()));
 }
@@ -199,7 +212,8 @@ void FrmCenik::prikaz(const QString& klic)
             Cenik::TiskCeniku(vsp.dokument(), m_cenik, Cenik::ulozenyVyber(), Cenik::ulozeneRazeni());
             vsp.obnov();
             vsp.exec();
-        } else if (QStringList{QStringLiteral("VM"), QStringLiteral("VF"), QStringLiteral("VH"), QStringLiteral("EP")}.contains(klic)) {
+        } else if (QStringList{QStringLiteral("VM"), QStringLiteral("VF"), QStringLiteral("VH"), QStringLiteral("EP")}.contains(
+                       klic)) {
             if (nazev.isEmpty())
                 return;
             m_vybrano = nazev;

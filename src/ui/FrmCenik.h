@@ -7,6 +7,7 @@
 class Database;
 class Prompt;
 class QCheckBox;
+class QGroupBox;
 class QLabel;
 class QLineEdit;
 class QListWidget;
@@ -27,6 +28,7 @@ protected:
     bool eventFilter(QObject* o, QEvent* e) override; // a click on a picture: frmNahled
 
 private:
+    QGroupBox* vytvorDetail();
     void detail(const QString& nazev);
     bool polozka(const QString& staryNazev); // frmPolozka
 

@@ -3,10 +3,8 @@
 #include "core/Aplikace.h"
 #include "core/Error.h"
 #include "core/Prompt.h"
-#include "core/Soubory.h"
 #include "exchange/Import.h"
 
-#include <QFile>
 #include <QFontDatabase>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -50,8 +48,8 @@ FrmImport::FrmImport(Database& db, Prompt& prompt, const QString& zakazka, const
     connect(import, &QPushButton::clicked, this, &FrmImport::importuj);
     connect(otevrit, &QPushButton::clicked, this, [this] {
         try {
-            otevriSoubor(m_prompt.soubor(false, QStringLiteral("Otevření souboru pro import..."), Aplikace::domov(),
-                                         QString(), QStringLiteral("Textové dokumenty (*.txt);;Všechny soubory (*)")));
+            otevriSoubor(m_prompt.soubor(false, QStringLiteral("Otevření souboru pro import..."), Aplikace::domov(), QString(),
+                                         QStringLiteral("Textové dokumenty (*.txt);;Všechny soubory (*)")));
         } catch (const Error& e) {
             if (e.cislo() != Chyba::Zruseno)
                 m_prompt.zprava(e.text(), QStringLiteral("Import"), Prompt::Ikona::Kriticka);
@@ -59,13 +57,7 @@ FrmImport::FrmImport(Database& db, Prompt& prompt, const QString& zakazka, const
     });
 }
 
-void FrmImport::otevriSoubor(const QString& soubor)
-{
-    QFile f(soubor);
-    if (f.size() > Import::MaxVelikost)
-        throw Error(Chyba::NeplatnyVstup, QStringLiteral("Soubor je větší než 10 MB, nelze ho načíst."));
-    m_text1->setPlainText(Import::dekoduj(Soubory::nacti(soubor, Import::MaxVelikost)));
-}
+void FrmImport::otevriSoubor(const QString& soubor) { m_text1->setPlainText(Import::nactiSoubor(soubor)); }
 
 namespace {
 

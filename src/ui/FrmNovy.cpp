@@ -164,25 +164,13 @@ void FrmNovy::optimalizuj(ZpusobNP zpusob, const std::function<void()>& beh)
     exec();
 }
 
-void FrmNovy::popisek(const QString& text)
-{
-    m_lblNP->setText(text);
-}
+void FrmNovy::popisek(const QString& text) { m_lblNP->setText(text); }
 
-void FrmNovy::hodnota(double h)
-{
-    m_progressBar1->setValue(int(h));
-}
+void FrmNovy::hodnota(double h) { m_progressBar1->setValue(int(h)); }
 
-double FrmNovy::maximum() const
-{
-    return m_progressBar1->maximum();
-}
+double FrmNovy::maximum() const { return m_progressBar1->maximum(); }
 
-void FrmNovy::zobraz()
-{
-    m_progressBar1->setVisible(true);
-}
+void FrmNovy::zobraz() { m_progressBar1->setVisible(true); }
 
 bool FrmNovy::prerusit()
 {

@@ -1,5 +1,5 @@
 #pragma once
-// The entry dialog frmNovy: one modal window that shows one of its frames, chosen by its Tag.
+// The entry dialog frmNovy: one modal window that shows one of its frames, chosen by its state.
 // Here the frames of a plan run: fraVolbaNP (format, mode, further variants) and
 // fraOptimalizace (progress, the trembling icon, Storno); the entry frames of orders,
 // assemblies, materials and boards; fraKalkulace (the assemblies of a costing report).
@@ -35,7 +35,29 @@ public:
     // the frames offer neither.
     FrmNovy(QWidget* rodic, Database& cenik, Prompt& prompt);
 
-    QString Tag;
+    // What the dialog is doing: the frame shown and whether it adds or edits (the old window's
+    // Tag). Najeti lasts while an edit frame fills its fields: filling is no edit, so the save
+    // button stays off.
+    enum class Stav {
+        Zadny,
+        Najeti,
+        NovaZakazka,
+        UpraveniZakazky,
+        NovaSestava,
+        UpraveniSestavy,
+        NovyFormat,
+        UpraveniFormatu,
+        NovaHrana,
+        UpraveniHrany,
+        NovyPM,
+        UpraveniPM,
+        NovePrislusenstvi,
+        UpraveniPrislusenstvi,
+        NovyOdrezek,
+        UpraveniOdrezku,
+        Kalkulace
+    };
+    Stav stav() const { return m_stav; }
 
     // fraVolbaNP: the formats with boards and the variant counts; returns false on "Zpět".
     struct VolbaNP {
@@ -53,29 +75,26 @@ public:
     // The entry frames. ulozit is called by the frame's save button with what was typed; its
     // answer says what the dialog does next. The dialog returns when it closes.
     enum class PoUlozeni { Odmitnuto, Dalsi, Zavrit };
-    void zakazka(const QString& tag, const QString& nazev, const QString& poznamka,
+    void zakazka(Stav stav, const QString& nazev, const QString& poznamka,
                  const std::function<PoUlozeni(const QString&, const QString&)>& ulozit);
-    void sestava(const QString& tag, const Zakazky::Sestava& s,
-                 const std::function<PoUlozeni(const Zakazky::Sestava&)>& ulozit);
-    void material(const QString& tag, bool hrana, const Materialy::Material& m,
-                  const std::function<PoUlozeni(const Materialy::Material&)>& ulozit);
+    void sestava(Stav stav, const Zakazky::Sestava& s, const std::function<PoUlozeni(const Zakazky::Sestava&)>& ulozit);
+    void material(Stav stav, const Materialy::Material& m, const std::function<PoUlozeni(const Materialy::Material&)>& ulozit);
     // formaty and hrany are the combos' texts; the save gets them back as typed.
     struct TextyDesky {
         QString format;
         QString hrany[4] = {};
     };
-    void deska(const QString& tag, const QStringList& formaty, const QStringList& hrany,
-               const std::vector<Materialy::Material>& pasky, const Desky::Deska& d, const TextyDesky& texty,
+    void deska(Stav stav, const QStringList& formaty, const QStringList& hrany, const std::vector<Materialy::Material>& pasky,
+               const Desky::Deska& d, const TextyDesky& texty,
                const std::function<PoUlozeni(const Desky::Deska&, const TextyDesky&)>& ulozit);
 
-    // fraNSklad: a new offcut (tag "NovyOdrezek", the fields emptied after each good save) or
-    // the edit of one.
-    void odrezek(const QString& tag, const Sklad::Odrezek& o, const std::function<PoUlozeni(const Sklad::Odrezek&)>& ulozit);
+    // fraNSklad: a new offcut (NovyOdrezek, the fields emptied after each good save) or the edit
+    // of one.
+    void odrezek(Stav stav, const Sklad::Odrezek& o, const std::function<PoUlozeni(const Sklad::Odrezek&)>& ulozit);
 
-    // fraPřís: an accessory (tag "" new, kept open for a series; "UP" an edit). The name combo
+    // fraPřís: an accessory (NovePrislusenstvi, kept open for a series; UpraveniPrislusenstvi). The name combo
     // lists the price list's names; choosing one asks zCeniku for its price and unit.
-    void prislusenstvi(const QString& tag, const QStringList& nazvy, const QStringList& jednotky,
-                       const Prislusenstvi::Polozka& p,
+    void prislusenstvi(Stav stav, const QStringList& nazvy, const QStringList& jednotky, const Prislusenstvi::Polozka& p,
                        const std::function<std::optional<Prislusenstvi::Polozka>(const QString&)>& zCeniku,
                        const std::function<PoUlozeni(const Prislusenstvi::Zadani&)>& ulozit);
 
@@ -96,7 +115,8 @@ private:
     // The names of a price-list group ("PM", "H", "P") in the saved order; empty without one.
     QStringList nazvyCeniku(const QString& vyber) const;
     // A button that opens frmCenik with the caller's key and hands the chosen item to prevezmi.
-    QPushButton* tlacitkoCeniku(const QString& klic, const std::function<void(const QString& nazev, double cena, const QString& jednotka)>& prevezmi);
+    QPushButton* tlacitkoCeniku(const QString& klic,
+                                const std::function<void(const QString& nazev, double cena, const QString& jednotka)>& prevezmi);
     // A button that opens frmSchema on the schema in lblSchema and puts the choice there.
     QPushButton* tlacitkoSchematu(QLabel* lblSchema, QLabel* imgSchema);
     void ukazSchema(int ide, QLabel* imgSchema) const;
@@ -115,4 +135,5 @@ private:
     QTimer* m_timIkona;
     QPoint m_ikonaPozice;
     bool m_storno = false;
+    Stav m_stav = Stav::Zadny;
 };

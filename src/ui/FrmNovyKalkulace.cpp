@@ -10,7 +10,7 @@
 
 std::optional<QList<int>> FrmNovy::kalkulace(const QString& vypis, const QStringList& sestavy)
 {
-    Tag = QStringLiteral("Kalkulace");
+    m_stav = Stav::Kalkulace;
     auto* ramec = new QWidget;
     ramec->setObjectName(QStringLiteral("fraKalkulace"));
     auto* seznam = new QListWidget;

@@ -13,13 +13,36 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
-void FrmNovy::prislusenstvi(const QString& tag, const QStringList& nazvy, const QStringList& jednotky,
+namespace {
+
+// The frame's form over its two keys, Uložit and Zavřít (which leaves the dialog); returns Uložit.
+QPushButton* sTlacitky(QWidget* w, QFormLayout* formular, QDialog* dialog)
+{
+    auto* uloz = new QPushButton(QStringLiteral("Uložit"));
+    uloz->setObjectName(QStringLiteral("cmdUlozitPrislusenstvi"));
+    uloz->setDefault(true);
+    auto* zavrit = new QPushButton(QStringLiteral("Zavřít"));
+    zavrit->setObjectName(QStringLiteral("cmdZavrit"));
+    QObject::connect(zavrit, &QPushButton::clicked, dialog, &QDialog::reject);
+    auto* tlacitka = new QHBoxLayout;
+    tlacitka->addStretch();
+    tlacitka->addWidget(uloz);
+    tlacitka->addWidget(zavrit);
+    auto* l = new QVBoxLayout(w);
+    l->addLayout(formular);
+    l->addLayout(tlacitka);
+    return uloz;
+}
+
+} // namespace
+
+void FrmNovy::prislusenstvi(Stav stavRamce, const QStringList& nazvy, const QStringList& jednotky,
                             const Prislusenstvi::Polozka& p,
                             const std::function<std::optional<Prislusenstvi::Polozka>(const QString&)>& zCeniku,
                             const std::function<PoUlozeni(const Prislusenstvi::Zadani&)>& ulozit)
 {
-    const bool nove = tag != QLatin1String(Prislusenstvi::TagUprava);
-    Tag = QStringLiteral("Najeti");
+    const bool nove = stavRamce != Stav::UpraveniPrislusenstvi;
+    m_stav = Stav::Najeti;
     auto* w = new QWidget;
     w->setObjectName(QStringLiteral("fraPřís"));
     auto* nazev = new QComboBox;
@@ -53,18 +76,7 @@ void FrmNovy::prislusenstvi(const QString& tag, const QStringList& nazvy, const 
     formular->addRow(QStringLiteral("Množství:"), pocet);
     formular->addRow(QStringLiteral("Jednotka:"), jednotka);
     formular->addRow(QStringLiteral("Cena bez DPH:"), radekCeny);
-    auto* uloz = new QPushButton(QStringLiteral("Uložit"));
-    uloz->setObjectName(QStringLiteral("cmdUlozitPrislusenstvi"));
-    uloz->setDefault(true);
-    auto* zavrit = new QPushButton(QStringLiteral("Zavřít"));
-    zavrit->setObjectName(QStringLiteral("cmdZavrit"));
-    auto* tlacitka = new QHBoxLayout;
-    tlacitka->addStretch();
-    tlacitka->addWidget(uloz);
-    tlacitka->addWidget(zavrit);
-    auto* l = new QVBoxLayout(w);
-    l->addLayout(formular);
-    l->addLayout(tlacitka);
+    auto* uloz = sTlacitky(w, formular, this);
     m_ramce->addWidget(w);
 
     auto vypln = [=](const Prislusenstvi::Polozka& z) {
@@ -77,7 +89,7 @@ void FrmNovy::prislusenstvi(const QString& tag, const QStringList& nazvy, const 
     vypln(p);
     auto stav = [=, this] {
         popisek->setText(Prislusenstvi::popisekCeny(jednotka->currentText()));
-        uloz->setEnabled(Tag != QLatin1String("Najeti") && !nazev->currentText().trimmed().isEmpty() &&
+        uloz->setEnabled(m_stav != Stav::Najeti && !nazev->currentText().trimmed().isEmpty() &&
                          !pocet->text().trimmed().isEmpty());
     };
     connect(nazev, &QComboBox::textActivated, this, [=, this](const QString& t) {
@@ -91,7 +103,6 @@ void FrmNovy::prislusenstvi(const QString& tag, const QStringList& nazvy, const 
     connect(pocet, &QLineEdit::textChanged, this, stav);
     connect(cena, &QLineEdit::textChanged, this, stav);
     connect(jednotka, &QComboBox::currentTextChanged, this, stav);
-    connect(zavrit, &QPushButton::clicked, this, &QDialog::reject);
     connect(uloz, &QPushButton::clicked, this, [=, this] {
         const PoUlozeni po = ulozit({nazev->currentText().trimmed(), pocet->text(), jednotka->currentText(), cena->text()});
         if (po == PoUlozeni::Zavrit)
@@ -101,7 +112,7 @@ void FrmNovy::prislusenstvi(const QString& tag, const QStringList& nazvy, const 
             nazev->setFocus();
         }
     });
-    Tag = tag;
+    m_stav = stavRamce;
     stav();
     ukaz(w, nove ? QStringLiteral("Přidání nového příslušenství") : QStringLiteral("Upravení příslušenstvi"), 20);
     exec();

@@ -5,11 +5,12 @@
 
 #include "printing/Operace.h"
 
+#include "core/Error.h"
 #include "core/Jednotky.h"
 #include "ui/CiselnePole.h"
+#include "ui/RamecNovy.h"
 
 #include <QCheckBox>
-#include <QColorDialog>
 #include <QComboBox>
 #include <QFormLayout>
 #include <QGroupBox>
@@ -20,61 +21,13 @@
 #include <QPushButton>
 #include <QSpinBox>
 #include <QStackedWidget>
+#include <memory>
 
 namespace {
 
-// A frame shown alone in the dialog, deleted when the dialog is done with it.
-struct Ramec {
-    QWidget* w;
-    QFormLayout* formular;
-    QPushButton* ulozit;
-};
-
-Ramec novyRamec(QStackedWidget* ramce, const char* nazev, const char* tlacitko, const QString& tip)
-{
-    auto* w = new QWidget;
-    w->setObjectName(QString::fromUtf8(nazev));
-    auto* formular = new QFormLayout;
-    auto* ulozit = new QPushButton(QStringLiteral("Uložit"), w);
-    ulozit->setObjectName(QLatin1String(tlacitko));
-    ulozit->setToolTip(tip);
-    ulozit->setDefault(true);
-    ulozit->setEnabled(false);
-    auto* zavrit = new QPushButton(QStringLiteral("Zavřít"), w);
-    zavrit->setObjectName(QStringLiteral("cmdZavrit"));
-    auto* tlacitka = new QHBoxLayout;
-    tlacitka->addStretch();
-    tlacitka->addWidget(ulozit);
-    tlacitka->addWidget(zavrit);
-    auto* l = new QVBoxLayout(w);
-    l->addLayout(formular);
-    l->addLayout(tlacitka);
-    QObject::connect(zavrit, &QPushButton::clicked, w->window(), [w] { w->window()->close(); });
-    ramce->addWidget(w);
-    ramce->setCurrentWidget(w);
-    return {w, formular, ulozit};
-}
-
-QLineEdit* text(const char* nazev, int max = 0)
-{
-    auto* e = new QLineEdit;
-    e->setObjectName(QLatin1String(nazev));
-    if (max > 0) // cut while typing, the caret at the end
-        QObject::connect(e, &QLineEdit::textEdited, e, [e, max](const QString& t) {
-            if (t.size() > max) {
-                e->setText(t.left(max));
-                e->setCursorPosition(max);
-            }
-        });
-    return e;
-}
-
-CiselnePole* pole(const char* nazev, CiselnePole::Druh druh, int mist = 2)
-{
-    auto* p = new CiselnePole(druh, mist);
-    p->setObjectName(QLatin1String(nazev));
-    return p;
-}
+using RamecNovy::pole;
+using RamecNovy::Ramec;
+using RamecNovy::text;
 
 // The proportional picture of a board or format, with the banded sides in their colours.
 class Nahled : public QWidget {
@@ -100,8 +53,10 @@ protected:
         g.setPen(Qt::black);
         g.setBrush(vzor ? QBrush(QColor(0xd9, 0xb3, 0x82), Qt::HorPattern) : QBrush(QColor(0xf3, 0xe6, 0xcf)));
         g.drawRect(r);
-        const QLineF strany[4] = {{r.topLeft(), r.topRight()}, {r.bottomLeft(), r.bottomRight()},
-                                  {r.topLeft(), r.bottomLeft()}, {r.topRight(), r.bottomRight()}};
+        const QLineF strany[4] = {{r.topLeft(), r.topRight()},
+                                  {r.bottomLeft(), r.bottomRight()},
+                                  {r.topLeft(), r.bottomLeft()},
+                                  {r.topRight(), r.bottomRight()}};
         for (int i = 0; i < 4; ++i)
             if (hrany[i]) {
                 g.setPen(QPen(*hrany[i], 5));
@@ -119,13 +74,13 @@ protected:
 
 } // namespace
 
-void FrmNovy::zakazka(const QString& tag, const QString& nazev, const QString& poznamka,
+void FrmNovy::zakazka(Stav stavRamce, const QString& nazev, const QString& poznamka,
                       const std::function<PoUlozeni(const QString&, const QString&)>& ulozit)
 {
-    Tag = tag;
-    const bool nova = tag == QLatin1String("NovaZakazka");
-    Ramec r = novyRamec(m_ramce, "fraZakázka", "cmdZakazkaPouzit",
-                        nova ? QStringLiteral("Uložení nové zakázky") : QStringLiteral("Uložení úprav v zakázce"));
+    m_stav = stavRamce;
+    const bool nova = stavRamce == Stav::NovaZakazka;
+    Ramec r = RamecNovy::novy(m_ramce, "fraZakázka", "cmdZakazkaPouzit",
+                              nova ? QStringLiteral("Uložení nové zakázky") : QStringLiteral("Uložení úprav v zakázce"));
     // a copy may carry a longer name than can be typed: editing its note must not cut it
     auto* jmeno = text("txtzakazka", qMax(Zakazky::MaxNazevZakazky, int(nazev.size())));
     auto* pozn = text("txtPoznamka");
@@ -152,13 +107,12 @@ void FrmNovy::zakazka(const QString& tag, const QString& nazev, const QString& p
     r.w->deleteLater();
 }
 
-void FrmNovy::sestava(const QString& tag, const Zakazky::Sestava& s,
-                      const std::function<PoUlozeni(const Zakazky::Sestava&)>& ulozit)
+void FrmNovy::sestava(Stav stavRamce, const Zakazky::Sestava& s, const std::function<PoUlozeni(const Zakazky::Sestava&)>& ulozit)
 {
-    Tag = QStringLiteral("Najeti");
-    const bool nova = tag == QLatin1String("NovaSestava");
-    Ramec r = novyRamec(m_ramce, "fraTyp", "cmdUlozitP", nova ? QStringLiteral("Uložení nové sestavy")
-                                                              : QStringLiteral("Uložení úprav sestavy"));
+    m_stav = Stav::Najeti;
+    const bool nova = stavRamce == Stav::NovaSestava;
+    Ramec r = RamecNovy::novy(m_ramce, "fraTyp", "cmdUlozitP",
+                              nova ? QStringLiteral("Uložení nové sestavy") : QStringLiteral("Uložení úprav sestavy"));
     auto* nazev = text("txtNT", Zakazky::MaxNazevSestavy);
     auto* popis = text("txtP");
     auto* pocet = new QSpinBox;
@@ -187,8 +141,8 @@ void FrmNovy::sestava(const QString& tag, const Zakazky::Sestava& s,
     r.formular->addRow(QString(), imgSchema);
     if (!m_cenik)
         imgSchema->hide();
-    auto stav = [=, this] { r.ulozit->setEnabled(Tag != QLatin1String("Najeti") && !nazev->text().trimmed().isEmpty()); };
-    Tag = tag;
+    auto stav = [=, this] { r.ulozit->setEnabled(m_stav != Stav::Najeti && !nazev->text().trimmed().isEmpty()); };
+    m_stav = stavRamce;
     connect(nazev, &QLineEdit::textChanged, this, stav);
     connect(popis, &QLineEdit::textChanged, this, stav);
     connect(pocet, &QSpinBox::valueChanged, this, stav);
@@ -207,87 +161,39 @@ void FrmNovy::sestava(const QString& tag, const Zakazky::Sestava& s,
     r.w->deleteLater();
 }
 
-void FrmNovy::material(const QString& tag, bool hrana, const Materialy::Material& m,
-                       const std::function<PoUlozeni(const Materialy::Material&)>& ulozit)
-{
-    const bool novy = tag.startsWith(QLatin1String("Nov"));
-    Tag = QStringLiteral("Najeti");
-    Ramec r = hrana ? novyRamec(m_ramce, "fraHrana", "cmdUlozeniHrany", QStringLiteral("Uložení hrany"))
-                    : novyRamec(m_ramce, "fraMaterial", "cmdFormatUlozit", QStringLiteral("Uložení formátu"));
-    auto* nazev = new QComboBox;
-    nazev->setObjectName(hrana ? QStringLiteral("cmbHrana") : QStringLiteral("txtFormat"));
-    nazev->setEditable(true);
-    nazev->setMinimumWidth(300);
-    nazev->addItems(nazvyCeniku(hrana ? QStringLiteral("H") : QStringLiteral("PM")));
-    auto* fx = pole("txtFX", CiselnePole::Druh::Delka);
-    auto* fy = pole("txtFY", CiselnePole::Druh::Delka);
-    auto* ov = new QCheckBox(QStringLiteral("Vzor ( neotáčet )"));
-    ov->setObjectName(QStringLiteral("chOVFormat"));
-    auto* cena = pole(hrana ? "txtCenaHrany" : "txtFCena", CiselnePole::Druh::Desetinne, 2);
-    auto* presah = pole("txtPresahHrany", CiselnePole::Druh::Delka);
-    auto* barva = new QPushButton;
-    barva->setObjectName(QStringLiteral("pctBarvaHrany"));
-    barva->setFixedSize(60, 22);
-    auto* nahled = new Nahled("pctDF");
-    QColor vybrana = Barva::zVB(m.barva);
-    auto ukazBarvu = [=, this, &vybrana] { barva->setStyleSheet(QStringLiteral("background-color: %1").arg(vybrana.name())); };
-    auto vyplnit = [=](const Materialy::Material& z) {
+namespace {
+
+// The fields of fraMaterial and fraHrana: filled from a record, read back into one.
+struct PoleMaterialu {
+    explicit PoleMaterialu(bool hrana)
+        : hrana(hrana), nazev(new QComboBox), fx(pole("txtFX", CiselnePole::Druh::Delka)),
+          fy(pole("txtFY", CiselnePole::Druh::Delka)), ov(new QCheckBox(QStringLiteral("Vzor ( neotáčet )"))),
+          cena(pole(hrana ? "txtCenaHrany" : "txtFCena", CiselnePole::Druh::Desetinne, 2)),
+          presah(pole("txtPresahHrany", CiselnePole::Druh::Delka)), barva(new QPushButton), nahled(new Nahled("pctDF"))
+    {
+        nazev->setObjectName(hrana ? QStringLiteral("cmbHrana") : QStringLiteral("txtFormat"));
+        nazev->setEditable(true);
+        nazev->setMinimumWidth(300);
+        ov->setObjectName(QStringLiteral("chOVFormat"));
+        barva->setObjectName(QStringLiteral("pctBarvaHrany"));
+        barva->setFixedSize(60, 22);
+    }
+    void vyplnit(const Materialy::Material& z)
+    {
         nazev->setCurrentText(z.nazev);
         fx->nastavMm(z.x);
         fy->nastavMm(z.y);
         ov->setChecked(z.ov);
         cena->setText(z.cena ? Jednotky::cislo(z.cena) : QString());
         presah->nastavMm(z.presah);
-    };
-    vyplnit(m);
-    ukazBarvu();
-    auto* radekNazvu = new QHBoxLayout;
-    radekNazvu->addWidget(nazev, 1);
-    radekNazvu->addWidget(tlacitkoCeniku(hrana ? QStringLiteral("VH") : QStringLiteral("VF"),
-                                         [=](const QString& n, double c, const QString&) {
-                                             nazev->setCurrentText(n);
-                                             cena->setText(Jednotky::cislo(c));
-                                         }));
-    r.formular->addRow(hrana ? QStringLiteral("Název:") : QStringLiteral("Název materiálu:"), radekNazvu);
-    if (hrana) {
-        r.formular->addRow(QStringLiteral("Cena bez DPH:"), cena);
-        r.formular->addRow(QStringLiteral("Barva v NP:"), barva);
-        auto* skupina = new QGroupBox(QStringLiteral("Přesah hranovací pásky "));
-        auto* l = new QHBoxLayout(skupina);
-        l->addWidget(presah);
-        r.formular->addRow(skupina);
-    } else {
-        r.formular->addRow(QStringLiteral("Délka"), fx);
-        r.formular->addRow(QStringLiteral("Šířka"), fy);
-        r.formular->addRow(QString(), ov);
-        r.formular->addRow(QStringLiteral("Cena bez DPH:"), cena);
-        r.formular->addRow(nahled);
     }
-    connect(barva, &QPushButton::clicked, this, [=, this, &vybrana] {
-        const QColor c = QColorDialog::getColor(vybrana, this, QStringLiteral("Barva hrany v NP"));
-        if (c.isValid()) {
-            vybrana = c;
-            ukazBarvu();
-        }
-    });
-    auto stav = [=, this] {
-        const bool mameRozmery = hrana || (!fx->text().isEmpty() && !fy->text().isEmpty());
-        r.ulozit->setEnabled(Tag != QLatin1String("Najeti") && !nazev->currentText().trimmed().isEmpty() &&
-                             !cena->text().isEmpty() && cena->hodnota() != 0 && mameRozmery);
-        nahled->x = nazev->currentText().isEmpty() ? 0 : fx->mm();
-        nahled->y = fy->mm();
-        nahled->vzor = ov->isChecked();
-        nahled->update();
-    };
-    Tag = novy ? tag : (hrana ? QStringLiteral("UpraveniHrany") : QStringLiteral("UpraveniFormatu"));
-    for (QLineEdit* e : {static_cast<QLineEdit*>(fx), static_cast<QLineEdit*>(fy), static_cast<QLineEdit*>(cena),
-                         static_cast<QLineEdit*>(presah)})
-        connect(e, &QLineEdit::textChanged, this, stav);
-    connect(nazev, &QComboBox::currentTextChanged, this, stav);
-    connect(ov, &QCheckBox::toggled, this, stav);
-    stav();
-    connect(r.ulozit, &QPushButton::clicked, this, [=, this, &vybrana] {
-        Materialy::Material z = m;
+    void ukazBarvu(const QColor& c) const
+    {
+        vybrana = c;
+        barva->setStyleSheet(QStringLiteral("background-color: %1").arg(c.name()));
+    }
+    Materialy::Material hodnota(Materialy::Material z) const
+    {
         z.nazev = nazev->currentText().trimmed();
         z.x = fx->mm();
         z.y = fy->mm();
@@ -295,13 +201,98 @@ void FrmNovy::material(const QString& tag, bool hrana, const Materialy::Material
         z.cena = cena->hodnota();
         z.presah = presah->mm();
         z.barva = Barva::doVB(vybrana);
-        const PoUlozeni po = ulozit(z);
+        return z;
+    }
+    bool lzeUlozit() const
+    {
+        const bool mameRozmery = hrana || (!fx->text().isEmpty() && !fy->text().isEmpty());
+        return !nazev->currentText().trimmed().isEmpty() && !cena->text().isEmpty() && cena->hodnota() != 0 && mameRozmery;
+    }
+    void obnovNahled() const
+    {
+        nahled->x = nazev->currentText().isEmpty() ? 0 : fx->mm();
+        nahled->y = fy->mm();
+        nahled->vzor = ov->isChecked();
+        nahled->update();
+    }
+    void rozloz(QFormLayout* formular, QLayout* radekNazvu) const
+    {
+        formular->addRow(hrana ? QStringLiteral("Název:") : QStringLiteral("Název materiálu:"), radekNazvu);
+        if (hrana) {
+            formular->addRow(QStringLiteral("Cena bez DPH:"), cena);
+            formular->addRow(QStringLiteral("Barva v NP:"), barva);
+            auto* skupina = new QGroupBox(QStringLiteral("Přesah hranovací pásky "));
+            auto* l = new QHBoxLayout(skupina);
+            l->addWidget(presah);
+            formular->addRow(skupina);
+        } else {
+            formular->addRow(QStringLiteral("Délka"), fx);
+            formular->addRow(QStringLiteral("Šířka"), fy);
+            formular->addRow(QString(), ov);
+            formular->addRow(QStringLiteral("Cena bez DPH:"), cena);
+            formular->addRow(nahled);
+        }
+    }
+
+    bool hrana;
+    QComboBox* nazev;
+    CiselnePole *fx, *fy;
+    QCheckBox* ov;
+    CiselnePole *cena, *presah;
+    QPushButton* barva;
+    Nahled* nahled;
+    mutable QColor vybrana;
+};
+
+} // namespace
+
+void FrmNovy::material(Stav stavRamce, const Materialy::Material& m,
+                       const std::function<PoUlozeni(const Materialy::Material&)>& ulozit)
+{
+    const bool novy = stavRamce == Stav::NovyFormat || stavRamce == Stav::NovaHrana;
+    const bool hrana = stavRamce == Stav::NovaHrana || stavRamce == Stav::UpraveniHrany;
+    m_stav = Stav::Najeti;
+    Ramec r = hrana ? RamecNovy::novy(m_ramce, "fraHrana", "cmdUlozeniHrany", QStringLiteral("Uložení hrany"))
+                    : RamecNovy::novy(m_ramce, "fraMaterial", "cmdFormatUlozit", QStringLiteral("Uložení formátu"));
+    auto p = std::make_shared<PoleMaterialu>(hrana);
+    p->nazev->addItems(nazvyCeniku(hrana ? QStringLiteral("H") : QStringLiteral("PM")));
+    p->vyplnit(m);
+    p->ukazBarvu(Barva::zVB(m.barva));
+    auto* radekNazvu = new QHBoxLayout;
+    radekNazvu->addWidget(p->nazev, 1);
+    radekNazvu->addWidget(
+        tlacitkoCeniku(hrana ? QStringLiteral("VH") : QStringLiteral("VF"), [p](const QString& n, double c, const QString&) {
+            p->nazev->setCurrentText(n);
+            p->cena->setText(Jednotky::cislo(c));
+        }));
+    p->rozloz(r.formular, radekNazvu);
+    connect(p->barva, &QPushButton::clicked, this, [p, this] {
+        if (!m_prompt)
+            return;
+        try {
+            p->ukazBarvu(Barva::zVB(m_prompt->barva(quint32(Barva::doVB(p->vybrana)), QStringLiteral("Barva hrany v NP"))));
+        } catch (const Error&) {
+            // a cancelled chooser keeps the colour
+        }
+    });
+    auto stav = [p, r, this] {
+        r.ulozit->setEnabled(m_stav != Stav::Najeti && p->lzeUlozit());
+        p->obnovNahled();
+    };
+    m_stav = stavRamce;
+    for (CiselnePole* e : {p->fx, p->fy, p->cena, p->presah})
+        connect(e, &QLineEdit::textChanged, this, stav);
+    connect(p->nazev, &QComboBox::currentTextChanged, this, stav);
+    connect(p->ov, &QCheckBox::toggled, this, stav);
+    stav();
+    connect(r.ulozit, &QPushButton::clicked, this, [=, this] {
+        const PoUlozeni po = ulozit(p->hodnota(m));
         if (po == PoUlozeni::Zavrit)
             accept();
         else if (po == PoUlozeni::Dalsi) {
-            vyplnit({});
+            p->vyplnit({});
             r.ulozit->setEnabled(false);
-            (hrana ? static_cast<QWidget*>(nazev) : fx)->setFocus();
+            (hrana ? static_cast<QWidget*>(p->nazev) : p->fx)->setFocus();
         }
     });
     ukaz(r.w,
@@ -312,45 +303,70 @@ void FrmNovy::material(const QString& tag, bool hrana, const Materialy::Material
     r.w->deleteLater();
 }
 
-void FrmNovy::deska(const QString& tag, const QStringList& formaty, const QStringList& hrany,
+namespace {
+
+// The fields of fraPlMat, laid out in its form.
+struct PoleDesky {
+    PoleDesky(QFormLayout* formular, const QStringList& formaty, const QStringList& hrany)
+    {
+        nazev = new QComboBox;
+        nazev->setObjectName(QStringLiteral("txtPM"));
+        nazev->setEditable(true);
+        for (const char* n : Desky::NazvyDesek)
+            nazev->addItem(QString::fromUtf8(n));
+        x = pole("txtX", CiselnePole::Druh::Delka);
+        y = pole("txtY", CiselnePole::Druh::Delka);
+        pocet = pole("txtPocetMaterial", CiselnePole::Druh::Cele, 5);
+        format = new QComboBox;
+        format->setObjectName(QStringLiteral("cmbMaterial"));
+        format->addItem(QString());
+        format->addItems(formaty);
+        format->setMinimumWidth(300);
+        ov = new QCheckBox(QStringLiteral("Vzor ( neotáčet )"));
+        ov->setObjectName(QStringLiteral("chOV"));
+        static const char* const popisky[] = {"Hrana X - horní:", "Hrana X - spodní:", "Hrana Y - vlevo:", "Hrana Y - vpravo:"};
+        nahled = new Nahled("pctZB");
+        formular->addRow(QStringLiteral("Název:"), nazev);
+        formular->addRow(QStringLiteral("Délka"), x);
+        formular->addRow(QStringLiteral("Šířka"), y);
+        formular->addRow(QStringLiteral("Počet"), pocet);
+        formular->addRow(QStringLiteral("Formát:"), format);
+        formular->addRow(QString(), ov);
+        for (int i = 0; i < 4; ++i) {
+            h[i] = new QComboBox;
+            h[i]->setObjectName(QStringLiteral("cmbH(%1)").arg(i));
+            h[i]->addItem(QString());
+            h[i]->addItems(hrany);
+            formular->addRow(QString::fromUtf8(popisky[i]), h[i]);
+        }
+        formular->addRow(nahled);
+    }
+    QComboBox* nazev;
+    CiselnePole *x, *y, *pocet;
+    QComboBox* format;
+    QCheckBox* ov;
+    QComboBox* h[4];
+    Nahled* nahled;
+};
+
+} // namespace
+
+void FrmNovy::deska(Stav stavRamce, const QStringList& formaty, const QStringList& hrany,
                     const std::vector<Materialy::Material>& pasky, const Desky::Deska& d, const TextyDesky& texty,
                     const std::function<PoUlozeni(const Desky::Deska&, const TextyDesky&)>& ulozit)
 {
-    const bool nova = tag == QLatin1String("NovyPM");
-    Tag = QStringLiteral("Najeti");
-    Ramec r = novyRamec(m_ramce, "fraPlMat", "cmdUPM", QStringLiteral("Uložení plošného materiálu"));
-    auto* nazev = new QComboBox;
-    nazev->setObjectName(QStringLiteral("txtPM"));
-    nazev->setEditable(true);
-    for (const char* n : Desky::NazvyDesek)
-        nazev->addItem(QString::fromUtf8(n));
-    auto* x = pole("txtX", CiselnePole::Druh::Delka);
-    auto* y = pole("txtY", CiselnePole::Druh::Delka);
-    auto* pocet = pole("txtPocetMaterial", CiselnePole::Druh::Cele, 5);
-    auto* format = new QComboBox;
-    format->setObjectName(QStringLiteral("cmbMaterial"));
-    format->addItem(QString());
-    format->addItems(formaty);
-    format->setMinimumWidth(300);
-    auto* ov = new QCheckBox(QStringLiteral("Vzor ( neotáčet )"));
-    ov->setObjectName(QStringLiteral("chOV"));
-    static const char* const popisky[] = {"Hrana X - horní:", "Hrana X - spodní:", "Hrana Y - vlevo:", "Hrana Y - vpravo:"};
-    QComboBox* h[4];
-    auto* nahled = new Nahled("pctZB");
-    r.formular->addRow(QStringLiteral("Název:"), nazev);
-    r.formular->addRow(QStringLiteral("Délka"), x);
-    r.formular->addRow(QStringLiteral("Šířka"), y);
-    r.formular->addRow(QStringLiteral("Počet"), pocet);
-    r.formular->addRow(QStringLiteral("Formát:"), format);
-    r.formular->addRow(QString(), ov);
-    for (int i = 0; i < 4; ++i) {
-        h[i] = new QComboBox;
-        h[i]->setObjectName(QStringLiteral("cmbH(%1)").arg(i));
-        h[i]->addItem(QString());
-        h[i]->addItems(hrany);
-        r.formular->addRow(QString::fromUtf8(popisky[i]), h[i]);
-    }
-    r.formular->addRow(nahled);
+    const bool nova = stavRamce == Stav::NovyPM;
+    m_stav = Stav::Najeti;
+    Ramec r = RamecNovy::novy(m_ramce, "fraPlMat", "cmdUPM", QStringLiteral("Uložení plošného materiálu"));
+    const PoleDesky p(r.formular, formaty, hrany);
+    auto* const nazev = p.nazev;
+    auto* const x = p.x;
+    auto* const y = p.y;
+    auto* const pocet = p.pocet;
+    auto* const format = p.format;
+    auto* const ov = p.ov;
+    auto* const nahled = p.nahled;
+    QComboBox* const h[4] = {p.h[0], p.h[1], p.h[2], p.h[3]};
     auto vyplnit = [=](const Desky::Deska& z, const TextyDesky& t) {
         nazev->setCurrentText(z.oznaceni);
         x->nastavMm(z.x);
@@ -364,9 +380,8 @@ void FrmNovy::deska(const QString& tag, const QStringList& formaty, const QStrin
     vyplnit(d, texty);
     auto stav = [=, this] {
         const QString texty[4] = {h[0]->currentText(), h[1]->currentText(), h[2]->currentText(), h[3]->currentText()};
-        const Desky::Nahled n =
-            Desky::NahledDesky(x->text(), y->text(), pocet->text(), format->currentText(), texty, pasky);
-        r.ulozit->setEnabled(Tag != QLatin1String("Najeti") && n.ulozit);
+        const Desky::Nahled n = Desky::NahledDesky(x->text(), y->text(), pocet->text(), format->currentText(), texty, pasky);
+        r.ulozit->setEnabled(m_stav != Stav::Najeti && n.ulozit);
         nahled->x = n.vykreslit ? x->mm() : 0;
         nahled->y = n.vykreslit ? y->mm() : 0;
         nahled->vzor = ov->isChecked();
@@ -374,7 +389,7 @@ void FrmNovy::deska(const QString& tag, const QStringList& formaty, const QStrin
             nahled->hrany[i] = n.barvy[i] ? std::optional<QColor>(Barva::zVB(*n.barvy[i])) : std::nullopt;
         nahled->update();
     };
-    Tag = nova ? tag : QStringLiteral("UpraveniPM");
+    m_stav = stavRamce;
     for (QLineEdit* e : {static_cast<QLineEdit*>(x), static_cast<QLineEdit*>(y), static_cast<QLineEdit*>(pocet)})
         connect(e, &QLineEdit::textChanged, this, stav);
     for (QComboBox* c : {format, h[0], h[1], h[2], h[3]})
@@ -404,46 +419,6 @@ void FrmNovy::deska(const QString& tag, const QStringList& formaty, const QStrin
         }
     });
     ukaz(r.w, nova ? QStringLiteral(" Přidání nového plošného materiálu") : QStringLiteral(" Upravení plošného materiálu"), 20);
-    exec();
-    r.w->deleteLater();
-}
-
-void FrmNovy::odrezek(const QString& tag, const Sklad::Odrezek& o, const std::function<PoUlozeni(const Sklad::Odrezek&)>& ulozit)
-{
-    Tag = tag;
-    const bool novy = tag == QLatin1String("NovyOdrezek");
-    Ramec r = novyRamec(m_ramce, "fraNSklad", "cmdUSklad", novy ? QStringLiteral("Uložení odřezku") : QStringLiteral("Uložení úprav odřezku"));
-    auto* material = text("txtMaterialSklad", Sklad::MaxNazev + 1);
-    material->setMinimumWidth(300);
-    auto* x = pole("txtXSklad", CiselnePole::Druh::Delka);
-    auto* y = pole("txtYSklad", CiselnePole::Druh::Delka);
-    auto* pocet = pole("txtPocetSklad", CiselnePole::Druh::Cele, 6);
-    auto vyplnit = [=](const Sklad::Odrezek& z) {
-        material->setText(z.material);
-        x->nastavMm(z.x);
-        y->nastavMm(z.y);
-        pocet->setText(z.pocet > 0 ? QString::number(z.pocet) : QString());
-    };
-    vyplnit(o);
-    r.formular->addRow(QStringLiteral("Materiál:"), material);
-    r.formular->addRow(QStringLiteral("Délka:"), x);
-    r.formular->addRow(QStringLiteral("Šířka:"), y);
-    r.formular->addRow(QStringLiteral("Počet kusů:"), pocet);
-    auto stav = [=] { r.ulozit->setEnabled(!material->text().trimmed().isEmpty()); };
-    for (QLineEdit* e : {static_cast<QLineEdit*>(material), static_cast<QLineEdit*>(x), static_cast<QLineEdit*>(y),
-                         static_cast<QLineEdit*>(pocet)})
-        connect(e, &QLineEdit::textChanged, this, stav);
-    stav();
-    connect(r.ulozit, &QPushButton::clicked, this, [=, this] {
-        const PoUlozeni po = ulozit({material->text().trimmed(), x->mm(), y->mm(), int(pocet->hodnota())});
-        if (po == PoUlozeni::Zavrit)
-            accept();
-        else if (po == PoUlozeni::Dalsi) {
-            vyplnit({});  // empty for the next piece
-            material->setFocus();
-        }
-    });
-    ukaz(r.w, novy ? QStringLiteral("Přidání nového odřezku do skladu...") : QStringLiteral("Upravení parametrů odřezku..."), 20);
     exec();
     r.w->deleteLater();
 }

@@ -26,8 +26,11 @@ FrmSklad::FrmSklad(Database& dataS, Prompt& prompt, QWidget* rodic) : QDialog(ro
     setWindowTitle(QStringLiteral("Sklad odřezků"));
     m_nastroje = new QToolBar;
     const QColor seda(0x55, 0x57, 0x53);
-    const std::pair<const char*, const char*> klice[] = {{"PO", "Nový odřezek"}, {"UO", "Upravit odřezek"}, {"SO", "Smazat odřezek"},
-                                                         {"TiskMS", "Tisk výpisu skladu"}, {"Konec", "Zavřít"}};
+    const std::pair<const char*, const char*> klice[] = {{"PO", "Nový odřezek"},
+                                                         {"UO", "Upravit odřezek"},
+                                                         {"SO", "Smazat odřezek"},
+                                                         {"TiskMS", "Tisk výpisu skladu"},
+                                                         {"Konec", "Zavřít"}};
     const char* znacky[] = {"+", "✎", "✕", "Tisk", "⏏"};
     for (int i = 0; i < 5; ++i) {
         QAction* a = m_nastroje->addAction(Ikony::znacka(QString::fromUtf8(znacky[i]), seda), QString::fromUtf8(klice[i].second));
@@ -36,7 +39,8 @@ FrmSklad::FrmSklad(Database& dataS, Prompt& prompt, QWidget* rodic) : QDialog(ro
     }
     m_grid = new QTableWidget(0, 4);
     m_grid->setObjectName(QStringLiteral("GSklad"));
-    m_grid->setHorizontalHeaderLabels({QStringLiteral("Materiál"), QStringLiteral("Délka"), QStringLiteral("Šířka"), QStringLiteral("Počet")});
+    m_grid->setHorizontalHeaderLabels(
+        {QStringLiteral("Materiál"), QStringLiteral("Délka"), QStringLiteral("Šířka"), QStringLiteral("Počet")});
     m_grid->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_grid->setSelectionMode(QAbstractItemView::SingleSelection);
     m_grid->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -61,10 +65,7 @@ FrmSklad::FrmSklad(Database& dataS, Prompt& prompt, QWidget* rodic) : QDialog(ro
     NaplnitGrid();
 }
 
-QAction* FrmSklad::akce(const QString& klic) const
-{
-    return m_nastroje->findChild<QAction*>(klic);
-}
+QAction* FrmSklad::akce(const QString& klic) const { return m_nastroje->findChild<QAction*>(klic); }
 
 QString FrmSklad::materialRadku() const
 {
@@ -104,20 +105,23 @@ void FrmSklad::prikaz(const QString& klic)
                        m_grid->item(r, 2)->data(Qt::UserRole).toDouble(), m_grid->item(r, 3)->text().toInt()};
         if (klic == QLatin1String("PO")) {
             FrmNovy d(this);
-            d.odrezek(QStringLiteral("NovyOdrezek"), {}, [&](const Sklad::Odrezek& o) {
+            d.odrezek(FrmNovy::Stav::NovyOdrezek, {}, [&](const Sklad::Odrezek& o) {
                 const bool ok = Sklad::UlozitNovyOdrezek(m_dataS, m_prompt, o);
                 NaplnitGrid();
                 return ok ? FrmNovy::PoUlozeni::Dalsi : FrmNovy::PoUlozeni::Odmitnuto;
             });
         } else if (klic == QLatin1String("UO") && r >= 0) {
             // the values before the edit, as the store's row is found by them
-            for (const auto& [k, v] : {std::pair{"Material", vybrany.material}, {"x", Dotaz::cislo(vybrany.x)},
-                                       {"y", Dotaz::cislo(vybrany.y)}, {"Pocet", QString::number(vybrany.pocet)}})
+            for (const auto& [k, v] : {std::pair{"Material", vybrany.material},
+                                       {"x", Dotaz::cislo(vybrany.x)},
+                                       {"y", Dotaz::cislo(vybrany.y)},
+                                       {"Pocet", QString::number(vybrany.pocet)}})
                 Nastaveni::SaveSetting(QStringLiteral("Sklad"), QLatin1String(k), v);
             FrmNovy d(this);
-            d.odrezek(QStringLiteral("UpraveniOdrezku"), vybrany, [&](const Sklad::Odrezek& o) {
+            d.odrezek(FrmNovy::Stav::UpraveniOdrezku, vybrany, [&](const Sklad::Odrezek& o) {
                 auto stare = [](const char* k) { return Nastaveni::GetSetting(QStringLiteral("Sklad"), QLatin1String(k)); };
-                const Sklad::Odrezek stary{stare("Material"), stare("x").toDouble(), stare("y").toDouble(), stare("Pocet").toInt()};
+                const Sklad::Odrezek stary{stare("Material"), stare("x").toDouble(), stare("y").toDouble(),
+                                           stare("Pocet").toInt()};
                 const bool ok = Sklad::UlozitUpravuOdrezku(m_dataS, m_prompt, stary, o);
                 NaplnitGrid();
                 return ok ? FrmNovy::PoUlozeni::Zavrit : FrmNovy::PoUlozeni::Odmitnuto;

@@ -7,15 +7,36 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QScrollArea>
 #include <QToolBar>
 #include <QVBoxLayout>
 
+namespace {
+
+// Every page to the printer, scaled from twips to its resolution.
+void tisk(const Dokument& dokument, QPrinter& tiskarna)
+{
+    tiskarna.setFullPage(true);
+    tiskarna.setPageOrientation(dokument.naSirku ? QPageLayout::Landscape : QPageLayout::Portrait);
+    QPainter p(&tiskarna);
+    const double meritko = tiskarna.resolution() / 1440.0;
+    for (int i = 1; i <= dokument.PageCount(); ++i) {
+        if (i > 1)
+            tiskarna.newPage();
+        p.save();
+        p.scale(meritko, meritko);
+        Vykresleni::strana(p, dokument, i);
+        p.restore();
+    }
+}
+
+} // namespace
+
 OknoDokumentu::OknoDokumentu(Prompt& prompt, QWidget* rodic)
-    : QDialog(rodic), m_prompt(prompt), m_nastroje(new QToolBar(this)), m_plocha(new QScrollArea(this)),
-      m_obraz(new QLabel)
+    : QDialog(rodic), m_prompt(prompt), m_nastroje(new QToolBar(this)), m_plocha(new QScrollArea(this)), m_obraz(new QLabel)
 {
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     m_nastroje->setObjectName(QStringLiteral("tbBorovak"));
@@ -40,10 +61,7 @@ QAction* OknoDokumentu::pridejAkci(const QString& klic, const QString& popis, co
     return a;
 }
 
-QAction* OknoDokumentu::akce(const QString& klic) const
-{
-    return m_nastroje->findChild<QAction*>(klic);
-}
+QAction* OknoDokumentu::akce(const QString& klic) const { return m_nastroje->findChild<QAction*>(klic); }
 
 void OknoDokumentu::pridejStrankovani()
 {
@@ -116,7 +134,7 @@ void OknoDokumentu::tiskni()
     tiskarna.setFromTo(1, m_dokument.PageCount());
     QPrintDialog dialog(&tiskarna, this);
     if (dialog.exec() == QDialog::Accepted)
-        Vykresleni::tisk(m_dokument, tiskarna);
+        tisk(m_dokument, tiskarna);
 }
 
 void OknoDokumentu::keyPressEvent(QKeyEvent* e)

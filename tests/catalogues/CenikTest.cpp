@@ -1,9 +1,9 @@
 // The price list: the checks in their order and bounds, the Czech order, the search, an edit
 // keeping its own name, VAT rounding, the printed list; the picture and schema libraries.
+#include "catalogues/Cenik.h"
 #include "DomovTest.h"
 #include "SkriptovanyPrompt.h"
 #include "VzorkyObrazku.h"
-#include "catalogues/Cenik.h"
 #include "catalogues/Knihovna.h"
 #include "core/Database.h"
 #include "core/Nastaveni.h"
@@ -130,8 +130,9 @@ TEST_F(CenikTest, CenaSDphSeZaokrouhlujeDvakrat)
 TEST_F(CenikTest, HromadneNahraniVseNeboNic)
 {
     ASSERT_TRUE(uloz(QStringLiteral("Buk"), QStringLiteral("2"), QStringLiteral("80")));
-    std::vector<Cenik::Zadani> davka = {{QStringLiteral("Jasan"), QStringLiteral("3"), QStringLiteral("5"), QStringLiteral("ks"), QStringLiteral("P")},
-                                        {QStringLiteral("buk"), QStringLiteral("4"), QStringLiteral("5"), QStringLiteral("ks"), QStringLiteral("P")}};
+    std::vector<Cenik::Zadani> davka = {
+        {QStringLiteral("Jasan"), QStringLiteral("3"), QStringLiteral("5"), QStringLiteral("ks"), QStringLiteral("P")},
+        {QStringLiteral("buk"), QStringLiteral("4"), QStringLiteral("5"), QStringLiteral("ks"), QStringLiteral("P")}};
     EXPECT_EQ(Cenik::nahraj(db(), prompt, davka), 1);
     EXPECT_EQ(nazvy(), QStringList({"Buk"}));
     davka[1].nazev = QStringLiteral("Olše");
@@ -165,7 +166,8 @@ TEST_F(CenikTest, TiskCenikuRadekNaPolozkuAPatickaNaKazdeStrane)
         for (const Operace& op : d.strana(s).operace) {
             if (const auto* t = std::get_if<OpTextBox>(&op))
                 texty << t->text;
-            else if (const auto* o = std::get_if<OpObdelnik>(&op); o && !o->stetec.pruhledny && o->stetec.barva == QColor(255, 255, 0))
+            else if (const auto* o = std::get_if<OpObdelnik>(&op);
+                     o && !o->stetec.pruhledny && o->stetec.barva == QColor(255, 255, 0))
                 ++zlutych;
         }
         hlavicek += int(texty.count(QStringLiteral("Kód")));
@@ -223,9 +225,9 @@ TEST_F(CenikTest, SmazanyObrazekZmiziZPolozekSchemaZustaneVZakazce)
     ASSERT_EQ(Knihovna::pridej(db(), prompt, Druh::Schemata, QStringLiteral("s.png"), vzorek("png")), 1);
     Database& data = uloziste().dataS();
     data.execute(QStringLiteral("INSERT INTO Zakazky (Zakazka, Sestava, Oznaceni, schema) VALUES ('Z', 'S', '', 1)"));
-    EXPECT_FALSE(Knihovna::NactiSchema(data, db(), QStringLiteral("Z"), QStringLiteral("S")).isNull());
+    EXPECT_FALSE(Knihovna::obrazek(db(), Druh::Schemata, 1).isNull());
     ASSERT_TRUE(Knihovna::smaz(db(), Druh::Schemata, 1));
     EXPECT_EQ(data.hodnota(QStringLiteral("SELECT schema FROM Zakazky")).toInt(), 1);
-    EXPECT_TRUE(Knihovna::NactiSchema(data, db(), QStringLiteral("Z"), QStringLiteral("S")).isNull());
-    EXPECT_TRUE(Knihovna::NactiSchema(data, db(), QStringLiteral("Z"), QString()).isNull());
+    EXPECT_TRUE(Knihovna::obrazek(db(), Druh::Schemata, 1).isNull()); // the assembly keeps a reference to nothing
+    EXPECT_TRUE(Knihovna::obrazek(db(), Druh::Schemata, 0).isNull());
 }

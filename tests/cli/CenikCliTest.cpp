@@ -2,12 +2,12 @@
 #include "VzorkyObrazku.h"
 #include "core/Database.h"
 
+#include "SpusteniCli.h"
 #include <QFile>
 #include <QImage>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include "SpusteniCli.h"
 #include <QProcess>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -38,8 +38,9 @@ TEST_F(CenikCliTest, CenikTamAZpetVsechnoNeboNic)
     const Vysledek podleNazvu = spust({"pricelist-dump"});
     EXPECT_EQ(QJsonDocument::fromJson(podleNazvu.out.toUtf8()).array(), QJsonArray({cekano[1], cekano[0], cekano[2]}));
 
-    const Vysledek dvojnik = spust({"pricelist-load", soubor(QStringLiteral("d.json"),
-        R"([{"kod": 9, "nazev": "Nová", "cena": 1, "jednotka": "ks", "skupina": "P"},
+    const Vysledek dvojnik =
+        spust({"pricelist-load", soubor(QStringLiteral("d.json"),
+                                        R"([{"kod": 9, "nazev": "Nová", "cena": 1, "jednotka": "ks", "skupina": "P"},
             {"kod": 8, "nazev": "DUB 'rustikál'", "cena": 1, "jednotka": "ks", "skupina": "P"}])")});
     EXPECT_EQ(dvojnik.kod, 3);
     EXPECT_TRUE(dvojnik.err.contains(QStringLiteral("Položka pod tímhle názvem již existuje"))) << dvojnik.err.toStdString();
@@ -64,7 +65,8 @@ TEST_F(CenikCliTest, ObrazkyBajtZaBajtemPoskozenyNeuloziNic)
 
     const Vysledek poskozeny = spust({"picture-add", soubor(QStringLiteral("zlom.jpg"), jpg.left(jpg.size() / 2))});
     EXPECT_EQ(poskozeny.kod, 3);
-    EXPECT_TRUE(poskozeny.err.contains(QStringLiteral("Soubor „zlom.jpg“ není obrázek JPG, PNG, BMP, GIF ani WMF, nebo je poškozený.")));
+    EXPECT_TRUE(
+        poskozeny.err.contains(QStringLiteral("Soubor „zlom.jpg“ není obrázek JPG, PNG, BMP, GIF ani WMF, nebo je poškozený.")));
     const QJsonArray seznam = QJsonDocument::fromJson(spust({"picture-list"}).out.toUtf8()).array();
     ASSERT_EQ(seznam.size(), 2);
     EXPECT_EQ(seznam[0][QStringLiteral("nazev")].toString(), QStringLiteral("dub.jpg"));
@@ -76,6 +78,14 @@ TEST_F(CenikCliTest, ObrazkyBajtZaBajtemPoskozenyNeuloziNic)
     const QString png = m_dir.filePath(QStringLiteral("male.png"));
     ASSERT_EQ(spust({"picture-render", "1", png, "--fit", "150x150"}).kod, 0);
     EXPECT_EQ(QImage(png).size(), QSize(150, 100));
+    // an output the file system refuses: exit 4 with the reason, and no file, whole or half
+    const QString nikam = m_dir.filePath(QStringLiteral("není/x.png"));
+    for (const QStringList& prikaz : {QStringList{"picture-get", "1", nikam}, QStringList{"picture-render", "1", nikam}}) {
+        const Vysledek v = spust(prikaz);
+        EXPECT_EQ(v.kod, 4) << prikaz.join(' ').toStdString();
+        EXPECT_TRUE(v.err.contains(nikam)) << v.err.toStdString();
+    }
+    EXPECT_FALSE(QDir(m_dir.filePath(QStringLiteral("není"))).exists());
     EXPECT_EQ(spust({"picture-delete", "2"}).kod, 0);
     EXPECT_EQ(spust({"picture-get", "2", zpet}).kod, 3);
     EXPECT_EQ(spust({"picture-list", "--schema"}).out.trimmed(), QStringLiteral("[\n]"));
@@ -86,8 +96,10 @@ TEST_F(CenikCliTest, ObrazkyBajtZaBajtemPoskozenyNeuloziNic)
 TEST_F(CenikCliTest, PrislusenstviZCenikuVKalkulaci)
 {
     ASSERT_EQ(spust({"pricelist-load", soubor(QStringLiteral("c.json"), polozky)}).kod, 0);
-    ASSERT_EQ(spust({"order-load", soubor(QStringLiteral("z.json"),
-                                           R"({"zakazka": "Z", "sestavy": [{"nazev": "S", "pocet": 1}]})")}).kod, 0);
+    ASSERT_EQ(
+        spust({"order-load", soubor(QStringLiteral("z.json"), R"({"zakazka": "Z", "sestavy": [{"nazev": "S", "pocet": 1}]})")})
+            .kod,
+        0);
     ASSERT_EQ(spust({"settings", "set", "Setting", "SlevaPris", "10"}).kod, 0);
     const Vysledek pridani = spust({"accessory-add", "Z", "S", "Čep", "2.125"});
     ASSERT_EQ(pridani.kod, 0) << pridani.err.toStdString();
@@ -107,8 +119,11 @@ TEST_F(CenikCliTest, PrislusenstviZCenikuVKalkulaci)
     const QJsonObject po = QJsonDocument::fromJson(spust({"order-dump", "Z"}).out.toUtf8()).object();
     EXPECT_TRUE(po[QStringLiteral("sestavy")][0][QStringLiteral("prislusenstvi")].toArray().isEmpty());
 
-    const Vysledek nula = spust({"order-load", soubor(QStringLiteral("n.json"),
-        R"({"zakazka": "N", "sestavy": [{"nazev": "S", "prislusenstvi": [{"oznaceni": "pant", "mnozstvi": 0, "cena": 1}]}]})")});
+    const Vysledek nula = spust(
+        {"order-load",
+         soubor(
+             QStringLiteral("n.json"),
+             R"({"zakazka": "N", "sestavy": [{"nazev": "S", "prislusenstvi": [{"oznaceni": "pant", "mnozstvi": 0, "cena": 1}]}]})")});
     EXPECT_EQ(nula.kod, 3);
     EXPECT_TRUE(nula.err.contains(QStringLiteral("Zadejte množství a cenu číslem.")));
 }

@@ -1,19 +1,17 @@
 // The language files: the built-in pair, what a damaged file is, and that every menu keeps its
 // accelerators unique in English as in Czech.
+#include "core/Jazyk.h"
 #include "DomovTest.h"
+#include "PoruchaSouboru.h"
 #include "core/Aplikace.h"
 #include "core/Error.h"
-#include "core/Jazyk.h"
 
 #include <QFile>
 #include <QSet>
 
 namespace {
 
-QStringList vestavene(Jazyk::Soubor s)
-{
-    return QString::fromUtf8(Jazyk::vestaveny(s)).split(QLatin1Char('\n'));
-}
+QStringList vestavene(Jazyk::Soubor s) { return QString::fromUtf8(Jazyk::vestaveny(s)).split(QLatin1Char('\n')); }
 
 class Jazyk_ : public DomovTest {
 protected:
@@ -63,12 +61,21 @@ TEST_F(Jazyk_, ZalozeniZapiseSouboryAUpravenyNeprepise)
     ASSERT_TRUE(f.open(QIODevice::Append));
     f.write("navíc\n"); // a line past 109 is ignored
     f.close();
-    const QByteArray upraveny = [&] { f.open(QIODevice::ReadOnly); return f.readAll(); }();
+    const QByteArray upraveny = [&] {
+        f.open(QIODevice::ReadOnly);
+        return f.readAll();
+    }();
     f.close();
     Aplikace::zaloz();
     QFile znovu(Jazyk::cesta(Jazyk::Soubor::Anglictina));
     ASSERT_TRUE(znovu.open(QIODevice::ReadOnly));
     EXPECT_EQ(znovu.readAll(), upraveny);
+    EXPECT_EQ(Jazyk::nacti(Jazyk::cesta(Jazyk::Soubor::Anglictina)).last(), QStringLiteral("Delete"));
+
+    // a missing file that cannot be written stays missing, the edited one untouched
+    const QString cestina = Jazyk::cesta(Jazyk::Soubor::Cestina);
+    ASSERT_TRUE(QFile::remove(cestina));
+    ocekavejPoruchySouboru(cestina, [] { Jazyk::zapisChybejici(); });
     EXPECT_EQ(Jazyk::nacti(Jazyk::cesta(Jazyk::Soubor::Anglictina)).last(), QStringLiteral("Delete"));
 }
 
@@ -99,10 +106,19 @@ TEST_F(Jazyk_, PoskozenyAChybejiciSoubor)
 TEST_F(Jazyk_, AkceleratoryJsouJedinecneVKazdemMenu)
 {
     // the lines of each menu, the menu bar first
-    const std::vector<std::vector<int>> menu = {
-        {34, 29, 35, 38, 46, 49}, {1, 6, 11, 15, 19, 23, 27, 28}, {2, 3, 4, 5}, {7, 8, 9, 10}, {12, 13, 14},
-        {16, 17, 18}, {20, 21, 22}, {24, 25, 26}, {30, 31, 32, 33}, {36, 37}, {39, 40, 41, 42, 43, 44, 45},
-        {47, 48}, {50, 51}};
+    const std::vector<std::vector<int>> menu = {{34, 29, 35, 38, 46, 49},
+                                                {1, 6, 11, 15, 19, 23, 27, 28},
+                                                {2, 3, 4, 5},
+                                                {7, 8, 9, 10},
+                                                {12, 13, 14},
+                                                {16, 17, 18},
+                                                {20, 21, 22},
+                                                {24, 25, 26},
+                                                {30, 31, 32, 33},
+                                                {36, 37},
+                                                {39, 40, 41, 42, 43, 44, 45},
+                                                {47, 48},
+                                                {50, 51}};
     const QStringList cz = vestavene(Jazyk::Soubor::Cestina), en = vestavene(Jazyk::Soubor::Anglictina);
     for (const auto& radky : menu) {
         QSet<QChar> pouzite;

@@ -1,14 +1,15 @@
 // Plan pages and labels of the demo kitchen (40 boards on 2 sheets of 2800 x 2070 mm), and
 // the saving of a document as PDF when the disk or the folder says no.
 #include "DomovTest.h"
+#include "PoruchaSouboru.h"
 #include "SkriptovanyPrompt.h"
 #include "core/Error.h"
 #include "core/Nastaveni.h"
 #include "core/Recordset.h"
-#include "core/Soubory.h"
 #include "core/Uloziste.h"
 #include "exchange/ZakazkaJson.h"
 #include "optimiser/PlanRun.h"
+#include "planoutput/ExportCNC.h"
 #include "planoutput/Stitky.h"
 #include "planoutput/StrankyNP.h"
 #include "printing/UlozeniPdf.h"
@@ -17,9 +18,8 @@
 #include <QBuffer>
 #include <QDir>
 #include <QFile>
-#include <unistd.h>
-#include <cerrno>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 namespace {
 
@@ -60,7 +60,8 @@ protected:
         QStringList n;
         Recordset rs(uloziste().dataK(), QStringLiteral("SELECT * FROM SoupisDesek WHERE ID = True"));
         for (; !rs.eof(); rs.moveNext())
-            n << rs.text(QStringLiteral("Oznaceni")) + QStringLiteral(" (") + rs.text(QStringLiteral("Sestava")) + QLatin1Char(')');
+            n << rs.text(QStringLiteral("Oznaceni")) + QStringLiteral(" (") + rs.text(QStringLiteral("Sestava")) +
+                     QLatin1Char(')');
         return n;
     }
     SkriptovanyPrompt prompt;
@@ -74,8 +75,8 @@ TEST_F(Stranky, JednaDveCtyriTabuleNaStranu)
     ASSERT_EQ(d.PageCount(), 2);
     EXPECT_TRUE(d.naSirku);
     const QStringList prvni = texty(d, 1);
-    for (const char* popisek : {"Vzor tabule:", "Tabule:", "Rozměr tabule:", "Využití tabule [%]:", "Šířka řezu:",
-                                "Počet řezů:", "Zakázka:", "Materiál:"})
+    for (const char* popisek : {"Vzor tabule:", "Tabule:", "Rozměr tabule:", "Využití tabule [%]:", "Šířka řezu:", "Počet řezů:",
+                                "Zakázka:", "Materiál:"})
         EXPECT_TRUE(prvni.contains(QString::fromUtf8(popisek))) << popisek;
     EXPECT_TRUE(prvni.contains(QStringLiteral("1/2")));
     EXPECT_TRUE(texty(d, 2).contains(QStringLiteral("2/2")));
@@ -85,8 +86,7 @@ TEST_F(Stranky, JednaDveCtyriTabuleNaStranu)
     // Every placed board is named on some page.
     const QStringList vse = texty(d, 1) + texty(d, 2);
     for (const QString& n : nazvyUsazenych())
-        EXPECT_TRUE(std::any_of(vse.begin(), vse.end(), [&](const QString& t) { return t.contains(n); }))
-            << n.toStdString();
+        EXPECT_TRUE(std::any_of(vse.begin(), vse.end(), [&](const QString& t) { return t.contains(n); })) << n.toStdString();
 
     ASSERT_TRUE(StrankyNP(d, uloziste(), plan, 2));
     EXPECT_EQ(d.PageCount(), 1);
@@ -103,7 +103,8 @@ TEST_F(Stranky, OdrezkyJenVetsiNezMez)
     const PlanNaStrankach plan = spust(ZpusobNP::PodelneRezy);
     Database& k = uloziste().dataK();
     const auto pocet = [&](const QString& mez) {
-        return k.hodnota(QStringLiteral("SELECT count(*) FROM SoupisZbytku WHERE CT = 1 and Oznaceni <> 'ZŘ' and ") + mez).toInt();
+        return k.hodnota(QStringLiteral("SELECT count(*) FROM SoupisZbytku WHERE CT = 1 and Oznaceni <> 'ZŘ' and ") + mez)
+            .toInt();
     };
     const int velkych = pocet(QStringLiteral("XZP > 1000 and YZP > 1000"));
     const int desek = k.hodnota(QStringLiteral("SELECT count(*) FROM SoupisDesek WHERE ID = True and tabule = 1")).toInt();
@@ -113,10 +114,12 @@ TEST_F(Stranky, OdrezkyJenVetsiNezMez)
     // Raise the limits to exactly one remnant's size: that remnant is no longer drawn.
     Recordset r(k, QStringLiteral("SELECT * FROM SoupisZbytku WHERE CT = 1 and Oznaceni <> 'ZŘ' and XZP > 1000 and YZP > 1000"));
     ASSERT_FALSE(r.eof());
-    Nastaveni::SaveSetting(QStringLiteral("Setting2"), QStringLiteral("XZ"), QString::number(r.cislo(QStringLiteral("XZP")) / 10));
-    Nastaveni::SaveSetting(QStringLiteral("Setting2"), QStringLiteral("YZ"), QString::number(r.cislo(QStringLiteral("YZP")) / 10));
-    const int uzMene = pocet(QStringLiteral("XZP > ") + QString::number(r.cislo(QStringLiteral("XZP"))) + QStringLiteral(" and YZP > ") +
-                             QString::number(r.cislo(QStringLiteral("YZP"))));
+    Nastaveni::SaveSetting(QStringLiteral("Setting2"), QStringLiteral("XZ"),
+                           QString::number(r.cislo(QStringLiteral("XZP")) / 10));
+    Nastaveni::SaveSetting(QStringLiteral("Setting2"), QStringLiteral("YZ"),
+                           QString::number(r.cislo(QStringLiteral("YZP")) / 10));
+    const int uzMene = pocet(QStringLiteral("XZP > ") + QString::number(r.cislo(QStringLiteral("XZP"))) +
+                             QStringLiteral(" and YZP > ") + QString::number(r.cislo(QStringLiteral("YZP"))));
     ASSERT_TRUE(StrankyNP(d, uloziste(), plan, 1));
     EXPECT_EQ(obdelniku(d, 1), zaklad + desek + uzMene);
     EXPECT_LT(uzMene, velkych);
@@ -193,6 +196,14 @@ TEST_F(Stranky, StitkyPoStrankach)
     EXPECT_EQ(d.PageCount(), 7); // 6 to a page
 }
 
+TEST_F(Stranky, VpfPriPoruseDiskuZustaneStary)
+{
+    const PlanNaStrankach plan = spust();
+    const QString cesta = QDir(domov()).filePath(QStringLiteral("OUT00000.VPF"));
+    ASSERT_TRUE(ExportCNC::zapis(uloziste().dataS(), uloziste().dataK(), plan, cesta));
+    ocekavejPoruchySouboru(cesta, [&] { ExportCNC::zapis(uloziste().dataS(), uloziste().dataK(), plan, cesta); });
+}
+
 TEST_F(Stranky, PdfCeleNeboNic)
 {
     const PlanNaStrankach plan = spust();
@@ -206,13 +217,11 @@ TEST_F(Stranky, PdfCeleNeboNic)
     EXPECT_TRUE(puvodni.startsWith("%PDF"));
     f.close();
 
-    // A full disk while writing: the old file stays, no temporary file is left.
-    Soubory::nastavPoruchu([](const char* op, const QString&) { return qstrcmp(op, "sync") == 0 ? ENOSPC : 0; });
-    EXPECT_EQ(cisloChyby([&] { Vykresleni::pdf(d, cesta); }), Chyba::DiskPlny);
-    Soubory::nastavPoruchu({});
+    // A failing disk: the old file stays, no temporary file is left.
+    ocekavejPoruchySouboru(cesta, [&] { Vykresleni::pdf(d, cesta); });
     ASSERT_TRUE(f.open(QIODevice::ReadOnly));
     EXPECT_EQ(f.readAll(), puvodni);
-    EXPECT_EQ(QDir(domov()).entryList({QStringLiteral("*.tmp-*")}, QDir::Files).size(), 0);
+    f.close();
 
     // Saving from the viewer: the proposed name, the question, the messages of the table.
     prompt.odpovez(cesta);

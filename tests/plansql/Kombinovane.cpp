@@ -4,7 +4,7 @@
 
 #include "core/Database.h"
 #include "core/Dotaz.h"
-#include "plansql/Dotazy.h"
+#include "optimiser/Dotazy.h"
 #include "plansql/Zkouska.h"
 
 #include <set>

@@ -60,6 +60,7 @@ NahodnyPripad vytvorPripad(Uloziste& u, quint32 seme)
 {
     QRandomGenerator n(seme);
     Database& db = u.dataS();
+    db.executeSqlite(QStringLiteral("PRAGMA synchronous=OFF")); // a throw-away store: no waiting for the disk
     db.executeSqlite(QStringLiteral("DELETE FROM Zakazky"));
     db.executeSqlite(QStringLiteral("DELETE FROM ZakazkyMaterialy"));
     db.executeSqlite(QStringLiteral("DELETE FROM SkladOdrezku"));

@@ -1,7 +1,7 @@
 #include "plansql/Umisteni.h"
 
 #include "core/Database.h"
-#include "plansql/Dotazy.h"
+#include "optimiser/Dotazy.h"
 #include "plansql/Zkouska.h"
 
 namespace PlanSql {

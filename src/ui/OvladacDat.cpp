@@ -1,0 +1,63 @@
+#include "ui/OvladacDat.h"
+
+#include "core/Error.h"
+#include "core/Prompt.h"
+#include "core/Razitko.h"
+#include "core/Uloziste.h"
+#include "exchange/Zaloha.h"
+#include "ui/TabulkaPrikazu.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+
+OvladacDat::OvladacDat(Uloziste& uloziste, Prompt& prompt, std::function<void()> poObnove)
+    : m_uloziste(uloziste), m_prompt(prompt), m_poObnove(std::move(poObnove))
+{
+}
+
+void OvladacDat::pridejPrikazy(TabulkaPrikazu& tabulka)
+{
+    tabulka.pridej({QStringLiteral("Vz")}, [this] { ZalohaDat(); });
+    tabulka.pridej({QStringLiteral("OD")}, [this] { ObnovaDat(); });
+}
+
+void OvladacDat::ZalohaDat()
+{
+    try {
+        QDir().mkpath(Zaloha::slozka());
+        const QString soubor =
+            m_prompt.soubor(true, QStringLiteral("Vytvoření zálohy..."), Zaloha::slozka(),
+                            Zaloha::navrh(Schema::Soubor::Data, Razitko::ted().date()), Zaloha::filtr(Schema::Soubor::Data));
+        const QString cil =
+            soubor.endsWith(QLatin1String(".bvk"), Qt::CaseInsensitive) ? soubor : soubor + QStringLiteral(".bvk");
+        if (QFile::exists(cil) && m_prompt.zprava(QStringLiteral("Soubor pod tímto názvem již existuje, chcete ho přepsat ?"),
+                                                  QStringLiteral("Upozornění !!!"), Prompt::Ikona::Vykricnik,
+                                                  Prompt::Tlacitka::AnoNe) != Prompt::Odpoved::Ano)
+            return;
+        Zaloha::zalohuj(m_uloziste, Schema::Soubor::Data, cil);
+        m_prompt.zprava(QStringLiteral("Zálohování bylo úspěšně dokončeno"), QStringLiteral("Uloženo.."),
+                        Prompt::Ikona::Informace);
+    } catch (const Error& e) {
+        const Zaloha::Zprava z = Zaloha::zpravaZalohy(e);
+        if (!z.text.isEmpty())
+            m_prompt.zprava(z.text, z.titulek, Prompt::Ikona::Kriticka);
+    }
+}
+
+void OvladacDat::ObnovaDat()
+{
+    try {
+        QDir().mkpath(Zaloha::slozka());
+        const QString soubor = m_prompt.soubor(false, QStringLiteral("Vložení zálohovaných dat..."), Zaloha::slozka(), QString(),
+                                               Zaloha::filtr(Schema::Soubor::Data));
+        if (Zaloha::obnov(m_uloziste, Schema::Soubor::Data, soubor, m_prompt))
+            m_poObnove();
+    } catch (const Error& e) {
+        const Zaloha::Zprava z = Zaloha::zpravaObnovy(e, Schema::Soubor::Data);
+        if (!z.text.isEmpty())
+            m_prompt.zprava(z.text, z.titulek, Prompt::Ikona::Kriticka);
+        if (z.konec)
+            QApplication::exit(1);
+    }
+}
