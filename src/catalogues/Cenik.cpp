@@ -20,14 +20,14 @@ namespace {
 const QStringList razeni_ = {QStringLiteral("nazev"), QStringLiteral("Kod"), QStringLiteral("Cena"), QStringLiteral("Jednotka")};
 const QStringList vybery_ = {QStringLiteral("PM"), QStringLiteral("H"), QStringLiteral("P"), QStringLiteral("VSE")};
 
-QString podleNazvu(const QString& nazev)
+Recordset podleNazvu(Database& db, const QString& nazev, Recordset::Rozsah rozsah = Recordset::Rozsah::Vse)
 {
-    return QStringLiteral("SELECT * FROM Cenik WHERE nazev = '") + Dotaz::text(nazev) + QStringLiteral("'");
+    return Recordset(db, QStringLiteral("SELECT * FROM Cenik WHERE nazev = ?"), {nazev}, rozsah);
 }
 
 Polozka cti(const Recordset& r)
 {
-    return {qint64(r.cislo(QStringLiteral("kod"))), r.text(QStringLiteral("nazev")), r.cislo(QStringLiteral("Cena")),
+    return {qint64(r.cislo(QStringLiteral("kod"))), r.text(QStringLiteral("nazev")),   r.cislo(QStringLiteral("Cena")),
             r.text(QStringLiteral("jednotka")),     r.text(QStringLiteral("skupina")), int(r.cislo(QStringLiteral("obr1"))),
             int(r.cislo(QStringLiteral("obr2")))};
 }
@@ -48,10 +48,10 @@ bool chyba(Prompt& p, const char* text, const char* titulek)
     return false;
 }
 
-// The row of another item (than the one by staryNazev) that a query finds.
-bool jinde(Database& db, const QString& sql, const std::optional<qint64>& vlastni)
+// The row of another item (than the one by staryNazev) among the rows found.
+bool jinde(Recordset&& r, const std::optional<qint64>& vlastni)
 {
-    for (Recordset r(db, sql); !r.eof(); r.moveNext())
+    for (; !r.eof(); r.moveNext())
         if (!vlastni || r.rowid() != *vlastni)
             return true;
     return false;
@@ -72,9 +72,9 @@ bool platne(Database& db, Prompt& p, const Zadani& z, const std::optional<qint64
     const auto cena = cislo(z.cena);
     if (!cena || *cena <= 0 || *cena > MaxCena)
         return chyba(p, "Do pole CENA zadejte číselnou nenulovou hodnotu v intervalu do 10 000", "Chyba zadání");
-    if (jinde(db, podleNazvu(z.nazev), vlastni))
+    if (jinde(podleNazvu(db, z.nazev), vlastni))
         return chyba(p, "Položka pod tímhle názvem již existuje, zadejte jiný nazev !!!", "Špatné zadání názvu položky");
-    if (jinde(db, QStringLiteral("SELECT * FROM Cenik WHERE kod = ") + Dotaz::cislo(*kod), vlastni))
+    if (jinde(Recordset(db, QStringLiteral("SELECT * FROM Cenik WHERE kod = ?"), {*kod}), vlastni))
         return chyba(p, "Položka pod tímhle kódem již existuje, zadejte jiný Kod !!!", "Špatné zadání kódu");
     if (!QStringList({"PM", "H", "P"}).contains(z.skupina))
         return chyba(p, "Zařazení položky je PM, H nebo P.", "Chyba zadání");
@@ -98,7 +98,7 @@ bool uloz(Database& db, Prompt& prompt, const QString& staryNazev, const Zadani&
 {
     std::optional<Recordset> stary;
     if (!staryNazev.isNull()) {
-        stary.emplace(db, podleNazvu(staryNazev), Recordset::Rozsah::Prvni);
+        stary.emplace(podleNazvu(db, staryNazev, Recordset::Rozsah::Prvni));
         if (stary->eof())
             stary.reset(); // gone meanwhile: stored as a new item
     }
@@ -138,15 +138,12 @@ void projdi(Database& db, const QString& jet, F&& radek)
     const int obr2 = db.indexSloupce(QStringLiteral("Cenik"), QStringLiteral("obr2"));
     while (prikaz->krok())
         radek(Polozka{prikaz->sloupec(kod).toLongLong(), prikaz->sloupec(nazev).toString(), prikaz->sloupec(cena).toDouble(),
-                      prikaz->sloupec(jednotka).toString(), prikaz->sloupec(skupina).toString(),
-                      prikaz->sloupec(obr1).toInt(), prikaz->sloupec(obr2).toInt()});
+                      prikaz->sloupec(jednotka).toString(), prikaz->sloupec(skupina).toString(), prikaz->sloupec(obr1).toInt(),
+                      prikaz->sloupec(obr2).toInt()});
     prikaz->reset();
 }
 
-QString dvaMista(double v)
-{
-    return QString::number(Zaokrouhli(v, 2), 'f', 2);
-}
+QString dvaMista(double v) { return QString::number(Zaokrouhli(v, 2), 'f', 2); }
 
 } // namespace
 
@@ -158,20 +155,11 @@ QString Razeni(const QString& razeni)
     return razeni_.first();
 }
 
-QString Vyber(const QString& vyber)
-{
-    return vybery_.contains(vyber) ? vyber : QStringLiteral("VSE");
-}
+QString Vyber(const QString& vyber) { return vybery_.contains(vyber) ? vyber : QStringLiteral("VSE"); }
 
-QString ulozeneRazeni()
-{
-    return Razeni(Nastaveni::GetSetting(QStringLiteral("Setting2"), QStringLiteral("Razeni")));
-}
+QString ulozeneRazeni() { return Razeni(Nastaveni::GetSetting(QStringLiteral("Setting2"), QStringLiteral("Razeni"))); }
 
-QString ulozenyVyber()
-{
-    return Vyber(Nastaveni::GetSetting(QStringLiteral("Setting2"), QStringLiteral("Vyber")));
-}
+QString ulozenyVyber() { return Vyber(Nastaveni::GetSetting(QStringLiteral("Setting2"), QStringLiteral("Vyber"))); }
 
 void VyberRazeniCeniku(const QString& vyber, const QString& razeni)
 {
@@ -206,16 +194,13 @@ QStringList hledej(Database& db, const QString& text)
 
 std::optional<Polozka> nacti(Database& db, const QString& nazev)
 {
-    const Recordset r(db, podleNazvu(nazev) + QStringLiteral(" ORDER BY nazev"), Recordset::Rozsah::Prvni);
+    const Recordset r = podleNazvu(db, nazev, Recordset::Rozsah::Prvni);
     if (r.eof())
         return std::nullopt;
     return cti(r);
 }
 
-double cenaSDPH(double cena, double dph)
-{
-    return Zaokrouhli(Zaokrouhli(cena, 2) * (dph / 100 + 1), 2);
-}
+double cenaSDPH(double cena, double dph) { return Zaokrouhli(Zaokrouhli(cena, 2) * (dph / 100 + 1), 2); }
 
 QString textCeny(double cena, const QString& mena, const QString& jednotka)
 {
@@ -244,7 +229,7 @@ bool SmazatPolozku(Database& db, Prompt& prompt, const QString& nazev)
                       Prompt::Tlacitka::AnoNe) != Prompt::Odpoved::Ano)
         return false;
     Transakce t(db);
-    for (Recordset r(db, podleNazvu(nazev)); !r.eof(); r.moveNext())
+    for (Recordset r = podleNazvu(db, nazev); !r.eof(); r.moveNext())
         r.remove();
     t.commit();
     return true;
@@ -269,8 +254,8 @@ void TiskCeniku(Dokument& d, Database& db, const QString& vyber, const QString& 
                     {Qt::AlignLeft, Qt::AlignLeft, Qt::AlignRight, Qt::AlignRight, Qt::AlignHCenter, Qt::AlignHCenter}};
     const double vyska = 1.3 * d.TextHeight(QStringLiteral("Test"));
     RadekTabulky hlava;
-    hlava.bunky = QStringList{QStringLiteral("Kód"), QStringLiteral("Materiál"), QStringLiteral("bez DPH"),
-                              QStringLiteral("s DPH"), QStringLiteral("Jedn."), QStringLiteral("Zařazení")};
+    hlava.bunky = QStringList{QStringLiteral("Kód"),   QStringLiteral("Materiál"), QStringLiteral("bez DPH"),
+                              QStringLiteral("s DPH"), QStringLiteral("Jedn."),    QStringLiteral("Zařazení")};
     hlava.vyska = vyska;
     hlava.pozadi = QColor(255, 255, 0); // the old control's 65535
     d.AddRow(t, hlava);
@@ -280,8 +265,8 @@ void TiskCeniku(Dokument& d, Database& db, const QString& vyber, const QString& 
             d.AddRow(t, hlava);
         }
         RadekTabulky r;
-        r.bunky = QStringList{QString::number(p.kod), p.nazev, dvaMista(p.cena), dvaMista(cenaSDPH(p.cena, dph)), p.jednotka,
-                              p.skupina};
+        r.bunky = QStringList{QString::number(p.kod),          p.nazev,    dvaMista(p.cena),
+                              dvaMista(cenaSDPH(p.cena, dph)), p.jednotka, p.skupina};
         r.vyska = vyska;
         d.AddRow(t, r);
     });
@@ -303,4 +288,4 @@ void TiskCeniku(Dokument& d, Database& db, const QString& vyber, const QString& 
     }
 }
 
-}
+} // namespace Cenik

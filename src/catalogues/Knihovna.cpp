@@ -1,7 +1,6 @@
 #include "catalogues/Knihovna.h"
 
 #include "core/Database.h"
-#include "core/Dotaz.h"
 #include "core/Prompt.h"
 #include "core/Recordset.h"
 #include "core/Transakce.h"
@@ -23,8 +22,7 @@ std::vector<Zaznam> seznam(Database& db, Druh druh)
 
 std::optional<QByteArray> data(Database& db, Druh druh, int ide)
 {
-    const Recordset r(db, QStringLiteral("select * FROM ") + tabulka(druh) + QStringLiteral(" where IDE = ") + Dotaz::cislo(ide),
-                      Recordset::Rozsah::Prvni);
+    const Recordset r(db, QStringLiteral("SELECT * FROM %1 WHERE IDE = ?").arg(tabulka(druh)), {ide}, Recordset::Rozsah::Prvni);
     if (r.eof())
         return std::nullopt;
     return r.value(QStringLiteral("OBR")).toByteArray();
@@ -32,14 +30,12 @@ std::optional<QByteArray> data(Database& db, Druh druh, int ide)
 
 bool existuje(Database& db, Druh druh, int ide)
 {
-    return db.hodnota(QStringLiteral("SELECT IDE FROM ") + tabulka(druh) + QStringLiteral(" WHERE IDE = ") + Dotaz::cislo(ide))
-        .isValid();
+    return db.hodnota(QStringLiteral("SELECT IDE FROM %1 WHERE IDE = ?").arg(tabulka(druh)), {ide}).isValid();
 }
 
 QString nazev(Database& db, Druh druh, int ide)
 {
-    return db.hodnota(QStringLiteral("SELECT nazev FROM ") + tabulka(druh) + QStringLiteral(" WHERE IDE = ") + Dotaz::cislo(ide))
-        .toString();
+    return db.hodnota(QStringLiteral("SELECT nazev FROM %1 WHERE IDE = ?").arg(tabulka(druh)), {ide}).toString();
 }
 
 QImage obrazek(Database& db, Druh druh, int ide)
@@ -67,15 +63,14 @@ int pridej(Database& db, Prompt& prompt, Druh druh, const QString& nazev, const 
 bool smaz(Database& db, Druh druh, int ide)
 {
     Transakce t(db);
-    Recordset r(db, QStringLiteral("select * FROM ") + tabulka(druh) + QStringLiteral(" where IDE = ") + Dotaz::cislo(ide));
+    Recordset r(db, QStringLiteral("SELECT * FROM %1 WHERE IDE = ?").arg(tabulka(druh)), {ide});
     const bool byl = !r.eof();
     for (; !r.eof(); r.moveNext())
         r.remove();
     if (druh == Druh::Obrazky)
         for (const char* pole : {"obr1", "obr2"})
-            for (Recordset c(db, QStringLiteral("select * FROM Cenik where ") + QLatin1String(pole) + QStringLiteral(" = ") +
-                                     Dotaz::cislo(ide));
-                 !c.eof(); c.moveNext()) {
+            for (Recordset c(db, QStringLiteral("SELECT * FROM Cenik WHERE %1 = ?").arg(QLatin1String(pole)), {ide}); !c.eof();
+                 c.moveNext()) {
                 c.edit();
                 c.set(QLatin1String(pole), 0);
                 c.update();

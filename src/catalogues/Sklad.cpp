@@ -1,23 +1,23 @@
 #include "catalogues/Sklad.h"
 
 #include "core/Database.h"
-#include "core/Dotaz.h"
 #include "core/Jednotky.h"
 #include "core/Prompt.h"
 #include "core/Recordset.h"
+#include "core/Transakce.h"
 #include "printing/Dokument.h"
 
 namespace Sklad {
 namespace {
 
-QString c(double v) { return Dotaz::cislo(v); }
-
-Recordset stejny(Database& db, const Odrezek& o)
+// The row of the material and size (tenths of a millimetre), compared in tenths as the plan's sizes are.
+Recordset vDesetinach(Database& db, const QString& material, double xDesetiny, double yDesetiny)
 {
-    return Recordset(db, QStringLiteral("SELECT * FROM SkladOdrezku  WHERE Material = '") + Dotaz::text(o.material) +
-                             QStringLiteral("' and x *10= ") + c(o.x * 10) + QStringLiteral(" and y *10= ") + c(o.y * 10),
-                     Recordset::Rozsah::Prvni);
+    return Recordset(db, QStringLiteral("SELECT * FROM SkladOdrezku WHERE Material = ? and x*10 = ? and y*10 = ?"),
+                     {material, xDesetiny, yDesetiny}, Recordset::Rozsah::Prvni);
 }
+
+Recordset stejny(Database& db, const Odrezek& o) { return vDesetinach(db, o.material, o.x * 10, o.y * 10); }
 
 bool platny(Prompt& prompt, const Odrezek& o)
 {
@@ -40,7 +40,8 @@ bool pripocti(Prompt& prompt, Recordset& r, int pocet)
     const int stary = int(r.cislo(QStringLiteral("Pocet")));
     if (prompt.zprava(QStringLiteral("Ve skladu již tato deska existuje a to v počtu:  ") + QString::number(stary) +
                           QStringLiteral(" ks\nChcete počet nových připočíst ke starým  ???"),
-                      QStringLiteral("Existence odřezku"), Prompt::Ikona::Otaznik, Prompt::Tlacitka::AnoNe) != Prompt::Odpoved::Ano)
+                      QStringLiteral("Existence odřezku"), Prompt::Ikona::Otaznik,
+                      Prompt::Tlacitka::AnoNe) != Prompt::Odpoved::Ano)
         return false;
     r.edit();
     r.set(QStringLiteral("Pocet"), stary + pocet);
@@ -61,12 +62,11 @@ void zapis(Recordset& r, const Odrezek& o)
 
 std::vector<Odrezek> nacti(Database& db, const QString& material, const QString& razeni)
 {
-    const QString sql = material.isEmpty()
-                            ? QStringLiteral("SELECT * FROM SkladOdrezku  ORDER BY ") + razeni
-                            : QStringLiteral("SELECT * FROM SkladOdrezku WHERE Material = '") + Dotaz::text(material) +
-                                  QStringLiteral("' order by ") + razeni;
+    const QString kde = material.isEmpty() ? QString() : QStringLiteral(" WHERE Material = ?");
+    const QVariantList hodnoty = material.isEmpty() ? QVariantList() : QVariantList{material};
     std::vector<Odrezek> v;
-    for (Recordset r(db, sql); !r.eof(); r.moveNext())
+    for (Recordset r(db, QStringLiteral("SELECT * FROM SkladOdrezku") + kde + QStringLiteral(" ORDER BY ") + razeni, hodnoty);
+         !r.eof(); r.moveNext())
         v.push_back({r.text(QStringLiteral("Material")), r.cislo(QStringLiteral("x")), r.cislo(QStringLiteral("y")),
                      int(r.cislo(QStringLiteral("Pocet")))});
     return v;
@@ -82,6 +82,17 @@ bool UlozitNovyOdrezek(Database& db, Prompt& prompt, const Odrezek& o)
     r.addNew();
     zapis(r, o);
     return true;
+}
+
+void pridej(Database& db, const std::vector<Odrezek>& odrezky)
+{
+    Transakce t(db);
+    Recordset r(db, QStringLiteral("SkladOdrezku"), Recordset::Rozsah::Prvni);
+    for (const Odrezek& o : odrezky) {
+        r.addNew();
+        zapis(r, o);
+    }
+    t.commit();
 }
 
 bool UlozitUpravuOdrezku(Database& db, Prompt& prompt, const Odrezek& stary, const Odrezek& novy)
@@ -108,11 +119,37 @@ bool UlozitUpravuOdrezku(Database& db, Prompt& prompt, const Odrezek& stary, con
     return true;
 }
 
+void odeberKus(Database& db, const QString& material, double xDesetiny, double yDesetiny)
+{
+    Recordset r = vDesetinach(db, material, xDesetiny, yDesetiny);
+    if (r.eof())
+        return;
+    if (r.cislo(QStringLiteral("Pocet")) <= 1) {
+        r.remove();
+        return;
+    }
+    r.edit();
+    r.set(QStringLiteral("Pocet"), r.cislo(QStringLiteral("Pocet")) - 1);
+    r.update();
+}
+
+void pridejKus(Database& db, const QString& material, double xDesetiny, double yDesetiny)
+{
+    Recordset r = vDesetinach(db, material, xDesetiny, yDesetiny);
+    if (r.eof()) {
+        r.addNew();
+        zapis(r, {material, xDesetiny / 10, yDesetiny / 10, 1});
+        return;
+    }
+    r.edit();
+    r.set(QStringLiteral("Pocet"), r.cislo(QStringLiteral("Pocet")) + 1);
+    r.update();
+}
+
 void SmazatOdrezek(Database& db, const Odrezek& o)
 {
-    Recordset r(db, QStringLiteral("SELECT * FROM SkladOdrezku  WHERE Material = '") + Dotaz::text(o.material) +
-                        QStringLiteral("' and X*10 = ") + c(o.x * 10) + QStringLiteral(" and Y*10 = ") + c(o.y * 10) +
-                        QStringLiteral(" and Pocet = ") + QString::number(o.pocet));
+    Recordset r(db, QStringLiteral("SELECT * FROM SkladOdrezku WHERE Material = ? and X*10 = ? and Y*10 = ? and Pocet = ?"),
+                {o.material, o.x * 10, o.y * 10, o.pocet});
     for (; !r.eof(); r.moveNext())
         r.remove();
 }
@@ -137,10 +174,9 @@ void VypisSkladu(Dokument& d, Database& db, const QString& material)
     d.pismo.velikost = 10;
     d.AddRow(t, hlava);
     d.pismo.tucne = false;
-    const QString sql = material.isEmpty() ? QStringLiteral("SELECT * FROM SkladOdrezku  ORDER BY Material")
-                                           : QStringLiteral("SELECT * FROM SkladOdrezku WHERE Material = '") +
-                                                 Dotaz::text(material) + QStringLiteral("' ORDER BY x,y ");
-    for (Recordset r(db, sql); !r.eof(); r.moveNext()) {
+    const QString sql = material.isEmpty() ? QStringLiteral("SELECT * FROM SkladOdrezku ORDER BY Material")
+                                           : QStringLiteral("SELECT * FROM SkladOdrezku WHERE Material = ? ORDER BY x,y");
+    for (Recordset r(db, sql, material.isEmpty() ? QVariantList() : QVariantList{material}); !r.eof(); r.moveNext()) {
         if (d.presahne(Dokument::mm(6))) {
             d.NewPage();
             d.pismo.tucne = true;
@@ -162,9 +198,10 @@ void VypisSkladu(Dokument& d, Database& db, const QString& material)
         d.pismo.velikost = 8;
         d.pismo.kurziva = true;
         const QString strana = QStringLiteral("Strana  %1 / %2").arg(p).arg(d.PageCount());
-        d.TextBox(strana, QRectF(0, d.PageHeight() - d.MarginBottom + 200, d.PageWidth(), d.TextHeight(strana) + 20), Qt::AlignHCenter);
+        d.TextBox(strana, QRectF(0, d.PageHeight() - d.MarginBottom + 200, d.PageWidth(), d.TextHeight(strana) + 20),
+                  Qt::AlignHCenter);
         d.EndOverlay();
     }
 }
 
-}
+} // namespace Sklad

@@ -31,10 +31,18 @@ bool UlozitNovyOdrezek(Database& dataS, Prompt& prompt, const Odrezek& o);
 // The row stary (as the settings Sklad kept it) rewritten to novy; a new size that is already
 // stored asks the same question, and on Yes the pieces join that row and the old row goes.
 bool UlozitUpravuOdrezku(Database& dataS, Prompt& prompt, const Odrezek& stary, const Odrezek& novy);
+// Adds each piece as a row of its own, all in one transaction and without questions (the
+// command line's load; the caller has checked the values).
+void pridej(Database& dataS, const std::vector<Odrezek>& odrezky);
+// For the plan's write-back, sizes in the plan's tenths of a millimetre: one piece of the
+// material and size out of the store (the row goes with its last piece; none there: nothing
+// happens), and one piece in (a new row, or one more in the row of that size).
+void odeberKus(Database& dataS, const QString& material, double xDesetiny, double yDesetiny);
+void pridejKus(Database& dataS, const QString& material, double xDesetiny, double yDesetiny);
 // The whole row, whatever its count.
 void SmazatOdrezek(Database& dataS, const Odrezek& o);
 
 // "VÝPIS ZE SKLADU ODŘEZKŮ": one material by size, or all by material.
 void VypisSkladu(Dokument& d, Database& dataS, const QString& material);
 
-}
+} // namespace Sklad

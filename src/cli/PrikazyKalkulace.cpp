@@ -3,12 +3,10 @@
 #include "Cli.h"
 #include "Prikazy.h"
 
-#include "core/Dotaz.h"
 #include "core/Error.h"
-#include "core/Recordset.h"
+#include "core/Jednotky.h"
 #include "core/Uloziste.h"
 #include "costing/Kalkulace.h"
-#include "core/Jednotky.h"
 #include "costing/Vypisy.h"
 #include "optimiser/VypisNP.h"
 #include "orders/Strom.h"
@@ -53,21 +51,16 @@ Vyber vyber(QStringList& argumenty)
 // Materials priced at 0 cost nothing; say which, so that a missing price is noticed.
 void varujBezCeny(Database& k)
 {
-    QStringList videne;
-    for (Recordset r(k, QStringLiteral("SELECT * FROM SoupisProKalkulaci  WHERE JC = 0 order by material")); !r.eof(); r.moveNext()) {
-        const QString m = r.text(QStringLiteral("Material"));
-        if (!videne.contains(m)) {
-            videne << m;
-            Cli::err() << QStringLiteral("Upozornění: materiál „%1“ nemá cenu, počítá se za 0.").arg(m) << Qt::endl;
-        }
-    }
+    for (const QString& m : Kalkulace::bezCeny(k))
+        Cli::err() << QStringLiteral("Upozornění: materiál „%1“ nemá cenu, počítá se za 0.").arg(m) << Qt::endl;
 }
 
 QString castka(double v) { return Vypis::castka(v) + QLatin1Char(' ') + Vypis::mena(); }
 
 QJsonObject souhrnJson(const Vypis::Dan& dan)
 {
-    return {{QStringLiteral("zaklad"), castka(dan.zaklad)}, {QStringLiteral("dph"), castka(dan.dph)},
+    return {{QStringLiteral("zaklad"), castka(dan.zaklad)},
+            {QStringLiteral("dph"), castka(dan.dph)},
             {QStringLiteral("celkem"), castka(dan.celkem)}};
 }
 
@@ -75,8 +68,10 @@ QJsonArray sestavyJson(const std::vector<CenaSestavy>& sestavy, bool nabidka)
 {
     QJsonArray a;
     for (const CenaSestavy& c : sestavy) {
-        QJsonObject o{{QStringLiteral("Sestava"), c.sestava}, {QStringLiteral("pocetsestav"), c.pocet},
-                      {QStringLiteral("cena1ks"), castka(c.cena1ks)}, {QStringLiteral("cena"), castka(c.cena)}};
+        QJsonObject o{{QStringLiteral("Sestava"), c.sestava},
+                      {QStringLiteral("pocetsestav"), c.pocet},
+                      {QStringLiteral("cena1ks"), castka(c.cena1ks)},
+                      {QStringLiteral("cena"), castka(c.cena)}};
         if (nabidka) {
             o.insert(QStringLiteral("dph"), castka(c.dph));
             o.insert(QStringLiteral("celkem"), castka(c.celkem));
@@ -121,10 +116,11 @@ int spustVypis(const QStringList& vstup, DruhVypisu druh)
         Cli::out() << QString::fromUtf8(QJsonDocument(o).toJson(QJsonDocument::Compact)) << '\n';
     } else if (dan) {
         Cli::out() << QStringLiteral("Základ daně: ") << castka(dan->zaklad) << '\n'
-                   << QStringLiteral("DPH ( ") << Jednotky::cislo(Vypis::procentoDPH()) << QStringLiteral("% ): ") << castka(dan->dph) << '\n'
+                   << QStringLiteral("DPH ( ") << Jednotky::cislo(Vypis::procentoDPH()) << QStringLiteral("% ): ")
+                   << castka(dan->dph) << '\n'
                    << QStringLiteral("Celkem včetně DPH: ") << castka(dan->celkem) << '\n';
     } else {
-        Cli::out() << QStringLiteral("Soupis materiálu pro dílnu: %1 řádků").arg(k.hodnota(QStringLiteral("SELECT count(*) FROM SoupisProDilnu")).toInt()) << '\n';
+        Cli::out() << QStringLiteral("Soupis materiálu pro dílnu: %1 řádků").arg(Kalkulace::radkuDilny(k)) << '\n';
     }
     u.zavriDataK();
     return Cli::Hotovo;

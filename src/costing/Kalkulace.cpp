@@ -247,4 +247,16 @@ Ceny ZobrazCeny(Uloziste& u, const QString& zakazka, const QString& sestava)
     return c;
 }
 
+QStringList bezCeny(Database& dataK)
+{
+    QStringList materialy;
+    for (Recordset r(dataK, QStringLiteral("SELECT * FROM SoupisProKalkulaci WHERE JC = 0 order by material")); !r.eof();
+         r.moveNext())
+        if (!materialy.contains(r.text(QStringLiteral("Material"))))
+            materialy << r.text(QStringLiteral("Material"));
+    return materialy;
+}
+
+int radkuDilny(Database& dataK) { return dataK.hodnota(QStringLiteral("SELECT count(*) FROM SoupisProDilnu")).toInt(); }
+
 } // namespace Kalkulace

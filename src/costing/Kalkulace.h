@@ -1,8 +1,9 @@
 #pragma once
 // The costing tables: SoupisProKalkulaci (a row per board, accessory and band side) for one
 // piece of each assembly (NaplnKalkulaciSestav, with its totals per assembly and material in
-// SoupisProKalkulaciCelkem), per material over the order (NaplnKalkulaciMaterialu) or for the whole order (NaplnKalkulaciZakazky), and the two prices
-// of the main window's status bar (ZobrazCeny). They fill the tables of the plan database DataK.
+// SoupisProKalkulaciCelkem), per material over the order (NaplnKalkulaciMaterialu) or for the whole order
+// (NaplnKalkulaciZakazky), and the two prices of the main window's status bar (ZobrazCeny). They fill the tables of the plan
+// database DataK.
 #include <QString>
 #include <QStringList>
 
@@ -31,7 +32,13 @@ struct Ceny {
 };
 Ceny ZobrazCeny(Uloziste& u, const QString& zakazka, const QString& sestava);
 
+// The materials of SoupisProKalkulaci priced at 0 (each once, by name): they cost nothing, and
+// a missing price should be noticed.
+QStringList bezCeny(Database& dataK);
+// How many rows the workshop list's table holds.
+int radkuDilny(Database& dataK);
+
 // The sum of SoupisProKalkulaci with VAT, rounded as the panel rounds it.
 double sDPH(double zaklad);
 
-}
+} // namespace Kalkulace

@@ -1,11 +1,10 @@
 #include "costing/KalkulaceSestavVypis.h"
 
 #include "core/Database.h"
-#include "core/Dotaz.h"
 #include "core/Jednotky.h"
 #include "core/Recordset.h"
-#include "costing/PruchodZakazky.h"
 #include "core/Zaokrouhleni.h"
+#include "costing/PruchodZakazky.h"
 #include "printing/Operace.h"
 
 #include <cmath>
@@ -15,13 +14,14 @@ namespace {
 double mm(double v) { return Dokument::mm(v); }
 QString m() { return QLatin1Char(' ') + Vypis::mena(); }
 
-void polozkySestavy(Dokument& d, Database& k, const QString& podminka)
+// The rows of one assembly (sestava) in its order.
+void polozkySestavy(Dokument& d, Database& k, const QString& sestava)
 {
     const Tabulka t{{mm(90), mm(25), mm(25), mm(25)},
                     {Vypis::zarovnani(6), Vypis::zarovnani(8), Vypis::zarovnani(8), Vypis::zarovnani(8)}};
     d.pismo.velikost = 8;
     d.pismo.tucne = false;
-    for (Recordset r(k, QStringLiteral("SELECT * FROM SoupisProKalkulaciCelkem ") + podminka + QStringLiteral(" order by cislo"));
+    for (Recordset r(k, QStringLiteral("SELECT * FROM SoupisProKalkulaciCelkem WHERE Sestava = ? order by cislo"), {sestava});
          !r.eof(); r.moveNext()) {
         const QString jednotka = r.text(QStringLiteral("jednotka"));
         d.AddRow(t, RadekTabulky{{r.text(QStringLiteral("Material")),
@@ -49,8 +49,8 @@ void cenyTabulka(Dokument& d, double levy, double pravy, const QList<QPair<QStri
 
 } // namespace
 
-VysledekSestav KalkulaceSestavVypis(Dokument& d, Database& k, Database& cenik, const QString& zakazka,
-                                    const QStringList& sestavy, DruhSestav druh)
+VysledekSestav KalkulaceSestavVypis(Dokument& d, Database& k, Database& cenik, const QString& zakazka, const QStringList& sestavy,
+                                    DruhSestav druh)
 {
     const bool nabidka = druh == DruhSestav::Nabidka;
     Vypis::zacni(d);
@@ -58,41 +58,44 @@ VysledekSestav KalkulaceSestavVypis(Dokument& d, Database& k, Database& cenik, c
     VysledekSestav v;
     double zaklad = 0;
     const double dph = Vypis::procentoDPH();
-    PruchodZakazky::kazdaSkupina(Recordset(k, QStringLiteral("SELECT * FROM SoupisProKalkulaciCelkem  order by Sestava")),
-                                 QStringLiteral("Sestava"), [&](const Recordset& a, int) {
-        const QString sestava = a.text(QStringLiteral("Sestava"));
-        const double pocet = a.cislo(QStringLiteral("pocetsestav"));
-        Vypis::pasSestavy(d, sestava, pocet, a.text(QStringLiteral("popis")));
-        const QString podminka = QStringLiteral(" WHERE  sestava = '") + Dotaz::text(sestava) + QStringLiteral("'");
-        if (!nabidka)
-            polozkySestavy(d, k, podminka);
-        Vypis::schema(d, cenik, k.hodnota(QStringLiteral("SELECT max(schema) FROM SoupisProKalkulaciCelkem ") + podminka).toDouble());
-        const double p = k.hodnota(QStringLiteral("SELECT sum(cena) FROM SoupisProKalkulaciCelkem  WHERE Sestava = '") +
-                                   Dotaz::text(sestava) + QStringLiteral("'  "))
-                             .toDouble();
-        CenaSestavy c{sestava, pocet};
-        const QString kusu = Jednotky::cislo(pocet) + QStringLiteral(" ks (bez DPH):");
-        if (nabidka) {
-            // the unrounded piece price goes on; each cell is rounded only in print
-            c = {sestava, pocet, p, p * pocet, p * pocet * dph / 100, p * pocet * (dph / 100 + 1)};
-            cenyTabulka(d, 55, 35,
-                        {{QStringLiteral("cena za 1 ks sestavy (bez DPH):"), Vypis::castka(c.cena1ks) + m()},
-                         {QStringLiteral("cena celkem za ") + kusu, Vypis::castka(c.cena) + m()},
-                         {QStringLiteral("DPH (") + Jednotky::cislo(dph) + QStringLiteral("%):"), Vypis::castka(c.dph) + m()},
-                         {QStringLiteral("celkem s DPH:"), Vypis::castka(c.celkem) + m()}},
-                        Barva::zVB(0xFFFFC0));
-        } else {
-            c.cena1ks = Zaokrouhli(p, 2);
-            c.cena = Zaokrouhli(c.cena1ks * pocet, 2);
-            zaklad += c.cena;
-            cenyTabulka(d, 50, 25,
-                        {{QStringLiteral("cena za 1 ks sestavy (bez DPH):"), Vypis::castka(c.cena1ks) + m()},
-                         {QStringLiteral("cena za ") + kusu, Vypis::castka(c.cena) + m()}});
-        }
-        v.sestavy.push_back(c);
-        Vypis::zlomStranyPodPrahem(d);
-        d.CurrentY += 200;
-    });
+    PruchodZakazky::kazdaSkupina(
+        Recordset(k, QStringLiteral("SELECT * FROM SoupisProKalkulaciCelkem  order by Sestava")), QStringLiteral("Sestava"),
+        [&](const Recordset& a, int) {
+            const QString sestava = a.text(QStringLiteral("Sestava"));
+            const double pocet = a.cislo(QStringLiteral("pocetsestav"));
+            Vypis::pasSestavy(d, sestava, pocet, a.text(QStringLiteral("popis")));
+            if (!nabidka)
+                polozkySestavy(d, k, sestava);
+            Vypis::schema(
+                d, cenik,
+                k.hodnota(QStringLiteral("SELECT max(schema) FROM SoupisProKalkulaciCelkem WHERE Sestava = ?"), {sestava})
+                    .toDouble());
+            const double p =
+                k.hodnota(QStringLiteral("SELECT sum(cena) FROM SoupisProKalkulaciCelkem WHERE Sestava = ?"), {sestava})
+                    .toDouble();
+            CenaSestavy c{sestava, pocet};
+            const QString kusu = Jednotky::cislo(pocet) + QStringLiteral(" ks (bez DPH):");
+            if (nabidka) {
+                // the unrounded piece price goes on; each cell is rounded only in print
+                c = {sestava, pocet, p, p * pocet, p * pocet * dph / 100, p * pocet * (dph / 100 + 1)};
+                cenyTabulka(d, 55, 35,
+                            {{QStringLiteral("cena za 1 ks sestavy (bez DPH):"), Vypis::castka(c.cena1ks) + m()},
+                             {QStringLiteral("cena celkem za ") + kusu, Vypis::castka(c.cena) + m()},
+                             {QStringLiteral("DPH (") + Jednotky::cislo(dph) + QStringLiteral("%):"), Vypis::castka(c.dph) + m()},
+                             {QStringLiteral("celkem s DPH:"), Vypis::castka(c.celkem) + m()}},
+                            Barva::zVB(0xFFFFC0));
+            } else {
+                c.cena1ks = Zaokrouhli(p, 2);
+                c.cena = Zaokrouhli(c.cena1ks * pocet, 2);
+                zaklad += c.cena;
+                cenyTabulka(d, 50, 25,
+                            {{QStringLiteral("cena za 1 ks sestavy (bez DPH):"), Vypis::castka(c.cena1ks) + m()},
+                             {QStringLiteral("cena za ") + kusu, Vypis::castka(c.cena) + m()}});
+            }
+            v.sestavy.push_back(c);
+            Vypis::zlomStranyPodPrahem(d);
+            d.CurrentY += 200;
+        });
     if (nabidka)
         for (Recordset r(k, QStringLiteral("SoupisProKalkulaciCelkem")); !r.eof(); r.moveNext())
             zaklad += r.cislo(QStringLiteral("Cena")) * r.cislo(QStringLiteral("pocetsestav"));
@@ -112,7 +115,8 @@ QString nakupMaterialu(const QString& popis, const QString& material, double mno
     if (popis == QLatin1String("Prislusenstvi"))
         return Vypis::castka(mnozstvi, 3) + QLatin1Char(' ') + jednotka;
     // the sheet's size is the last bracket of the name: "name (2800 mm x 2070 mm)"
-    const QString rozmer = material.mid(material.lastIndexOf(QLatin1Char('(')) + 1).chopped(material.endsWith(QLatin1Char(')')) ? 1 : 0);
+    const QString rozmer =
+        material.mid(material.lastIndexOf(QLatin1Char('(')) + 1).chopped(material.endsWith(QLatin1Char(')')) ? 1 : 0);
     const QStringList xy = rozmer.split(QStringLiteral(" x "));
     const double plocha = xy.size() == 2 ? Jednotky::NaMilimetry(xy[0]) / 1000 * (Jednotky::NaMilimetry(xy[1]) / 1000) : 0;
     if (plocha <= 0)

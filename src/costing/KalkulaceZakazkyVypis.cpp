@@ -1,7 +1,6 @@
 #include "costing/KalkulaceZakazkyVypis.h"
 
 #include "core/Database.h"
-#include "core/Dotaz.h"
 #include "core/Jednotky.h"
 #include "core/Recordset.h"
 #include "costing/PruchodZakazky.h"
@@ -13,8 +12,8 @@ double mm(double v) { return Dokument::mm(v); }
 
 // Boards and bands: one band and one detail table per material, then its summary.
 struct Oddil {
-    const char* podminka;        // the section's WHERE, without the material
-    const char* jednotkaCeny;    // "/m2" or "/m"
+    const char* podminka;     // the section's WHERE, without the material
+    const char* jednotkaCeny; // "/m2" or "/m"
     QColor barvaLeva, barvaPrava;
     bool hrany;
 };
@@ -23,39 +22,44 @@ void oddil(Dokument& d, Database& k, const Oddil& o)
 {
     const QString m = QLatin1Char(' ') + Vypis::mena();
     const Tabulka detail{{mm(15), mm(80), mm(20), mm(15), mm(25), mm(25)},
-                         {Vypis::zarovnani(7), Vypis::zarovnani(6), Vypis::zarovnani(8), Vypis::zarovnani(8),
-                          Vypis::zarovnani(8), Vypis::zarovnani(8)}};
-    PruchodZakazky::kazdaSkupina(Recordset(k, QStringLiteral("SELECT * FROM SoupisProKalkulaci  WHERE ") +
-                                                  QLatin1String(o.podminka) + QStringLiteral(" order by material")),
-                                 QStringLiteral("Material"), [&](const Recordset& materialy, int poradi) {
-        const QString material = materialy.text(QStringLiteral("Material"));
-        if (poradi > 0)
-            d.CurrentY += 400;
-        Vypis::pas(d, material, Vypis::castka(materialy.cislo(QStringLiteral("JC"))) + m + QLatin1String(o.jednotkaCeny),
-                   o.barvaLeva, o.barvaPrava);
-        const QString podminka = QLatin1String(o.podminka) + QStringLiteral(" and Material = '") + Dotaz::text(material) +
-                                 QStringLiteral("' ");
-        Recordset r(k, QStringLiteral("SELECT * FROM SoupisProKalkulaci  WHERE ") + podminka + QStringLiteral(" order by sestava"));
-        for (; !r.eof(); r.moveNext()) {
-            QStringList bunky{r.text(QStringLiteral("Sestava")), r.text(QStringLiteral("Oznaceni"))};
-            if (o.hrany)
-                bunky << Vypis::castka(r.cislo(QStringLiteral("delka")), 3) + QStringLiteral(" m")
-                      << Jednotky::cislo(r.cislo(QStringLiteral("mnozstvi"))) + QStringLiteral(" ks")
-                      << Vypis::castka(r.cislo(QStringLiteral("delkacelkem")), 3) + QStringLiteral(" m");
-            else
-                bunky << Vypis::castka(r.cislo(QStringLiteral("plocha"))) + QStringLiteral(" m2")
-                      << Vypis::castka(r.cislo(QStringLiteral("mnozstvi")), 0) + QStringLiteral(" ks")
-                      << Vypis::castka(r.cislo(QStringLiteral("plochacelkem"))) + QStringLiteral(" m2");
-            bunky << Vypis::castka(r.cislo(QStringLiteral("Cena"))) + m;
-            Vypis::radek(d, detail, bunky);
-        }
-        const QString sloupec = o.hrany ? QStringLiteral("delkacelkem") : QStringLiteral("plochacelkem");
-        const double mnozstvi = k.hodnota(QStringLiteral("SELECT sum(") + sloupec +
-                                          QStringLiteral(") FROM SoupisProKalkulaci  WHERE ") + podminka).toDouble();
-        const double cena = k.hodnota(QStringLiteral("SELECT sum(cena) FROM SoupisProKalkulaci  WHERE ") + podminka).toDouble();
-        Vypis::souhrn(d, {Vypis::castka(mnozstvi, o.hrany ? 3 : 2) + (o.hrany ? QStringLiteral(" m") : QStringLiteral(" m2")),
-                          Vypis::castka(cena) + m});
-    });
+                         {Vypis::zarovnani(7), Vypis::zarovnani(6), Vypis::zarovnani(8), Vypis::zarovnani(8), Vypis::zarovnani(8),
+                          Vypis::zarovnani(8)}};
+    PruchodZakazky::kazdaSkupina(
+        Recordset(k, QStringLiteral("SELECT * FROM SoupisProKalkulaci  WHERE ") + QLatin1String(o.podminka) +
+                         QStringLiteral(" order by material")),
+        QStringLiteral("Material"), [&](const Recordset& materialy, int poradi) {
+            const QString material = materialy.text(QStringLiteral("Material"));
+            if (poradi > 0)
+                d.CurrentY += 400;
+            Vypis::pas(d, material, Vypis::castka(materialy.cislo(QStringLiteral("JC"))) + m + QLatin1String(o.jednotkaCeny),
+                       o.barvaLeva, o.barvaPrava);
+            const QString podminka = QLatin1String(o.podminka) + QStringLiteral(" and Material = ?");
+            Recordset r(
+                k, QStringLiteral("SELECT * FROM SoupisProKalkulaci WHERE ") + podminka + QStringLiteral(" order by sestava"),
+                {material});
+            for (; !r.eof(); r.moveNext()) {
+                QStringList bunky{r.text(QStringLiteral("Sestava")), r.text(QStringLiteral("Oznaceni"))};
+                if (o.hrany)
+                    bunky << Vypis::castka(r.cislo(QStringLiteral("delka")), 3) + QStringLiteral(" m")
+                          << Jednotky::cislo(r.cislo(QStringLiteral("mnozstvi"))) + QStringLiteral(" ks")
+                          << Vypis::castka(r.cislo(QStringLiteral("delkacelkem")), 3) + QStringLiteral(" m");
+                else
+                    bunky << Vypis::castka(r.cislo(QStringLiteral("plocha"))) + QStringLiteral(" m2")
+                          << Vypis::castka(r.cislo(QStringLiteral("mnozstvi")), 0) + QStringLiteral(" ks")
+                          << Vypis::castka(r.cislo(QStringLiteral("plochacelkem"))) + QStringLiteral(" m2");
+                bunky << Vypis::castka(r.cislo(QStringLiteral("Cena"))) + m;
+                Vypis::radek(d, detail, bunky);
+            }
+            const QString sloupec = o.hrany ? QStringLiteral("delkacelkem") : QStringLiteral("plochacelkem");
+            const double mnozstvi =
+                k.hodnota(QStringLiteral("SELECT sum(") + sloupec + QStringLiteral(") FROM SoupisProKalkulaci WHERE ") + podminka,
+                          {material})
+                    .toDouble();
+            const double cena =
+                k.hodnota(QStringLiteral("SELECT sum(cena) FROM SoupisProKalkulaci WHERE ") + podminka, {material}).toDouble();
+            Vypis::souhrn(d, {Vypis::castka(mnozstvi, o.hrany ? 3 : 2) + (o.hrany ? QStringLiteral(" m") : QStringLiteral(" m2")),
+                              Vypis::castka(cena) + m});
+        });
 }
 
 void prislusenstvi(Dokument& d, Database& k)
@@ -70,9 +74,9 @@ void prislusenstvi(Dokument& d, Database& k)
     RadekTabulky pas{{QStringLiteral("Příslušenství:")}, mm(7)};
     pas.pozadi = Vypis::SedaTlacitka;
     d.AddRow(Tabulka{{sirka}, {}}, pas);
-    const Tabulka detail{{mm(15), mm(90), mm(25), mm(25), mm(25)},
-                         {Vypis::zarovnani(7), Vypis::zarovnani(6), Vypis::zarovnani(8), Vypis::zarovnani(8),
-                          Vypis::zarovnani(8)}};
+    const Tabulka detail{
+        {mm(15), mm(90), mm(25), mm(25), mm(25)},
+        {Vypis::zarovnani(7), Vypis::zarovnani(6), Vypis::zarovnani(8), Vypis::zarovnani(8), Vypis::zarovnani(8)}};
     for (; !r.eof(); r.moveNext()) {
         const QString jednotka = r.text(QStringLiteral("jednotka"));
         Vypis::radek(d, detail,
@@ -81,9 +85,10 @@ void prislusenstvi(Dokument& d, Database& k)
                       Vypis::castka(r.cislo(QStringLiteral("JC"))) + m + QLatin1Char('/') + jednotka,
                       Vypis::castka(r.cislo(QStringLiteral("Cena"))) + m});
     }
-    Vypis::souhrn(d, {Vypis::castka(k.hodnota(QStringLiteral("SELECT sum(cena) FROM SoupisProKalkulaci  WHERE len(Oznaceni) = 0 "))
-                                        .toDouble()) +
-                      m});
+    Vypis::souhrn(
+        d, {Vypis::castka(
+                k.hodnota(QStringLiteral("SELECT sum(cena) FROM SoupisProKalkulaci  WHERE len(Oznaceni) = 0 ")).toDouble()) +
+            m});
 }
 
 } // namespace

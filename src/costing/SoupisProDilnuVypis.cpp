@@ -1,11 +1,10 @@
 #include "costing/SoupisProDilnuVypis.h"
 
 #include "core/Database.h"
-#include "core/Dotaz.h"
 #include "core/Jednotky.h"
 #include "core/Recordset.h"
-#include "costing/PruchodZakazky.h"
 #include "core/Zaokrouhleni.h"
+#include "costing/PruchodZakazky.h"
 #include "printing/Operace.h"
 
 namespace {
@@ -19,8 +18,10 @@ void znackyHrany(Dokument& d, const QRectF& r, int strana, const QColor& barva)
 {
     d.pero = Pero{barva, 15, true};
     const bool vodorovna = strana < 2;
-    const QPointF stred = strana == 0 ? QPointF(r.center().x(), r.bottom()) : strana == 1 ? QPointF(r.center().x(), r.top())
-                          : strana == 2 ? QPointF(r.left(), r.center().y()) : QPointF(r.right(), r.center().y());
+    const QPointF stred = strana == 0   ? QPointF(r.center().x(), r.bottom())
+                          : strana == 1 ? QPointF(r.center().x(), r.top())
+                          : strana == 2 ? QPointF(r.left(), r.center().y())
+                                        : QPointF(r.right(), r.center().y());
     const double dovnitr = strana == 0 || strana == 3 ? -1 : 1;
     const double delky[3] = {100, 150, 200};
     for (int i = 0; i < 3; ++i) {
@@ -99,7 +100,8 @@ void radek(Dokument& d, const Sloupce& s, const Recordset& r, bool seSchematy)
 {
     d.pismo.velikost = 8;
     d.pismo.tucne = false;
-    const QString mnozstvi = Vypis::castka(r.cislo(QStringLiteral("mnozstvi")), 0) + QLatin1Char(' ') + r.text(QStringLiteral("jednotka"));
+    const QString mnozstvi =
+        Vypis::castka(r.cislo(QStringLiteral("mnozstvi")), 0) + QLatin1Char(' ') + r.text(QStringLiteral("jednotka"));
     const QString material = r.text(QStringLiteral("Material")), oznaceni = r.text(QStringLiteral("Oznaceni"));
     RadekTabulky t;
     t.vyska = mm(5);
@@ -149,20 +151,23 @@ void SoupisProDilnuVypis(Dokument& d, Database& k, Database& cenik, const QStrin
     d.CurrentY = mm(55);
     const Sloupce s = sloupce(seSchematy);
     QString poznamka;
-    PruchodZakazky::kazdaSkupina(Recordset(k, QStringLiteral("SELECT * FROM SoupisProDilnu  order by Sestava")),
-                                 QStringLiteral("Sestava"), [&](const Recordset& a, int poradi) {
-        if (poradi == 0)
-            poznamka = a.text(QStringLiteral("Poznamka"));
-        const QString sestava = a.text(QStringLiteral("Sestava"));
-        Vypis::pasSestavy(d, sestava, a.cislo(QStringLiteral("pocetsestav")), a.text(QStringLiteral("popis")));
-        const QString podminka = QStringLiteral(" WHERE  sestava = '") + Dotaz::text(sestava) + QStringLiteral("'");
-        for (Recordset r(k, QStringLiteral("SELECT * FROM SoupisProDilnu ") + podminka + QStringLiteral(" order by cislo")); !r.eof();
-             r.moveNext())
-            radek(d, s, r, seSchematy);
-        Vypis::schema(d, cenik, k.hodnota(QStringLiteral("SELECT max(schema) FROM SoupisProDilnu ") + podminka).toDouble());
-        Vypis::zlomStranyPodPrahem(d);
-        d.CurrentY += 200;
-    });
+    PruchodZakazky::kazdaSkupina(
+        Recordset(k, QStringLiteral("SELECT * FROM SoupisProDilnu  order by Sestava")), QStringLiteral("Sestava"),
+        [&](const Recordset& a, int poradi) {
+            if (poradi == 0)
+                poznamka = a.text(QStringLiteral("Poznamka"));
+            const QString sestava = a.text(QStringLiteral("Sestava"));
+            Vypis::pasSestavy(d, sestava, a.cislo(QStringLiteral("pocetsestav")), a.text(QStringLiteral("popis")));
+            for (Recordset r(k, QStringLiteral("SELECT * FROM SoupisProDilnu WHERE Sestava = ? order by cislo"), {sestava});
+                 !r.eof(); r.moveNext())
+                radek(d, s, r, seSchematy);
+            Vypis::schema(
+                d, cenik,
+                k.hodnota(QStringLiteral("SELECT max(schema) FROM SoupisProDilnu WHERE Sestava = ?"), {sestava}).toDouble());
+            Vypis::zlomStranyPodPrahem(d);
+            d.CurrentY += 200;
+        });
     d.EndDoc();
-    Vypis::prekryv(d, QStringLiteral("SOUPIS MATERIÁLU PRO DÍLNU"), zakazka, {}, poznamka.isNull() ? QStringLiteral("") : poznamka);
+    Vypis::prekryv(d, QStringLiteral("SOUPIS MATERIÁLU PRO DÍLNU"), zakazka, {},
+                   poznamka.isNull() ? QStringLiteral("") : poznamka);
 }

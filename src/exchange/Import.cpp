@@ -11,6 +11,7 @@
 #include "core/Soubory.h"
 #include "core/Transakce.h"
 #include "core/Val.h"
+#include "orders/Materialy.h"
 #include "orders/RadkyZakazky.h"
 
 #include <QFile>
@@ -134,16 +135,12 @@ public:
         double id = rs ? rs->cislo(QStringLiteral("ID")) : 0;
         if (!rs) {
             id = Razitko::volne([&](double s) { return RadkyZakazky::material(m_db, m_zakazka, s).has_value(); });
-            Recordset n(m_db, QStringLiteral("ZakazkyMaterialy"), Recordset::Rozsah::Prvni);
-            n.addNew();
-            n.set(QStringLiteral("ID"), id);
-            n.set(QStringLiteral("Zakazka"), m_zakazka);
-            n.set(QStringLiteral("Material"), nazev);
-            n.set(QStringLiteral("pouziti"), QStringLiteral("hrana"));
-            n.set(QStringLiteral("CenaBezDPH"), 5.0);
-            n.set(QStringLiteral("BarvaVNP"), qint64(QRandomGenerator::global()->bounded(1500000)) + 1);
-            n.set(QStringLiteral("PresahHrany"), 0.0);
-            n.update();
+            Materialy::Material hrana;
+            hrana.ID = id;
+            hrana.nazev = nazev;
+            hrana.cena = 5.0;
+            hrana.barva = qint64(QRandomGenerator::global()->bounded(1500000)) + 1;
+            Materialy::pridej(m_db, m_zakazka, hrana, true);
         }
         m_hrany.insert(nazev.toLower(), id);
         return id;
@@ -159,14 +156,14 @@ public:
                 m_hlavicka[QLatin1String(pole)] = vse.eof() ? QVariant() : vse.value(QLatin1String(pole));
             vse.moveLast();
             if (!vse.eof() && vse.text(QStringLiteral("Oznaceni")).isEmpty())
-                m_prazdna = vse.rowid();
+                m_prazdna.emplace(std::move(vse)); // standing on the header row
             m_nactena = true;
         }
         std::optional<Recordset> rs;
         if (m_prazdna) {
-            rs.emplace(m_db, QStringLiteral("SELECT * FROM Zakazky WHERE rowid = %1").arg(*m_prazdna));
-            rs->edit();
+            rs = std::move(m_prazdna);
             m_prazdna.reset();
+            rs->edit();
         } else {
             rs.emplace(m_db, QStringLiteral("Zakazky"), Recordset::Rozsah::Prvni);
             rs->addNew();
@@ -193,7 +190,7 @@ private:
     QHash<QString, double> m_hrany;
     bool m_nactena = false;
     QMap<QString, QVariant> m_hlavicka;
-    std::optional<qint64> m_prazdna;
+    std::optional<Recordset> m_prazdna; // the assembly's header row while no board has taken it
 };
 
 } // namespace

@@ -7,6 +7,7 @@
 #include "core/Recordset.h"
 #include "core/Transakce.h"
 #include "exchange/CteniJson.h"
+#include "orders/Materialy.h"
 #include "orders/RadkyZakazky.h"
 #include "orders/Strom.h"
 
@@ -198,27 +199,12 @@ void zapisMaterialy(Database& db, Zakazka& z)
     std::set<double> obsazene;
     for (const Material& m : z.materialy)
         obsazene.insert(m.id);
-    Recordset rs(db, QStringLiteral("ZakazkyMaterialy"), Recordset::Rozsah::Prvni);
     for (Material& m : z.materialy) {
         if (m.id == 0) {
             m.id = Razitko::volne([&](double s) { return obsazene.count(s) > 0; });
             obsazene.insert(m.id);
         }
-        rs.addNew();
-        rs.set(QStringLiteral("ID"), m.id);
-        rs.set(QStringLiteral("Zakazka"), z.nazev);
-        rs.set(QStringLiteral("Material"), m.nazev);
-        rs.set(QStringLiteral("pouziti"), m.hrana ? QStringLiteral("hrana") : QStringLiteral("format"));
-        rs.set(QStringLiteral("CenaBezDPH"), m.cena);
-        if (m.hrana) {
-            rs.set(QStringLiteral("BarvaVNP"), m.barva);
-            rs.set(QStringLiteral("PresahHrany"), m.presah);
-        } else {
-            rs.set(QStringLiteral("RozmerX"), m.x);
-            rs.set(QStringLiteral("RozmerY"), m.y);
-            rs.set(QStringLiteral("OV"), m.ov);
-        }
-        rs.update();
+        Materialy::pridej(db, z.nazev, {m.id, m.nazev, m.x, m.y, m.ov, m.cena, m.barva, m.presah}, m.hrana);
     }
 }
 

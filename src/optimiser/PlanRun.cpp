@@ -5,6 +5,7 @@
 #include "core/Nastaveni.h"
 #include "core/Recordset.h"
 #include "core/Uloziste.h"
+#include "orders/RadkyZakazky.h"
 #include "optimiser/Umisteni.h"
 
 #include <algorithm>
@@ -23,17 +24,6 @@ const QString SmyckaZbytku =
 constexpr int SkutecnychTabuli = 1000; // the fixed ceiling of full sheets in a run
 constexpr int MsMeziVydeji = 20;        // the event loop's turn: often enough for Storno, rare enough to cost nothing
 
-QString z(const QString& zakazka)
-{
-    return Dotaz::text(zakazka);
-}
-
-QString formatDotaz(const QString& zakazka, double idFormatu)
-{
-    return QStringLiteral("SELECT * FROM ZakazkyMaterialy WHERE Zakazka = '") + z(zakazka) +
-           QStringLiteral("'and ID = ") + Dotaz::cislo(idFormatu);
-}
-
 } // namespace
 
 PlanRun::PlanRun(Uloziste& uloziste, Prompt& prompt, Prubeh& prubeh)
@@ -46,14 +36,9 @@ PlanRun::~PlanRun() = default;
 std::vector<FormatNP> PlanRun::formatySDeskami(Database& dataS, const QString& zakazka)
 {
     std::vector<FormatNP> formaty;
-    Recordset rs(dataS, QStringLiteral("SELECT * FROM ZakazkyMaterialy  WHERE Zakazka = '") + z(zakazka) +
-                            QStringLiteral("' and Pouziti <> 'hrana' "));
-    for (; !rs.eof(); rs.moveNext()) {
+    for (Recordset rs = RadkyZakazky::materialy(dataS, zakazka, RadkyZakazky::Pouziti::Formaty); !rs.eof(); rs.moveNext()) {
         const double id = rs.cislo(QStringLiteral("ID"));
-        const Recordset desky(dataS, QStringLiteral("SELECT * FROM Zakazky  WHERE Zakazka = '") + z(zakazka) +
-                                         QStringLiteral("' and IDFormat = ") + Dotaz::cislo(id),
-                              Recordset::Rozsah::Prvni);
-        if (desky.prazdny())
+        if (RadkyZakazky::deskyFormatu(dataS, zakazka, id).prazdny())
             continue;
         formaty.push_back({id, rs.text(QStringLiteral("Material")) + QStringLiteral(" ( ") +
                                    Dotaz::cislo(rs.cislo(QStringLiteral("RozmerX"))) + QStringLiteral(" x ") +
@@ -110,16 +95,15 @@ bool PlanRun::vydej(bool hned)
 void PlanRun::SoupisTabuliNP()
 {
     Database& dataS = m_uloziste.dataS();
-    const Recordset format(dataS, formatDotaz(m_zakazka, m_idFormatu));
-    if (format.eof())
+    const auto format = RadkyZakazky::material(dataS, m_zakazka, m_idFormatu);
+    if (!format)
         return;
-    m_formatOV = format.ano(QStringLiteral("OV"));
-    const QString material = format.text(QStringLiteral("Material"));
+    m_formatOV = format->ano(QStringLiteral("OV"));
+    const QString material = format->text(QStringLiteral("Material"));
 
     int ct = 1;
     if (Nastaveni::cislo(QStringLiteral("Setting2"), QStringLiteral("POdrezky")) != 0) {
-        Recordset odrezky(dataS, QStringLiteral("SELECT * FROM SkladOdrezku  WHERE Material = '") +
-                                     Dotaz::text(material) + QStringLiteral("' ORDER BY x,y"));
+        Recordset odrezky(dataS, QStringLiteral("SELECT * FROM SkladOdrezku  WHERE Material = ? ORDER BY x,y"), {material});
         for (; !odrezky.eof(); odrezky.moveNext())
             for (int i = 1; i <= odrezky.cislo(QStringLiteral("Pocet")); ++i)
                 m_t.tabule.push_back({0, 0, odrezky.text(QStringLiteral("Material")), odrezky.cislo(QStringLiteral("x")) * 10,
@@ -135,30 +119,29 @@ void PlanRun::SoupisTabuliNP()
             m_t.tabule[i].CT = ct++;
     }
     for (int i = 0; i < SkutecnychTabuli; ++i)
-        m_t.tabule.push_back({ct++, 0, material, format.cislo(QStringLiteral("RozmerX")) * 10,
-                              format.cislo(QStringLiteral("RozmerY")) * 10});
+        m_t.tabule.push_back({ct++, 0, material, format->cislo(QStringLiteral("RozmerX")) * 10,
+                              format->cislo(QStringLiteral("RozmerY")) * 10});
 }
 
 void PlanRun::SoupisDesekNP()
 {
     m_prubeh.popisek(QStringLiteral("Vytváření soupisu desek..."));
     Database& dataS = m_uloziste.dataS();
-    Recordset rady(dataS, QStringLiteral("SELECT * FROM Zakazky WHERE Zakazka = '") + z(m_zakazka) +
-                              QStringLiteral("' ORDER BY Sestava"));
+    const auto format = RadkyZakazky::material(dataS, m_zakazka, m_idFormatu);
+    const bool formatOV = format && format->ano(QStringLiteral("OV"));
     QString posledni;
-    for (; !rady.eof(); rady.moveNext()) {
+    for (Recordset rady = RadkyZakazky::radky(dataS, m_zakazka, QStringLiteral("Sestava")); !rady.eof(); rady.moveNext()) {
         const QString sestava = rady.text(QStringLiteral("Sestava"));
         if (sestava == posledni)
             continue;
         posledni = sestava;
-        Recordset desky(dataS, QStringLiteral("SELECT * FROM Zakazky WHERE Zakazka = '") + z(m_zakazka) +
-                                   QStringLiteral("' and Sestava = '") + Dotaz::text(sestava) +
-                                   QStringLiteral("' and IDFormat = ") + Dotaz::cislo(m_idFormatu) +
-                                   QStringLiteral(" ORDER BY Oznaceni"));
-        const Recordset format(dataS, formatDotaz(m_zakazka, m_idFormatu), Recordset::Rozsah::Prvni);
-        const bool formatOV = !format.eof() && format.ano(QStringLiteral("OV"));
+        // "... and Sestava = '{Sestava}' and IDFormat = {IDFormatuNP} ORDER BY Oznaceni": the
+        // assembly's rows in that order, those of the format kept
+        Recordset desky = RadkyZakazky::radkySestavy(dataS, m_zakazka, sestava, QStringLiteral("Oznaceni"));
         int cDesky = 1;
         for (; !desky.eof(); desky.moveNext()) {
+            if (desky.cislo(QStringLiteral("IDFormat")) != Dotaz::jakoVDotazu(m_idFormatu))
+                continue;
             DeskaNP d;
             d.CDesky = cDesky++;
             d.Oznaceni = desky.text(QStringLiteral("Oznaceni"));

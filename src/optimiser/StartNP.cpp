@@ -1,15 +1,13 @@
 #include "optimiser/StartNP.h"
 
-#include "core/Recordset.h"
 #include "core/ZpravaChyby.h"
+#include "orders/RadkyZakazky.h"
 
 namespace StartNP {
 
 int pocetVariant(Database& dataS, const QString& zakazka, double idFormatu)
 {
-    return Recordset(dataS, QStringLiteral("SELECT * FROM Zakazky WHERE Zakazka = ? and IDFormat = ? ORDER BY Oznaceni"),
-                     {zakazka, idFormatu})
-        .recordCount();
+    return RadkyZakazky::deskyFormatu(dataS, zakazka, idFormatu).recordCount();
 }
 
 Error chybaPracovniDatabaze(const Error& e)

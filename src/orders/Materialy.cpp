@@ -101,17 +101,27 @@ double idPodleTextu(Database& db, const QString& zakazka, const QString& text, b
     return 0;
 }
 
+void pridej(Database& db, const QString& zakazka, const Material& m, bool hrana)
+{
+    Recordset rs(db, QStringLiteral("ZakazkyMaterialy"), Recordset::Rozsah::Prvni);
+    rs.addNew();
+    rs.set(QStringLiteral("ID"), m.ID);
+    rs.set(QStringLiteral("Zakazka"), zakazka);
+    rs.set(QStringLiteral("pouziti"), hrana ? QStringLiteral("hrana") : QStringLiteral("format"));
+    if (hrana)
+        zapisHranu(rs, m);
+    else
+        zapisFormat(rs, m);
+    rs.update();
+}
+
 bool UlozitNovyFormat(Database& db, const QString& zakazka, const Material& m)
 {
     if (m.x == 0 || m.y == 0 || m.nazev.isEmpty() || m.cena == 0)
         return false;
-    Recordset rs(db, QStringLiteral("SELECT * FROM ZakazkyMaterialy "), Recordset::Rozsah::Prvni);
-    rs.addNew();
-    rs.set(QStringLiteral("ID"), noveId(db, zakazka));
-    rs.set(QStringLiteral("Zakazka"), zakazka);
-    rs.set(QStringLiteral("pouziti"), QStringLiteral("format"));
-    zapisFormat(rs, m);
-    rs.update();
+    Material novy = m;
+    novy.ID = noveId(db, zakazka);
+    pridej(db, zakazka, novy, false);
     return true;
 }
 
@@ -163,13 +173,9 @@ bool UlozitNovouHranu(Database& db, const QString& zakazka, const Material& m)
 {
     if (m.nazev.isEmpty() || m.cena == 0)
         return false;
-    Recordset rs(db, QStringLiteral("SELECT * FROM ZakazkyMaterialy "), Recordset::Rozsah::Prvni);
-    rs.addNew();
-    rs.set(QStringLiteral("ID"), noveId(db, zakazka));
-    rs.set(QStringLiteral("Zakazka"), zakazka);
-    rs.set(QStringLiteral("pouziti"), QStringLiteral("hrana"));
-    zapisHranu(rs, m);
-    rs.update();
+    Material nova = m;
+    nova.ID = noveId(db, zakazka);
+    pridej(db, zakazka, nova, true);
     return true;
 }
 

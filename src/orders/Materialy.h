@@ -29,6 +29,9 @@ QString textHrany(const Material& m);   // "ABS ( 12,5 - 2 ) "
 // The ID of the order's format or band whose built text is text; 0 when none is.
 double idPodleTextu(Database& db, const QString& zakazka, const QString& text, bool hrana);
 
+// A new row of the order's formats (hrana: bands) with m's ID as it stands, without checks: for
+// the loads that bring their own (the exchange JSON, the import).
+void pridej(Database& db, const QString& zakazka, const Material& m, bool hrana);
 // The save of a new one is refused without a word while name, sizes or price are missing.
 bool UlozitNovyFormat(Database& db, const QString& zakazka, const Material& m);
 enum class Uprava { Odmitnuto, Upraveno, Slouceno };
@@ -39,4 +42,4 @@ bool UlozitNovouHranu(Database& db, const QString& zakazka, const Material& m);
 bool UlozitUpravuHrany(Database& db, const QString& zakazka, const Material& m);
 bool SmazatHranu(Database& db, Prompt& p, const QString& zakazka, const Material& m);
 
-}
+} // namespace Materialy

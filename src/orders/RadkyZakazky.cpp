@@ -80,6 +80,11 @@ Recordset deskyFormatu(Database& db, const QString& zakazka, double idFormatu, c
     return Recordset(db, zakazky + QStringLiteral(" and IDFormat = ?") + poradi(razeni), {zakazka, idFormatu});
 }
 
+Recordset deskySestavy(Database& db, const QString& zakazka, const QString& sestava, double idFormatu, const QString& razeni)
+{
+    return Recordset(db, sestavy + QStringLiteral(" and IDFormat = ?") + poradi(razeni), {zakazka, sestava, idFormatu});
+}
+
 Recordset deskySHranou(Database& db, const QString& zakazka, double idHrany, const QString& sestava)
 {
     if (sestava.isNull())
@@ -102,8 +107,9 @@ std::optional<Recordset> material(Database& db, const QString& zakazka, double i
 
 std::optional<Recordset> materialPodleNazvu(Database& db, const QString& zakazka, const QString& nazev, Pouziti pouziti)
 {
-    return prvni(Recordset(db, QStringLiteral("SELECT * FROM ZakazkyMaterialy WHERE Zakazka = ? and Material = ?") + podminka(pouziti),
-                           {zakazka, nazev}, Rozsah::Prvni));
+    return prvni(
+        Recordset(db, QStringLiteral("SELECT * FROM ZakazkyMaterialy WHERE Zakazka = ? and Material = ?") + podminka(pouziti),
+                  {zakazka, nazev}, Rozsah::Prvni));
 }
 
 } // namespace RadkyZakazky

@@ -35,6 +35,9 @@ std::optional<Recordset> polozka(Database& db, const QString& zakazka, const QSt
 Recordset radekProPolozku(Database& db, const QString& zakazka, const QString& sestava);
 // The boards of the order cut from the format idFormatu.
 Recordset deskyFormatu(Database& db, const QString& zakazka, double idFormatu, const QString& razeni = {});
+// The boards of one assembly cut from the format idFormatu.
+Recordset deskySestavy(Database& db, const QString& zakazka, const QString& sestava, double idFormatu,
+                       const QString& razeni = {});
 // The rows of the order (of one assembly when sestava is not null) with the band idHrany on a
 // side, by assembly.
 Recordset deskySHranou(Database& db, const QString& zakazka, double idHrany, const QString& sestava = QString());

@@ -33,8 +33,7 @@ void kazdyDruh(Database& k, F&& naDruh)
         prvni = false;
         sestava = s;
         oznaceni = o;
-        Recordset druh(k, QStringLiteral("SELECT * FROM SoupisDesek WHERE sestava = '") + Dotaz::text(s) +
-                              QStringLiteral("' and oznaceni  = '") + Dotaz::text(o) + QStringLiteral("'  ORDER BY XD,YD   "));
+        Recordset druh(k, QStringLiteral("SELECT * FROM SoupisDesek WHERE sestava = ? and oznaceni = ? ORDER BY XD,YD"), {s, o});
         naDruh(druh);
     }
 }

@@ -35,7 +35,7 @@ constexpr int TwipuNaPixel = 15; // the old window positions were kept in screen
 FrmBorovak::FrmBorovak(Uloziste& uloziste, Prompt& prompt)
     : m_uloziste(uloziste), m_prompt(prompt), m_data(uloziste, prompt, [this] { poObnoveDat(); }),
       m_vypisy(uloziste, prompt, m_vyber, this, [this](const QString& n) { return popisekPrikazu(n); }),
-      m_katalogy(uloziste, prompt, this, [this] { NactiSchema(); })
+      m_katalogy(uloziste, prompt, this, [this] { NactiSchema(); }), m_jazyk(*this, prompt)
 {
     pridejPrikazy();
     setObjectName(QStringLiteral("frmBorovak"));
@@ -242,6 +242,7 @@ void FrmBorovak::pridejPrikazy()
     m_data.pridejPrikazy(m_prikazy);
     m_vypisy.pridejPrikazy(m_prikazy);
     m_katalogy.pridejPrikazy(m_prikazy);
+    m_jazyk.pridejPrikazy(m_prikazy);
     m_prikazy.pridej({QStringLiteral("UlozeniJakoZ")}, [this] {
         const QString nova = Kopirovani::UlozitZakazkuJako(m_uloziste.dataS(), m_prompt, m_vyber.txtzakazka());
         if (!nova.isNull())
@@ -255,8 +256,6 @@ void FrmBorovak::pridejPrikazy()
     });
     m_prikazy.pridej({QStringLiteral("Konec")}, [this] { close(); });
     m_prikazy.pridej({QStringLiteral("Moznosti")}, [this] { otevriMoznosti(); });
-    m_prikazy.pridej({QStringLiteral("cestina")}, [this] { zvolJazyk(false); });
-    m_prikazy.pridej({QStringLiteral("Anglictina")}, [this] { zvolJazyk(true); });
     m_prikazy.pridej({QStringLiteral("NapovedaObsah")}, [this] {
         m_prompt.zprava(QStringLiteral("Na aktualizaci nápovědy se pracuje..."), QString(), Prompt::Ikona::Informace);
     });

@@ -1,15 +1,17 @@
 #pragma once
 // The main window frmBorovak: the tree of orders and assemblies, the two-page tab with the four
 // grids, the menu bar, the toolbar and the status bar. Every command goes through one table
-// (TabulkaPrikazu); the window's own routines are the tree and the grids (FrmBorovakZaznamy.cpp,
-// FrmBorovakKatalog.cpp for the accessories) and the language (FrmBorovakJazyk.cpp); data,
-// catalogues, plans and reports are controllers of their own (Ovladac…). The selection lives in txtzakazka and txtSestava:
-// writing them refreshes the page, exactly as the hidden text boxes of the old window did.
+// (TabulkaPrikazu). The window's own routines are the tree and the grids (FrmBorovakZaznamy.cpp,
+// FrmBorovakKatalog.cpp for the accessories, FrmBorovakStavba.cpp for the widgets); data,
+// catalogues, plans and reports, and the language are controllers of their own (Ovladac…).
+// The selection lives in txtzakazka and txtSestava: writing them refreshes the page, exactly
+// as the hidden text boxes of the old window did.
 #include "core/Jazyk.h"
 #include "orders/Materialy.h"
 #include "orders/Prislusenstvi.h"
 #include "orders/Vyber.h"
 #include "ui/OvladacDat.h"
+#include "ui/OvladacJazyka.h"
 #include "ui/OvladacKatalogu.h"
 #include "ui/OvladacVypisu.h"
 #include "ui/TabulkaPrikazu.h"
@@ -42,11 +44,10 @@ public:
     void ZakazEditaciSestavy();
     void PovolEditaciSestavy();
 
-    // The captions of the language file that is checked (cestina or Anglictina); on a missing
-    // or damaged file a message, and every caption stays. (FrmBorovakJazyk.cpp)
-    bool NactiJazyk();
-    void nastavPopisek(const Jazyk::Cil& cil, const QString& text);
-    QString popisek(const Jazyk::Cil& cil) const;
+    // The captions of the language file that is checked (cestina or Anglictina): OvladacJazyka.
+    bool NactiJazyk() { return m_jazyk.NactiJazyk(); }
+    void nastavPopisek(const Jazyk::Cil& cil, const QString& text) { m_jazyk.nastavPopisek(cil, text); }
+    QString popisek(const Jazyk::Cil& cil) const { return m_jazyk.popisek(cil); }
 
     // An assembly node dropped on a node of another order: copied there on Yes.
     void pretazeni(QTreeWidgetItem* zdroj, QTreeWidgetItem* cil);
@@ -105,7 +106,6 @@ private:
     void NaplnitGridPR(const QString& akce);
     void NactiSchema();
     void vyberUzel(QString zakazka, QString sestava); // by value: callers pass the selection itself
-    void zvolJazyk(bool anglicky);
     void otevriMoznosti();
     void poObnoveDat();
     void obnovGeometrii();
@@ -118,6 +118,7 @@ private:
     OvladacDat m_data;
     OvladacVypisu m_vypisy;
     OvladacKatalogu m_katalogy;
+    OvladacJazyka m_jazyk;
     QString m_AktZakazka, m_AktSestava;
     QTreeWidget* m_tvzakazky;
     QTabWidget* m_stZakazky;

@@ -3,6 +3,7 @@
 
 #include "core/Jednotky.h"
 #include "core/Nastaveni.h"
+#include "ui/RamecNovy.h"
 
 #include <QComboBox>
 #include <QFormLayout>
@@ -10,31 +11,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QStackedWidget>
-#include <QVBoxLayout>
-
-namespace {
-
-// The frame's form over its two keys, Uložit and Zavřít (which leaves the dialog); returns Uložit.
-QPushButton* sTlacitky(QWidget* w, QFormLayout* formular, QDialog* dialog)
-{
-    auto* uloz = new QPushButton(QStringLiteral("Uložit"));
-    uloz->setObjectName(QStringLiteral("cmdUlozitPrislusenstvi"));
-    uloz->setDefault(true);
-    auto* zavrit = new QPushButton(QStringLiteral("Zavřít"));
-    zavrit->setObjectName(QStringLiteral("cmdZavrit"));
-    QObject::connect(zavrit, &QPushButton::clicked, dialog, &QDialog::reject);
-    auto* tlacitka = new QHBoxLayout;
-    tlacitka->addStretch();
-    tlacitka->addWidget(uloz);
-    tlacitka->addWidget(zavrit);
-    auto* l = new QVBoxLayout(w);
-    l->addLayout(formular);
-    l->addLayout(tlacitka);
-    return uloz;
-}
-
-} // namespace
 
 void FrmNovy::prislusenstvi(Stav stavRamce, const QStringList& nazvy, const QStringList& jednotky,
                             const Prislusenstvi::Polozka& p,
@@ -43,8 +19,11 @@ void FrmNovy::prislusenstvi(Stav stavRamce, const QStringList& nazvy, const QStr
 {
     const bool nove = stavRamce != Stav::UpraveniPrislusenstvi;
     m_stav = Stav::Najeti;
-    auto* w = new QWidget;
-    w->setObjectName(QStringLiteral("fraPřís"));
+    const RamecNovy::Ramec r =
+        RamecNovy::novy(m_ramce, "fraPřís", "cmdUlozitPrislusenstvi",
+                        nove ? QStringLiteral("Uložení nového příslušenství") : QStringLiteral("Uložení úprav příslušenství"));
+    auto* const w = r.w;
+    auto* const uloz = r.ulozit;
     auto* nazev = new QComboBox;
     nazev->setObjectName(QStringLiteral("txtNPrislusenstvi"));
     nazev->setEditable(true);
@@ -71,13 +50,11 @@ void FrmNovy::prislusenstvi(Stav stavRamce, const QStringList& nazvy, const QStr
         cena->setText(Jednotky::cislo(c));
         jednotka->setCurrentText(j);
     }));
-    auto* formular = new QFormLayout;
+    QFormLayout* formular = r.formular;
     formular->addRow(QStringLiteral("Název:"), radekNazvu);
     formular->addRow(QStringLiteral("Množství:"), pocet);
     formular->addRow(QStringLiteral("Jednotka:"), jednotka);
     formular->addRow(QStringLiteral("Cena bez DPH:"), radekCeny);
-    auto* uloz = sTlacitky(w, formular, this);
-    m_ramce->addWidget(w);
 
     auto vypln = [=](const Prislusenstvi::Polozka& z) {
         nazev->setCurrentText(z.oznaceni);

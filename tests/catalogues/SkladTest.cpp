@@ -1,7 +1,7 @@
 // The offcut store: entry checks, the merge question, edits and deletion, the printed list.
+#include "catalogues/Sklad.h"
 #include "DomovTest.h"
 #include "SkriptovanyPrompt.h"
-#include "catalogues/Sklad.h"
 #include "core/Nastaveni.h"
 #include "printing/Dokument.h"
 
@@ -51,7 +51,8 @@ TEST_F(SkladTest, UpravaASmazani)
 {
     ASSERT_TRUE(Sklad::UlozitNovyOdrezek(db(), prompt, {QStringLiteral("DTD"), 500, 300, 2}));
     ASSERT_TRUE(Sklad::UlozitNovyOdrezek(db(), prompt, {QStringLiteral("DTD"), 800, 400, 1}));
-    EXPECT_TRUE(Sklad::UlozitUpravuOdrezku(db(), prompt, {QStringLiteral("DTD"), 500, 300, 2}, {QStringLiteral("DTD"), 600, 300, 4}));
+    EXPECT_TRUE(
+        Sklad::UlozitUpravuOdrezku(db(), prompt, {QStringLiteral("DTD"), 500, 300, 2}, {QStringLiteral("DTD"), 600, 300, 4}));
     auto v = Sklad::nacti(db(), {}, QStringLiteral("x"));
     ASSERT_EQ(v.size(), 2u);
     EXPECT_EQ(v[0].x, 600);
@@ -81,4 +82,22 @@ TEST_F(SkladTest, VypisSkladuJednohoMaterialu)
     EXPECT_TRUE(t.contains(QStringLiteral("Strana  1 / 1")));
     EXPECT_FALSE(t.contains(QStringLiteral("MDF")));
     EXPECT_LT(t.indexOf(QStringLiteral("300 mm x 200 mm")), t.indexOf(QStringLiteral("900 mm x 200 mm")));
+}
+
+// The plan's write-back in tenths of a millimetre: a piece in joins its size (case-blind name),
+// a piece out counts down and takes the row with its last piece; a size not stored is left be.
+TEST_F(SkladTest, KusyPlanuVDesetinach)
+{
+    const QString nazev = QStringLiteral("DTD 'bílá'");
+    Sklad::pridejKus(db(), nazev, 3333, 1200.5);
+    Sklad::pridejKus(db(), QStringLiteral("dtd 'BÍLÁ'"), 3333, 1200.5);
+    ASSERT_EQ(vse().size(), 1u);
+    EXPECT_EQ(vse()[0].pocet, 2);
+    EXPECT_DOUBLE_EQ(vse()[0].x, 333.3);
+    Sklad::odeberKus(db(), nazev, 3333, 1200);
+    EXPECT_EQ(vse()[0].pocet, 2);
+    Sklad::odeberKus(db(), nazev, 3333, 1200.5);
+    EXPECT_EQ(vse()[0].pocet, 1);
+    Sklad::odeberKus(db(), nazev, 3333, 1200.5);
+    EXPECT_TRUE(vse().empty());
 }

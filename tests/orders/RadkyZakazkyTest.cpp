@@ -58,6 +58,9 @@ TEST_F(RadkyZakazkyTest, NazvySeVazouANeslepuji)
         Desky::UlozitNovyPM(db(), p, zakazka, sestava, {QStringLiteral("bok ' ?"), 720, 560, 2, false, format}).isNull());
     EXPECT_TRUE(RadkyZakazky::polozka(db(), zakazka, sestava, QStringLiteral("BOK ' ?")));
     EXPECT_EQ(RadkyZakazky::deskyFormatu(db(), zakazka, format).recordCount(), 1);
+    EXPECT_EQ(RadkyZakazky::deskySestavy(db(), zakazka, QStringLiteral("A'?B"), format, QStringLiteral("Oznaceni")).recordCount(),
+              1);
+    EXPECT_EQ(RadkyZakazky::deskySestavy(db(), zakazka, sestava, format + 1).recordCount(), 0);
     EXPECT_EQ(RadkyZakazky::radky(db(), zakazka).recordCount(), 1); // the board took over the header row
     EXPECT_EQ(RadkyZakazky::materialPodleNazvu(db(), zakazka, QStringLiteral("dtd 'BÍLÁ'"))->cislo(QStringLiteral("ID")), format);
     EXPECT_FALSE(RadkyZakazky::material(db(), zakazka, format, RadkyZakazky::Pouziti::Hrany));

@@ -1,8 +1,8 @@
-// The main window in another language: each line of the language file onto its caption.
-#include "ui/FrmBorovak.h"
+#include "ui/OvladacJazyka.h"
 
 #include "core/Error.h"
 #include "core/Prompt.h"
+#include "ui/TabulkaPrikazu.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -11,7 +11,17 @@
 #include <QTabWidget>
 #include <QTableWidget>
 
-void FrmBorovak::zvolJazyk(bool anglicky)
+OvladacJazyka::OvladacJazyka(QWidget& okno, Prompt& prompt) : m_okno(okno), m_prompt(prompt) {}
+
+void OvladacJazyka::pridejPrikazy(TabulkaPrikazu& tabulka)
+{
+    tabulka.pridej({QStringLiteral("cestina")}, [this] { zvolJazyk(false); });
+    tabulka.pridej({QStringLiteral("Anglictina")}, [this] { zvolJazyk(true); });
+}
+
+QAction* OvladacJazyka::akce(const QString& nazev) const { return m_okno.findChild<QAction*>(nazev); }
+
+void OvladacJazyka::zvolJazyk(bool anglicky)
 {
     QAction* cestina = akce(QStringLiteral("cestina"));
     QAction* anglictina = akce(QStringLiteral("Anglictina"));
@@ -24,7 +34,7 @@ void FrmBorovak::zvolJazyk(bool anglicky)
     }
 }
 
-bool FrmBorovak::NactiJazyk()
+bool OvladacJazyka::NactiJazyk()
 {
     const auto soubor = akce(QStringLiteral("Anglictina"))->isChecked() ? Jazyk::Soubor::Anglictina : Jazyk::Soubor::Cestina;
     QStringList radky;
@@ -40,33 +50,33 @@ bool FrmBorovak::NactiJazyk()
     return true;
 }
 
-void FrmBorovak::nastavPopisek(const Jazyk::Cil& c, const QString& text)
+void OvladacJazyka::nastavPopisek(const Jazyk::Cil& c, const QString& text)
 {
     const QString nazev = QLatin1String(c.nazev);
     switch (c.druh) {
     case Jazyk::Druh::Popisek:
-        if (QAction* a = findChild<QAction*>(nazev))
+        if (QAction* a = m_okno.findChild<QAction*>(nazev))
             a->setText(text);
-        else if (auto* b = findChild<QAbstractButton*>(nazev))
+        else if (auto* b = m_okno.findChild<QAbstractButton*>(nazev))
             b->setText(text);
-        else if (auto* g = findChild<QGroupBox*>(nazev))
+        else if (auto* g = m_okno.findChild<QGroupBox*>(nazev))
             g->setTitle(text);
-        else if (auto* l = findChild<QLabel*>(nazev))
+        else if (auto* l = m_okno.findChild<QLabel*>(nazev))
             l->setText(text);
         break;
     case Jazyk::Druh::Tip:
-        if (QAction* a = findChild<QAction*>(nazev)) {
+        if (QAction* a = m_okno.findChild<QAction*>(nazev)) {
             a->setText(text);
             a->setToolTip(text);
-        } else if (auto* w = findChild<QWidget*>(nazev))
+        } else if (auto* w = m_okno.findChild<QWidget*>(nazev))
             w->setToolTip(text);
         break;
     case Jazyk::Druh::Zalozka:
-        if (auto* t = findChild<QTabWidget*>(nazev))
+        if (auto* t = m_okno.findChild<QTabWidget*>(nazev))
             t->setTabText(c.index, text);
         break;
     case Jazyk::Druh::Sloupec:
-        if (auto* g = findChild<QTableWidget*>(nazev))
+        if (auto* g = m_okno.findChild<QTableWidget*>(nazev))
             if (QTableWidgetItem* h = g->horizontalHeaderItem(c.index))
                 h->setText(text);
         break;
@@ -74,32 +84,32 @@ void FrmBorovak::nastavPopisek(const Jazyk::Cil& c, const QString& text)
     }
 }
 
-QString FrmBorovak::popisek(const Jazyk::Cil& c) const
+QString OvladacJazyka::popisek(const Jazyk::Cil& c) const
 {
     const QString nazev = QLatin1String(c.nazev);
     switch (c.druh) {
     case Jazyk::Druh::Popisek:
-        if (QAction* a = findChild<QAction*>(nazev))
+        if (QAction* a = m_okno.findChild<QAction*>(nazev))
             return a->text();
-        if (auto* b = findChild<QAbstractButton*>(nazev))
+        if (auto* b = m_okno.findChild<QAbstractButton*>(nazev))
             return b->text();
-        if (auto* g = findChild<QGroupBox*>(nazev))
+        if (auto* g = m_okno.findChild<QGroupBox*>(nazev))
             return g->title();
-        if (auto* l = findChild<QLabel*>(nazev))
+        if (auto* l = m_okno.findChild<QLabel*>(nazev))
             return l->text();
         break;
     case Jazyk::Druh::Tip:
-        if (QAction* a = findChild<QAction*>(nazev))
+        if (QAction* a = m_okno.findChild<QAction*>(nazev))
             return a->toolTip();
-        if (auto* w = findChild<QWidget*>(nazev))
+        if (auto* w = m_okno.findChild<QWidget*>(nazev))
             return w->toolTip();
         break;
     case Jazyk::Druh::Zalozka:
-        if (auto* t = findChild<QTabWidget*>(nazev))
+        if (auto* t = m_okno.findChild<QTabWidget*>(nazev))
             return t->tabText(c.index);
         break;
     case Jazyk::Druh::Sloupec:
-        if (auto* g = findChild<QTableWidget*>(nazev))
+        if (auto* g = m_okno.findChild<QTableWidget*>(nazev))
             if (QTableWidgetItem* h = g->horizontalHeaderItem(c.index))
                 return h->text();
         break;
