@@ -5,7 +5,7 @@ PACKAGES := cmake g++ make qt6-base-dev libsqlite3-dev libgtest-dev libgmock-dev
             fonts-urw-base35 \
             fonts-liberation2 fonts-dejavu-core poppler-utils xvfb xauth
 
-.PHONY: deps build run test bench clean
+.PHONY: deps build run test bench fuzz clean
 
 deps:
 	@missing=$$(for p in $(PACKAGES); do dpkg-query -W -f='$${Status}\n' $$p 2>/dev/null | grep -q 'install ok installed' || echo $$p; done); \
@@ -37,6 +37,30 @@ test: build
 
 bench: build
 	$(BUILD_DIR)/bench/truhlar-bench $(BENCH_ARGS)
+
+# Every fuzz target for FUZZ_SECONDS (600) each: libFuzzer under clang where it is installed,
+# else the seeded mutation test with many rounds. Inputs that fail land in tests/fuzz/regrese/.
+FUZZ_DIR ?= build-fuzz
+FUZZ_SECONDS ?= 600
+FUZZ_TARGETS := zakazka-json import odrezky-json cenik moznosti jazyk zaloha
+fuzz: deps
+	@if command -v clang++ >/dev/null 2>&1; then \
+	  cmake -S . -B $(FUZZ_DIR) -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_C_COMPILER=clang \
+	        -DCMAKE_CXX_COMPILER=clang++ -DTRUHLAR_FUZZ=ON >/dev/null && \
+	  cmake --build $(FUZZ_DIR) -j $(JOBS) --target truhlar-fuzz && \
+	  for c in $(FUZZ_TARGETS); do \
+	    mkdir -p $(FUZZ_DIR)/korpus/$$c tests/fuzz/regrese/$$c; \
+	    echo "== $$c"; \
+	    TRUHLAR_FUZZ_CIL=$$c QT_QPA_PLATFORM=offscreen $(FUZZ_DIR)/tests/fuzz/truhlar-fuzz \
+	      -max_total_time=$(FUZZ_SECONDS) -print_final_stats=1 -artifact_prefix=tests/fuzz/regrese/$$c/ \
+	      $(FUZZ_DIR)/korpus/$$c tests/fuzz/regrese/$$c || exit 1; \
+	  done; \
+	else \
+	  $(MAKE) build && for c in $(FUZZ_TARGETS); do \
+	    TRUHLAR_FUZZ_KOLA=$$(( $(FUZZ_SECONDS) * 200 )) $(BUILD_DIR)/tests/fuzz/test_fuzz \
+	      --gtest_filter="*/$$(echo $$c | tr - _)" || exit 1; \
+	  done; \
+	fi
 
 clean:
 	rm -rf $(BUILD_DIR)

@@ -2,6 +2,7 @@
 
 #include "core/Database.h"
 #include "core/Dotaz.h"
+#include "core/KontrolaTextu.h"
 #include "core/Nastaveni.h"
 #include "core/Prikaz.h"
 #include "core/Prompt.h"
@@ -60,6 +61,9 @@ bool platne(Database& db, Prompt& p, const Zadani& z, const std::optional<qint64
 {
     if (z.nazev.size() > MaxNazev)
         return chyba(p, "nazev nového materiálu smí obsahovat maximálně 100 znaků!!!", "Příliš dlouhý nazev");
+    if (!KontrolaTextu::prijmi(p, {{z.nazev, QStringLiteral("Název"), KontrolaTextu::NazevMaterialu},
+                                   {z.jednotka, QStringLiteral("Jednotka")}}))
+        return false;
     if (z.nazev.trimmed().isEmpty())
         return chyba(p, "Zadejte název položky.", "Chyba zadání");
     const auto kod = cislo(z.kod);

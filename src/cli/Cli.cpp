@@ -4,6 +4,7 @@
 #include "core/Aplikace.h"
 #include "core/Error.h"
 #include "core/Nastaveni.h"
+#include "core/Soubory.h"
 #include "core/Uloziste.h"
 
 #include <QFile>
@@ -15,7 +16,8 @@ namespace {
 std::unique_ptr<Uloziste> g_uloziste;
 
 const char* const TextPouziti =
-    "Použití: truhlar-cli [--home SLOŽKA] PŘÍKAZ ...\n"
+    "Použití: truhlar-cli [--home SLOŽKA] [--verbose] PŘÍKAZ ...\n"
+    "  --verbose                     u chyby vypíše i hlášení databáze a systému\n"
     "  init                          založí aplikační složku s prázdnými databázemi\n"
     "  order-load SOUBOR.json        založí zakázku ze souboru JSON\n"
     "  order-dump NÁZEV              vypíše zakázku jako JSON\n"
@@ -106,10 +108,7 @@ Uloziste& uloziste()
 
 QByteArray nactiSoubor(const QString& cesta)
 {
-    QFile f(cesta);
-    if (!f.open(QIODevice::ReadOnly))
-        throw Error(Chyba::PristupKSouboru, QStringLiteral("Soubor %1 nelze přečíst: %2").arg(cesta, f.errorString()));
-    return f.readAll();
+    return Soubory::nacti(cesta);
 }
 
 QString vezmiVolbu(QStringList& argumenty, const QString& nazev)
@@ -132,13 +131,20 @@ bool vezmiPrepinac(QStringList& argumenty, const QString& nazev)
 int spust(QStringList argumenty)
 {
     int kod = Hotovo;
+    bool podrobne = false; // what SQLite or the system said, after the Czech line
     try {
         // --home belongs before the command, so an order name or a setting may read "--home"
-        if (!argumenty.isEmpty() && argumenty.first() == QLatin1String("--home")) {
-            if (argumenty.size() < 2)
-                throw ChybaPouziti(QStringLiteral("Volba --home potřebuje složku."));
-            Aplikace::nastavDomov(argumenty.at(1));
-            argumenty.remove(0, 2);
+        for (bool dalsi = true; dalsi && !argumenty.isEmpty();) {
+            dalsi = argumenty.first() == QLatin1String("--verbose") || argumenty.first() == QLatin1String("--home");
+            if (argumenty.first() == QLatin1String("--verbose")) {
+                podrobne = true;
+                argumenty.removeFirst();
+            } else if (argumenty.first() == QLatin1String("--home")) {
+                if (argumenty.size() < 2)
+                    throw ChybaPouziti(QStringLiteral("Volba --home potřebuje složku."));
+                Aplikace::nastavDomov(argumenty.at(1));
+                argumenty.remove(0, 2);
+            }
         }
         if (argumenty.isEmpty())
             throw ChybaPouziti(QStringLiteral("Chybí příkaz."));
@@ -154,7 +160,9 @@ int spust(QStringList argumenty)
         err() << e.text() << '\n' << QString::fromUtf8(TextPouziti);
         kod = Kod::Pouziti;
     } catch (const Error& e) {
-        err() << e.text() << Qt::endl;
+        err() << QString(e.text()).replace(QLatin1Char('\r'), QLatin1Char('\n')) << Qt::endl;
+        if (podrobne && !e.podrobnosti().isEmpty())
+            err() << e.podrobnosti() << Qt::endl;
         kod = e.cislo() == Chyba::NeplatnyVstup ? Odmitnuto : ChybaUloziste;
     }
     out().flush();

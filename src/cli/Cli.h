@@ -37,7 +37,7 @@ QTextStream& err();
 CliPrompt& prompt();
 // The application folder's store, opened on first use (never created here: that is init).
 Uloziste& uloziste();
-QByteArray nactiSoubor(const QString& cesta); // throws Error 75 when it cannot be read
+QByteArray nactiSoubor(const QString& cesta); // throws Error 75 when it cannot be read, 5 when no regular file
 
 // Takes "--name value" out of the arguments; a null QString when absent.
 QString vezmiVolbu(QStringList& argumenty, const QString& nazev);

@@ -30,7 +30,9 @@ int zaloha(const QStringList& argumenty, Schema::Soubor druh)
     try {
         Zaloha::zalohuj(u, druh, cil);
     } catch (const Error& e) {
-        throw Error(e.cislo(), Zaloha::zpravaZalohy(e).text + QStringLiteral("\n") + e.text());
+        if (e.cislo() == Chyba::NeplatnyVstup)
+            throw;
+        throw Error(e.cislo(), Zaloha::zpravaZalohy(e).text, e.podrobnosti());
     }
     Cli::out() << QStringLiteral("Zálohování bylo úspěšně dokončeno: %1").arg(cil) << Qt::endl;
     return Cli::Hotovo;
@@ -43,9 +45,9 @@ int obnova(const QStringList& argumenty, Schema::Soubor druh)
     try {
         Zaloha::obnov(Cli::uloziste(), druh, argumenty[0], Cli::prompt());
     } catch (const Error& e) {
-        if (e.cislo() == Chyba::TabulkaChybi)
+        if (e.cislo() == Chyba::TabulkaChybi || e.cislo() == Chyba::NeplatnyVstup)
             odmitniSoubor(e, druh);
-        throw Error(e.cislo(), Zaloha::zpravaObnovy(e, druh).text + QStringLiteral("\n") + e.text());
+        throw Error(e.cislo(), Zaloha::zpravaObnovy(e, druh).text, e.podrobnosti());
     }
     return Cli::Hotovo;
 }

@@ -4,9 +4,13 @@
 #include "core/Jazyk.h"
 #include "core/Schema.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QRandomGenerator>
 #include <QStandardPaths>
+#include <cerrno>
+#include <unistd.h>
 
 namespace Aplikace {
 namespace {
@@ -34,8 +38,24 @@ QString cesta(const QString& relativni)
 
 QString dataS() { return cesta(QStringLiteral("Data/DataS.db")); }
 QString cenik() { return cesta(QStringLiteral("Data/Cenik.db")); }
-QString dataK() { return cesta(QStringLiteral("Data/DataK.db")); }
+QString dataK()
+{
+    const QString nazev = QStringLiteral("DataK-%1.db").arg(znackaProcesu());
+    return jenProCteni() ? QDir::temp().filePath(QStringLiteral("truhlar-") + nazev) : cesta(QStringLiteral("Data/") + nazev);
+}
+
+bool jenProCteni()
+{
+    return ::access(QFile::encodeName(cesta(QStringLiteral("Data"))).constData(), W_OK) != 0 && errno != ENOENT;
+}
 QString zamek() { return cesta(QStringLiteral("Data/.lock")); }
+
+QString znackaProcesu()
+{
+    static const QString znacka = QStringLiteral("p%1-%2").arg(QCoreApplication::applicationPid())
+                                      .arg(QRandomGenerator::system()->bounded(0x10000), 4, 16, QLatin1Char('0'));
+    return znacka;
+}
 
 bool existuje()
 {
@@ -59,10 +79,9 @@ void zaloz()
 void uklid()
 {
     QDir data(cesta(QStringLiteral("Data")));
-    for (const QString& s : data.entryList({QStringLiteral("*.tmp-*")}, QDir::Files | QDir::Hidden))
+    const QStringList zbytky = {QStringLiteral("*.tmp-*"), QStringLiteral("DataK.db*"), QStringLiteral("DataK-*.db*")};
+    for (const QString& s : data.entryList(zbytky, QDir::Files | QDir::Hidden))
         data.remove(s);
-    for (const char* pripona : {"", "-journal", "-wal", "-shm"})
-        QFile::remove(dataK() + QLatin1String(pripona));
 }
 
 }

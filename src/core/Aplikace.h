@@ -13,15 +13,22 @@ QString cesta(const QString& relativni); // a path inside the application folder
 
 QString dataS();   // Data/DataS.db
 QString cenik();   // Data/Cenik.db
-QString dataK();   // Data/DataK.db
+// Data/DataK-<znackaProcesu>.db: each process plans in its own copy (in the system's temporary
+// folder when Data/ is read-only)
+QString dataK();
 QString zamek();   // Data/.lock
+// What names this process's own files in Data/ ("p<pid>-<random>"), so that another process
+// on the same folder never takes, changes or removes them.
+QString znackaProcesu();
 
 bool existuje();   // the folder holds Data/DataS.db and Data/Cenik.db
+bool jenProCteni(); // Data/ cannot be written (a write-protected disk or folder)
 // Creates the folder, its subfolders, the empty databases and the language files where they
 // are missing; never touches a database or a language file that exists. Throws Error (75, 3051, 3799).
 void zaloz();
-// At start: removes our own temporary files in Data/ and a DataK.db left by a crash (with its
-// journal files). Nothing else is touched.
+// Removes the temporary files and plan databases in Data/ left by processes that ended (with
+// their journal files). Call only while holding the store alone: then every such file is a
+// leftover. Nothing else is touched.
 void uklid();
 
 }

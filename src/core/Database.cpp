@@ -21,7 +21,7 @@ Database::Database(const QString& soubor, Rezim rezim) : m_soubor(soubor)
     m_db.reset(db);
     SqliteChyba::zkontroluj(db, rc, soubor);
     sqlite3_extended_result_codes(db, 1);
-    sqlite3_busy_timeout(db, 2000);
+    sqlite3_busy_timeout(db, CekaniMs);
     Kolace::registruj(db);
 
     // Reading the marks is the first touch of the file: a foreign file fails here.

@@ -19,6 +19,9 @@ public:
         JenCteni  // read-only, for checks of foreign files
     };
 
+    // How long a file held by another process is waited for before it is reported (3356).
+    static constexpr int CekaniMs = 3000;
+
     // Opens an existing file of ours. Throws Error 75 (missing or unreadable), 3078 (not our
     // database, or a newer schema), 3356 (held by another program).
     Database(const QString& soubor, Rezim rezim = Rezim::Data);

@@ -23,3 +23,8 @@ int cisloProErrno(int chyba)
 }
 
 } // namespace Chyba
+
+Error::Error(int cislo, const QString& text, const QString& podrobnosti)
+    : std::runtime_error(text.toStdString()), m_cislo(cislo), m_text(text), m_podrobnosti(podrobnosti)
+{
+}

@@ -23,10 +23,15 @@ int cisloProErrno(int chyba);
 class Error : public std::runtime_error {
 public:
     Error(int cislo, const QString& text);
+    // A failure of the store or of the system: text is the Czech message (ZpravaChyby), the
+    // podrobnosti what SQLite or the system said, for --verbose and never for the user's eyes.
+    Error(int cislo, const QString& text, const QString& podrobnosti);
     int cislo() const noexcept { return m_cislo; }
     QString text() const { return m_text; }
+    QString podrobnosti() const { return m_podrobnosti; }
 
 private:
     int m_cislo;
     QString m_text;
+    QString m_podrobnosti;
 };

@@ -1,6 +1,7 @@
 #include "core/Jazyk.h"
 
 #include "core/Aplikace.h"
+#include "core/Soubory.h"
 #include "core/Error.h"
 #include "core/Soubory.h"
 
@@ -136,10 +137,8 @@ QStringList nacti(const QString& cesta)
     QFile f(cesta);
     if (!f.exists())
         throw Error(Chyba::PristupKSouboru, QStringLiteral("Soubor jazykové verze neexistuje!!!"));
-    if (!f.open(QIODevice::ReadOnly))
-        throw Error(Chyba::PristupKSouboru, QStringLiteral("Soubor jazykové verze nelze otevřít: %1").arg(cesta));
     QStringDecoder utf8(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
-    const QString text = utf8(f.readAll());
+    const QString text = utf8(Soubory::nacti(cesta));
     if (utf8.hasError())
         poskozeny();
     QStringList radky = text.split(QLatin1Char('\n'));

@@ -321,8 +321,11 @@ void uloz(const Hodnoty& hodnoty)
     Zapis zapis;
     if (const auto o = preved(hodnoty, zapis))
         throw Error(Chyba::NeplatnyVstup, o->zprava);
+    QList<Nastaveni::Hodnota> hodnotyKZapisu;
     for (const auto& [p, text] : zapis)
-        Nastaveni::SaveSetting(QLatin1String(p->sekce), QLatin1String(p->klic), text);
+        hodnotyKZapisu.append({QLatin1String(p->sekce), QLatin1String(p->klic), text});
+    Nastaveni::SaveSettings(hodnotyKZapisu); // one write: a stop half way leaves no mix
+
 }
 
 }

@@ -101,8 +101,14 @@ QString GetSetting(const QString& sekce, const QString& klic, const QString& vyc
 
 void SaveSetting(const QString& sekce, const QString& klic, const QString& hodnota)
 {
+    SaveSettings({{sekce, klic, hodnota}});
+}
+
+void SaveSettings(const QList<Hodnota>& hodnoty)
+{
     QSettings s = otevri();
-    s.setValue(sekce + QLatin1Char('/') + klic, hodnota);
+    for (const Hodnota& h : hodnoty)
+        s.setValue(h.sekce + QLatin1Char('/') + h.klic, h.hodnota);
     s.sync();
 }
 

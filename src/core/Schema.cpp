@@ -2,7 +2,9 @@
 
 #include "core/Error.h"
 #include "core/Kolace.h"
+#include "core/Soubory.h"
 #include "core/SqliteChyba.h"
+#include "core/ZpravaChyby.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -137,8 +139,7 @@ void vytvor(const QString& cesta, Soubor soubor)
     sql += vytvorIndexy(soubor);
     sql += QStringLiteral("COMMIT;");
 
-    const QString docasny = cesta + QStringLiteral(".tmp-vytvor");
-    QFile::remove(docasny);
+    const QString docasny = Soubory::docasny(cesta, QStringLiteral("vytvor"));
     {
         sqlite3* db = nullptr;
         int rc =
@@ -152,12 +153,15 @@ void vytvor(const QString& cesta, Soubor soubor)
             drzitel.reset();
             QFile::remove(docasny);
             if (sys)
-                throw Error(Chyba::cisloProErrno(sys), cesta);
+                throw Error(Chyba::cisloProErrno(sys), ZpravaChyby::text(Chyba::cisloProErrno(sys), cesta, sys),
+                            cesta);
             SqliteChyba::vyhod(nullptr, rc, cesta);
         }
     }
     if (!QFile::rename(docasny, cesta)) { // never over an existing file
         QFile::remove(docasny);
+        if (QFileInfo(cesta).isFile())
+            return; // a second process made it at the same moment
         throw Error(Chyba::PristupKSouboru, QStringLiteral("Soubor %1 nelze zapsat.").arg(cesta));
     }
 }

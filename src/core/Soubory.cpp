@@ -1,6 +1,9 @@
 #include "core/Soubory.h"
 
+#include "core/Aplikace.h"
+#include "core/CilZapisu.h"
 #include "core/Error.h"
+#include "core/ZpravaChyby.h"
 
 #include <QBuffer>
 #include <QDir>
@@ -10,6 +13,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace Soubory {
@@ -30,7 +34,9 @@ bool porucha(const char* operace, const QString& soubor)
 [[noreturn]] void chyba(const QString& text, const QString& soubor)
 {
     const int e = errno;
-    throw Error(Chyba::cisloProErrno(e), QStringLiteral("%1 %2: %3").arg(text, soubor, QString::fromLocal8Bit(strerror(e))));
+    const int cislo = Chyba::cisloProErrno(e);
+    throw Error(cislo, ZpravaChyby::text(cislo, soubor, e),
+                QStringLiteral("%1 %2: %3").arg(text, soubor, QString::fromLocal8Bit(strerror(e))));
 }
 
 void fsync(const QString& cesta, int priznaky)
@@ -78,10 +84,49 @@ void zapisNovy(const QString& docasny, const QString& cil, const QByteArray& obs
     }
 }
 
+// Opens a regular file for reading without waiting on a pipe; throws for anything else.
+int otevriObycejny(const QString& soubor)
+{
+    const int fd = ::open(QFile::encodeName(soubor).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (fd < 0)
+        chyba(QStringLiteral("Nelze přečíst"), soubor);
+    struct stat s {};
+    if (::fstat(fd, &s) != 0 || !S_ISREG(s.st_mode)) {
+        ::close(fd);
+        throw Error(Chyba::NeplatnyVstup,
+                    QStringLiteral("%1 není obyčejný soubor, nelze z něj číst.").arg(QDir::toNativeSeparators(soubor)));
+    }
+    ::fcntl(fd, F_SETFL, 0); // reads of a regular file wait for the disk as usual
+    return fd;
+}
+
 } // namespace
+
+QByteArray nacti(const QString& soubor, qint64 nejvys)
+{
+    const int fd = otevriObycejny(soubor);
+    QFile f;
+    if (!f.open(fd, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
+        ::close(fd);
+        chyba(QStringLiteral("Nelze přečíst"), soubor);
+    }
+    const Error velky(Chyba::NeplatnyVstup, QStringLiteral("Soubor %1 je příliš velký (nejvýše %2 MB).")
+                                                .arg(QDir::toNativeSeparators(soubor))
+                                                .arg(nejvys >> 20));
+    if (f.size() > nejvys)
+        throw velky;
+    errno = 0;
+    QByteArray bajty = f.read(nejvys + 1);
+    if (f.error() != QFileDevice::NoError)
+        chyba(QStringLiteral("Nelze přečíst"), soubor);
+    if (bajty.size() > nejvys) // grew while read
+        throw velky;
+    return bajty;
+}
 
 void zapis(const QString& cil, const QByteArray& obsah)
 {
+    CilZapisu::zkontroluj(cil); // what the user names as output never replaces the store
     const QString docasny = Soubory::docasny(cil, QStringLiteral("zapis"));
     zapisNovy(docasny, cil, obsah);
     try {
@@ -126,9 +171,7 @@ void kopiruj(const QString& zdroj, const QString& cil)
 {
     if (porucha("copy", cil))
         chyba(QStringLiteral("Nelze zkopírovat do"), cil);
-    const int z = ::open(QFile::encodeName(zdroj).constData(), O_RDONLY | O_CLOEXEC);
-    if (z < 0)
-        chyba(QStringLiteral("Nelze přečíst"), zdroj);
+    const int z = otevriObycejny(zdroj);
     const int c = ::open(QFile::encodeName(cil).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0644);
     if (c < 0) {
         const int e = errno;
@@ -162,7 +205,8 @@ void kopiruj(const QString& zdroj, const QString& cil)
 
 QString docasny(const QString& soubor, const QString& ucel)
 {
-    return soubor + QStringLiteral(".tmp-") + ucel + QLatin1Char('-') + QUuid::createUuid().toString(QUuid::Id128).left(12);
+    return soubor + QStringLiteral(".tmp-") + ucel + QLatin1Char('-') + Aplikace::znackaProcesu() + QLatin1Char('-') +
+           QUuid::createUuid().toString(QUuid::Id128).left(8);
 }
 
 } // namespace Soubory

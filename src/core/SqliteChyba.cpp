@@ -1,6 +1,7 @@
 #include "core/SqliteChyba.h"
 
 #include "core/Error.h"
+#include "core/ZpravaChyby.h"
 
 #include <sqlite3.h>
 
@@ -31,8 +32,12 @@ static int cisloPro(sqlite3* db, int rc, const QString& zprava)
 
 void vyhod(sqlite3* db, int rc, const QString& kontext)
 {
-    const QString zprava = db ? QString::fromUtf8(sqlite3_errmsg(db)) : QString::fromUtf8(sqlite3_errstr(rc));
-    throw Error(cisloPro(db, rc, zprava), kontext + QStringLiteral(": ") + zprava);
+    const QString zprava = db ? QString::fromUtf8(sqlite3_errmsg(db))
+                              : QString::fromUtf8(sqlite3_errstr(rc));
+    const int cislo = cisloPro(db, rc, zprava);
+    const QString soubor = db && sqlite3_db_filename(db, "main") ? QString::fromUtf8(sqlite3_db_filename(db, "main")) : QString();
+    throw Error(cislo, ZpravaChyby::text(cislo, soubor, db ? sqlite3_system_errno(db) : 0),
+                kontext + QStringLiteral(": ") + zprava);
 }
 
 void zkontroluj(sqlite3* db, int rc, const QString& kontext)

@@ -69,7 +69,7 @@ QJsonValue CteniJson::hodnota(const char* klic, bool povinny) const
     return QJsonValue(QJsonValue::Undefined);
 }
 
-QString CteniJson::text(const char* klic, bool povinny) const
+QString CteniJson::text(const char* klic, bool povinny, int nejvys, KontrolaTextu::Radky radky) const
 {
     const QJsonValue v = hodnota(klic, povinny);
     if (v.isUndefined())
@@ -79,6 +79,8 @@ QString CteniJson::text(const char* klic, bool povinny) const
     const QString t = v.toString();
     if (povinny && t.trimmed().isEmpty())
         odmitni(QStringLiteral("%1: údaj „%2“ nesmí být prázdný.").arg(m_kde, QLatin1String(klic)));
+    if (const QString spatny = KontrolaTextu::chyba(t, QLatin1String(klic), nejvys, radky); !spatny.isEmpty())
+        odmitni(m_kde + QStringLiteral(": ") + spatny);
     return t;
 }
 

@@ -3,6 +3,8 @@
 // each fault refused with a Czech message that says where it stands ("Sestava č. 2 (Skříň),
 // deska č. 3: údaj „x“ musí být číslo."). Every refusal throws Error 5 (Chyba::NeplatnyVstup);
 // nothing here writes, so a caller that reads everything first writes nothing on bad input.
+#include "core/KontrolaTextu.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -19,8 +21,9 @@ public:
     CteniJson(const QJsonValue& v, const QString& kde, std::initializer_list<const char*> klice);
 
     // Text as it stands (never trimmed, so a dump gives it back); a required one must not be
-    // blank. Missing and not required: "".
-    QString text(const char* klic, bool povinny) const;
+    // blank, and none may break the rules of KontrolaTextu. Missing and not required: "".
+    QString text(const char* klic, bool povinny, int nejvys = KontrolaTextu::Nejvys,
+                 KontrolaTextu::Radky radky = KontrolaTextu::Radky::Ne) const;
     // A finite number within od .. doHodnoty; missing and not required: vychozi.
     double cislo(const char* klic, double od, double doHodnoty, bool povinny, double vychozi = 0) const;
     // As cislo, and whole.

@@ -4,14 +4,18 @@
 #include "core/Dotaz.h"
 #include "core/Error.h"
 #include "core/Jednotky.h"
+#include "core/KontrolaTextu.h"
+#include "core/Prompt.h"
 #include "core/Razitko.h"
 #include "core/Recordset.h"
+#include "core/Soubory.h"
 #include "core/Transakce.h"
 #include "core/Val.h"
 #include "orders/Materialy.h"
 #include "orders/RadkyZakazky.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QHash>
 #include <QMap>
 #include <QRandomGenerator>
@@ -45,46 +49,61 @@ std::optional<double> cislo(const QString& pole)
     return d;
 }
 
-std::variant<std::vector<Radek>, Odmitnuti> rozeber(const QString& text)
+// One line of the list: its board, its refusal, or nothing for a blank line.
+std::variant<std::monostate, Radek, Odmitnuti> rozeberRadek(const QString& linka, int n)
 {
-    std::vector<Radek> radky;
-    static const QRegularExpression konecRadku(QStringLiteral("\r\n|\n|\r"));
+    if (linka.trimmed().isEmpty())
+        return std::monostate();
     static const QRegularExpression oddelovac(QStringLiteral("[\t;]"));
-    const QStringList linky = text.split(konecRadku);
-    for (int i = 0; i < linky.size(); ++i) {
-        if (linky[i].trimmed().isEmpty())
+    const Odmitnuti chyba{QStringLiteral("Chyba při převodu řádku č. %1").arg(n), n};
+    QStringList pole = linka.split(oddelovac);
+    for (QString& p : pole)
+        p = p.trimmed();
+    while (pole.size() > 8 && pole.last().isEmpty())
+        pole.removeLast();
+    if (pole.size() > 8)
+        return chyba;
+    while (pole.size() < 8)
+        pole << QString();
+    Radek r{n, pole[0], 0, 0, 0, {pole[4], pole[5], pole[6], pole[7]}};
+    if (const QString spatny = KontrolaTextu::chyba(r.nazev, QStringLiteral("Název desky")); !spatny.isEmpty())
+        return Odmitnuti{chyba.zprava + QStringLiteral(": ") + spatny, n};
+    // sizes in the user's unit, to millimetres
+    const auto x = cislo(pole[1]), y = cislo(pole[2]), pocet = cislo(pole[3]);
+    if (!x || !y || !pocet)
+        return chyba;
+    r.x = Jednotky::NaMilimetry(Dotaz::cislo(*x));
+    r.y = Jednotky::NaMilimetry(Dotaz::cislo(*y));
+    r.pocet = *pocet;
+    if (r.x <= 0 || r.y <= 0 || r.x > MaxHodnota || r.y > MaxHodnota || r.pocet <= 0 || r.pocet > MaxHodnota ||
+        r.pocet != std::trunc(r.pocet))
+        return chyba;
+    for (const QString& h : r.hrany) {
+        if (h.isEmpty())
             continue;
-        const Odmitnuti chyba{QStringLiteral("Chyba při převodu řádku č. %1").arg(i + 1), i + 1};
-        QStringList pole = linky[i].split(oddelovac);
-        for (QString& p : pole)
-            p = p.trimmed();
-        while (pole.size() > 8 && pole.last().isEmpty())
-            pole.removeLast();
-        if (pole.size() > 8)
+        const auto tloustka = cislo(h);
+        if (!tloustka || *tloustka < 0 || *tloustka > MaxHodnota)
             return chyba;
-        while (pole.size() < 8)
-            pole << QString();
-        Radek r{i + 1, pole[0], 0, 0, 0, {pole[4], pole[5], pole[6], pole[7]}};
-        // sizes in the user's unit, to millimetres
-        const auto x = cislo(pole[1]), y = cislo(pole[2]), pocet = cislo(pole[3]);
-        if (!x || !y || !pocet)
-            return chyba;
-        r.x = Jednotky::NaMilimetry(Dotaz::cislo(*x));
-        r.y = Jednotky::NaMilimetry(Dotaz::cislo(*y));
-        r.pocet = *pocet;
-        if (r.x <= 0 || r.y <= 0 || r.x > MaxHodnota || r.y > MaxHodnota || r.pocet <= 0 || r.pocet > MaxHodnota ||
-            r.pocet != std::trunc(r.pocet))
-            return chyba;
-        for (const QString& h : r.hrany) {
-            if (h.isEmpty())
-                continue;
-            const auto tloustka = cislo(h);
-            if (!tloustka || *tloustka < 0 || *tloustka > MaxHodnota)
-                return chyba;
-        }
-        radky.push_back(r);
     }
-    return radky;
+    return r;
+}
+
+// The lines of the text one at a time (CR LF, LF or CR), with their numbers from 1, so a list
+// of any length is never held twice.
+template <class Funkce>
+void radky(const QString& text, Funkce&& f)
+{
+    int n = 1;
+    for (qsizetype zacatek = 0; zacatek <= text.size(); ++n) {
+        qsizetype konec = zacatek;
+        while (konec < text.size() && text[konec] != QLatin1Char('\n') && text[konec] != QLatin1Char('\r'))
+            ++konec;
+        if (!f(text.mid(zacatek, konec - zacatek), n, zacatek))
+            return;
+        if (konec + 1 < text.size() && text[konec] == QLatin1Char('\r') && text[konec + 1] == QLatin1Char('\n'))
+            ++konec;
+        zacatek = konec + 1;
+    }
 }
 
 class Zapis {
@@ -184,12 +203,9 @@ namespace {
 
 QString nactiSoubor(const QString& cesta)
 {
-    QFile f(cesta);
-    if (f.size() > MaxVelikost)
+    if (QFileInfo(cesta).size() > MaxVelikost)
         velky();
-    if (!f.open(QIODevice::ReadOnly))
-        throw Error(Chyba::PristupKSouboru, QStringLiteral("Soubor %1 nelze přečíst: %2").arg(cesta, f.errorString()));
-    return dekoduj(f.read(MaxVelikost + 1));
+    return dekoduj(Soubory::nacti(cesta)); // a regular file only: a pipe or a device is refused
 }
 
 QString dekoduj(const QByteArray& obsah)
@@ -212,32 +228,60 @@ QString dekoduj(const QByteArray& obsah)
     return cp1250(obsah);
 }
 
-Vysledek importuj(Database& db, const QString& zakazka, const QString& sestava, const QString& text)
+Vysledek importuj(Database& db, const QString& zakazka, const QString& sestava, const QString& text, Prubeh* prubeh)
 {
-    auto rozebrano = rozeber(text);
-    if (auto* o = std::get_if<Odmitnuti>(&rozebrano))
-        return {0, *o};
-    const auto& radky = std::get<std::vector<Radek>>(rozebrano);
-    if (radky.empty())
-        return {};
     const Recordset format = RadkyZakazky::materialy(db, zakazka, RadkyZakazky::Pouziti::Formaty);
-    if (format.eof())
-        return {0, Odmitnuti{QStringLiteral("Doplňte materiál formátu!"), radky.front().cislo}};
-    const double idFormat = format.cislo(QStringLiteral("ID"));
+    const bool maFormat = !format.eof();
+    const double idFormat = maFormat ? format.cislo(QStringLiteral("ID")) : 0;
+
+    // A first pass only reads, so a refused line costs no writes; the second writes each
+    // board as its line is read, all in one transaction that a stop or a failure rolls back.
+    // Neither keeps more than one line.
+    Vysledek v;
+    int prvni = 0;
+    radky(text, [&](const QString& linka, int n, qsizetype) {
+        auto r = rozeberRadek(linka, n);
+        if (auto* o = std::get_if<Odmitnuti>(&r))
+            v.odmitnuti = *o;
+        else if (std::holds_alternative<Radek>(r))
+            prvni = prvni ? prvni : n;
+        return !v.odmitnuti;
+    });
+    if (v.odmitnuti)
+        return v;
+    if (prvni == 0)
+        return {};
+    if (!maFormat)
+        return {0, Odmitnuti{QStringLiteral("Doplňte materiál formátu!"), prvni}};
 
     Transakce t(db);
     Zapis zapis(db, zakazka, sestava);
     const double cas = Razitko::sekundy(Razitko::ted());
-    for (const Radek& r : radky) {
-        const QString nazev = zapis.jedinecny(r.nazev);
+    if (prubeh)
+        prubeh->zobraz();
+    radky(text, [&](const QString& linka, int n, qsizetype kde) {
+        const auto r = rozeberRadek(linka, n);
+        const Radek* radek = std::get_if<Radek>(&r);
+        if (!radek)
+            return true;
         double hrany[4] = {0, 0, 0, 0};
         for (int i = 0; i < 4; ++i)
-            if (!r.hrany[i].isEmpty() && *cislo(r.hrany[i]) > 0)
-                hrany[i] = zapis.hrana(r.hrany[i]);
-        zapis.deska(r, nazev, idFormat, hrany, cas);
-    }
+            if (!radek->hrany[i].isEmpty() && *cislo(radek->hrany[i]) > 0)
+                hrany[i] = zapis.hrana(radek->hrany[i]);
+        zapis.deska(*radek, zapis.jedinecny(radek->nazev), idFormat, hrany, cas);
+        if (++v.pridano % 500 == 0 && prubeh) {
+            prubeh->hodnota(prubeh->maximum() * double(kde) / double(text.size()));
+            if (prubeh->prerusit()) {
+                v.odmitnuti = Odmitnuti{QStringLiteral("Import byl přerušen, nic nebylo uloženo."), n};
+                return false;
+            }
+        }
+        return true;
+    });
+    if (v.odmitnuti)
+        return {0, v.odmitnuti};
     t.commit();
-    return {int(radky.size()), std::nullopt};
+    return v;
 }
 
 } // namespace Import

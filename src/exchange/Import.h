@@ -7,6 +7,7 @@
 #include <optional>
 
 class Database;
+class Prubeh;
 
 namespace Import {
 
@@ -32,6 +33,9 @@ struct Vysledek {
     int pridano = 0;
     std::optional<Odmitnuti> odmitnuti;
 };
-Vysledek importuj(Database& db, const QString& zakazka, const QString& sestava, const QString& text);
+// Reads and writes line by line, so memory stays flat; prubeh (when given) shows how far it got
+// and may stop it (a refusal then, nothing written).
+Vysledek importuj(Database& db, const QString& zakazka, const QString& sestava, const QString& text,
+                  Prubeh* prubeh = nullptr);
 
 } // namespace Import

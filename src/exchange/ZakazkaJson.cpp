@@ -151,7 +151,7 @@ Polozka ctiPrislusenstvi(const CteniJson& p, const QJsonObject& o, const std::ve
 
 Sestava ctiSestavu(const CteniJson& s, const std::vector<Material>& materialy)
 {
-    Sestava sestava{s.text("nazev", true), s.text("popis", false), s.celeCislo("pocet", 1, MaxRozmer, false, 1),
+    Sestava sestava{s.text("nazev", true), s.text("popis", false, KontrolaTextu::Nejvys, KontrolaTextu::Radky::Ano), s.celeCislo("pocet", 1, MaxRozmer, false, 1),
                     qint64(s.celeCislo("schema", 0, 1e9, false))};
     const QString kde = QStringLiteral("%1 (%2)").arg(s.kde(), sestava.nazev);
     const QJsonArray desky = s.pole("desky");
@@ -174,7 +174,7 @@ Zakazka cti(const QByteArray& json)
     if (!doc.isObject())
         odmitni(QStringLiteral("Soubor musí obsahovat jednu zakázku (objekt JSON)."));
     const CteniJson z(doc.object(), QStringLiteral("Zakázka"), {"zakazka", "poznamka", "formaty", "hrany", "sestavy"});
-    Zakazka zakazka{z.text("zakazka", true), z.text("poznamka", false)};
+    Zakazka zakazka{z.text("zakazka", true), z.text("poznamka", false, KontrolaTextu::Nejvys, KontrolaTextu::Radky::Ano)};
     if (zakazka.nazev.size() > MaxNazevZakazky)
         odmitni(QStringLiteral("Název zakázky může mít nejvýše %1 znaků.").arg(MaxNazevZakazky));
     std::set<double> idy;

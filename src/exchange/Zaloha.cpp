@@ -1,6 +1,7 @@
 #include "exchange/Zaloha.h"
 
 #include "core/Aplikace.h"
+#include "core/CilZapisu.h"
 #include "core/Database.h"
 #include "core/Error.h"
 #include "core/Prikaz.h"
@@ -115,7 +116,8 @@ QString slozka()
 
 void zalohuj(Uloziste& u, Schema::Soubor druh, const QString& cil)
 {
-    if (druh == Schema::Soubor::Data)
+    CilZapisu::zkontroluj(cil);
+    if (druh == Schema::Soubor::Data && QFile::exists(Aplikace::cesta(QStringLiteral("Data/DataZ1.db"))))
         Soubory::odstran(Aplikace::cesta(QStringLiteral("Data/DataZ1.db")));
     zkopirujDatabazi(databaze(u, druh), druh, QFileInfo(cil).absoluteFilePath());
 }
@@ -134,6 +136,10 @@ bool obnov(Uloziste& u, Schema::Soubor druh, const QString& zdroj, Prompt& promp
             return false;
         }
         Uloziste::Vyhradne sam(u);
+        // Another program's write transaction must end before the file is replaced, or its
+        // commit would go into the replaced file: SQLite's own lock, held until the swap.
+        Database zamek(zivy(druh));
+        zamek.executeSqlite(QStringLiteral("BEGIN IMMEDIATE"));
         zkopirujDatabazi(databaze(u, druh), druh, bezpecnostniKopie(druh));
         u.zavriData();
         try {
@@ -168,10 +174,13 @@ Zprava zpravaZalohy(const Error& e)
     switch (e.cislo()) {
     case Chyba::Zruseno:
         return {};
+    case Chyba::NeplatnyVstup:
+        return {e.text(), QStringLiteral("Chyba zápisu")};
     case Chyba::DiskPlny:
         return {QStringLiteral("Na disku není dostatek místa!!!"), QStringLiteral("Chyba zápisu")};
-    case Chyba::JenProCteni:
-        return {QStringLiteral("Disk je chráněn proti zápisu!!!"), QStringLiteral("Chyba zápisu")};
+    case Chyba::JenProCteni: // the store's own folder write-protected, or the disk of the backup
+        return {e.text().startsWith(QStringLiteral("Složka s daty")) ? e.text() : QStringLiteral("Disk je chráněn proti zápisu!!!"),
+                QStringLiteral("Chyba zápisu")};
     case Chyba::DatabazePouzivana:
         return {Pouzivana + QStringLiteral("\rUkončete toto používání!!!"), QStringLiteral("Chyba při zápisu")};
     default:
@@ -185,6 +194,8 @@ Zprava zpravaObnovy(const Error& e, Schema::Soubor druh)
     switch (e.cislo()) {
     case Chyba::Zruseno:
         return {};
+    case Chyba::NeplatnyVstup:
+        return {e.text(), QStringLiteral("Chybný soubor")};
     case Chyba::TabulkaChybi:
         return {druh == Schema::Soubor::Data ? QStringLiteral(" Vybraný soubor neobsahuje platná data ")
                                              : QStringLiteral(" Vybraný soubor neobsahuje platná data pro tento program"),
@@ -193,7 +204,7 @@ Zprava zpravaObnovy(const Error& e, Schema::Soubor druh)
         return {Pouzivana + QStringLiteral("\rAž ukončíte toto používání budete moci data obnovit !!!"),
                 QStringLiteral("Chyba při zápisu")};
     case Chyba::PristupKSouboru:
-        if (e.text() == QLatin1String("Porucha databáze - restartujte PC!"))
+        if (e.text() == QStringLiteral("Porucha databáze - restartujte PC!"))
             return {e.text(), QStringLiteral("Chyba při zápisu"), true};
         break;
     case Chyba::DiskPlny:

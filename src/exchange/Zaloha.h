@@ -24,12 +24,14 @@ QString navrh(Schema::Soubor druh, const QDate& den); // "BData5_3_2026.bvk", "C
 QString filtr(Schema::Soubor druh);                   // "Databáze programu Truhlář (*.bvk)"
 QString slozka();                                     // "Zálohy dat" of the application folder
 
-// Writes a backup into cil, replacing it. The store stays open. Throws Error (3799, 3051, 75).
+// Writes a backup into cil, replacing it. The store stays open. Throws Error 5 (cil lies in
+// Data/), 3799, 3051, 75.
 void zalohuj(Uloziste& u, Schema::Soubor druh, const QString& cil);
 
 // Restores from zdroj: checks it, asks "Opravdu chcete nynější data nahradit za …" through the
 // prompt, and replaces the live file. Returns false when the answer was No (nothing changed).
-// Throws Error 3078 (not a valid file), 3356 (the store is held by another process), 3799,
+// Throws Error 5 (no regular file), 3078 (not a valid file), 3356 (the store is held by another
+// process or program), 3799,
 // 3051 (nothing changed), 75 (no good copy of the data opens: the program must end).
 bool obnov(Uloziste& u, Schema::Soubor druh, const QString& zdroj, Prompt& prompt);
 

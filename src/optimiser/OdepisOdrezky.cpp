@@ -5,6 +5,7 @@
 #include "core/Nastaveni.h"
 #include "core/Prompt.h"
 #include "core/Recordset.h"
+#include "core/Transakce.h"
 
 namespace {
 
@@ -64,6 +65,7 @@ bool OdepisOdrezky(Database& dataS, Database& dataK, Prompt& prompt, const QStri
                                    : QStringLiteral("Chcete připsat nově vzniklé odřezky do skladu odřezků?");
     if (prompt.zprava(otazka, QString(), Prompt::Ikona::Otaznik, Prompt::Tlacitka::AnoNe) != Prompt::Odpoved::Ano)
         return false;
+    Transakce t(dataS); // a failure half way must not leave some offcuts booked and others not
     if (odrezky) {
         // X here is in tenths, so X*10 never equals the format in mm times 10: every sheet
         // comes through, and a full sheet goes out only if the store holds one of its size
@@ -79,5 +81,6 @@ bool OdepisOdrezky(Database& dataS, Database& dataK, Prompt& prompt, const QStri
                                 QStringLiteral(" and YZP >=") + c(yz * 10));
          !z.eof(); z.moveNext())
         pripis(dataS, material, z.cislo(QStringLiteral("XZP")), z.cislo(QStringLiteral("YZP")));
+    t.commit();
     return true;
 }

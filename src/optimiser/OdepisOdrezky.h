@@ -2,7 +2,7 @@
 // The plan booked against the offcut store: the offcut sheets it used go out of SkladOdrezku
 // (when offcuts were offered, setting POdrezky), and every remnant that reaches XZ by YZ goes
 // in, one more piece of a row of the same material and size or a new row. Reads the working
-// tables of the plan run in DataK; each row is written at once. Pressing twice books twice.
+// tables of the plan run in DataK; all of it is one transaction. Pressing twice books twice.
 #include <QString>
 
 class Database;

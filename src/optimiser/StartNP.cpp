@@ -1,5 +1,6 @@
 #include "optimiser/StartNP.h"
 
+#include "core/ZpravaChyby.h"
 #include "orders/RadkyZakazky.h"
 
 namespace StartNP {
@@ -11,9 +12,7 @@ int pocetVariant(Database& dataS, const QString& zakazka, double idFormatu)
 
 Error chybaPracovniDatabaze(const Error& e)
 {
-    if (e.cislo() == Chyba::PristupKSouboru)
-        return Error(e.cislo(), QStringLiteral("Porucha databáze - restartujte PC!"));
-    return Error(e.cislo(), QStringLiteral("Databáze programu je používána jiným programem!\rUkončete toto používání!!!"));
+    return Error(e.cislo(), ZpravaChyby::pracovniDatabaze(e), e.podrobnosti());
 }
 
 } // namespace StartNP

@@ -14,7 +14,8 @@ namespace StartNP {
 int pocetVariant(Database& dataS, const QString& zakazka, double idFormatu);
 
 // The error of a failed run with the message the joiner sees: "Porucha databáze - restartujte
-// PC!" for a file fault (75), else the message of a store held by another program.
+// PC!" for a file fault (75), the store held by another program (3356), else the failure's own
+// Czech message (a full disk is no program holding the store).
 Error chybaPracovniDatabaze(const Error& e);
 
 } // namespace StartNP

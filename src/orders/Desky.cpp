@@ -1,6 +1,7 @@
 #include "orders/Desky.h"
 
 #include "core/Database.h"
+#include "core/KontrolaTextu.h"
 #include "core/Jednotky.h"
 #include "core/Prompt.h"
 #include "core/Razitko.h"
@@ -94,6 +95,8 @@ Deska nacti(Database& db, const QString& zakazka, const QString& sestava, const 
 
 QString UlozitNovyPM(Database& db, Prompt& p, const QString& zakazka, const QString& sestava, const Deska& d)
 {
+    if (!KontrolaTextu::prijmi(p, {{d.oznaceni, QStringLiteral("Označení desky")}}))
+        return QString();
     const QString nazev = nazevNoveDesky(db, zakazka, sestava, d.oznaceni);
     if (duplicita(db, p, zakazka, sestava, nazev))
         return QString(); // refused before the transaction: no lock is held while the message stands
@@ -109,6 +112,8 @@ QString UlozitNovyPM(Database& db, Prompt& p, const QString& zakazka, const QStr
 QString UlozitUpravuPM(Database& db, Prompt& p, const QString& zakazka, const QString& sestava, const QString& staryNazev,
                        const Deska& d)
 {
+    if (!KontrolaTextu::prijmi(p, {{d.oznaceni, QStringLiteral("Označení desky")}}))
+        return QString();
     const QString nazev = nazevNoveDesky(db, zakazka, sestava, d.oznaceni);
     if (nazev != staryNazev && duplicita(db, p, zakazka, sestava, nazev))
         return QString();

@@ -1,6 +1,7 @@
 #include "orders/Kopirovani.h"
 
 #include "core/Database.h"
+#include "core/KontrolaTextu.h"
 #include "core/Error.h"
 #include "core/Prompt.h"
 #include "core/Razitko.h"
@@ -83,6 +84,7 @@ void kopirujZakazku(Database& db, const QString& zakazka, const QString& novy)
 {
     if (novy.isEmpty())
         odmitni(QStringLiteral("Zadejte název zakázky."));
+    KontrolaTextu::zkontroluj(novy, QStringLiteral("Název zakázky"), KontrolaTextu::NazevZakazky);
     kontrolaZakazky(db, zakazka, novy);
     Transakce t(db);
     const double datum = Razitko::den(Razitko::ted());
@@ -101,6 +103,7 @@ void kopirujSestavu(Database& db, const QString& zakazka, const QString& sestava
 {
     if (novy.isEmpty())
         odmitni(QStringLiteral("Zadejte název sestavy."));
+    KontrolaTextu::zkontroluj(novy, QStringLiteral("Název sestavy"));
     kontrolaSestavy(db, zakazka, sestava, novy);
     Transakce t(db);
     Recordset radky = RadkyZakazky::radkySestavy(db, zakazka, sestava, QStringLiteral("Sestava"));

@@ -1,6 +1,7 @@
 #include "orders/Prislusenstvi.h"
 
 #include "core/Database.h"
+#include "core/KontrolaTextu.h"
 #include "core/Error.h"
 #include "core/Jednotky.h"
 #include "core/Nastaveni.h"
@@ -46,6 +47,9 @@ std::optional<Polozka> platne(Prompt& p, const Zadani& z)
         odmitni(p, QStringLiteral("Název nového příslušenstvi smí obsahovat maximálně 100 znaků!!!"), Prompt::Ikona::Kriticka);
         return std::nullopt;
     }
+    if (!KontrolaTextu::prijmi(p, {{z.oznaceni, QStringLiteral("Název příslušenství"), KontrolaTextu::NazevMaterialu},
+                                   {z.jednotka, QStringLiteral("Jednotka")}}))
+        return std::nullopt;
     if (z.oznaceni.trimmed().isEmpty()) {
         odmitni(p, QStringLiteral("Zadejte název příslušenství."));
         return std::nullopt;

@@ -1,6 +1,7 @@
 #include "orders/Zakazky.h"
 
 #include "core/Database.h"
+#include "core/KontrolaTextu.h"
 #include "core/Prompt.h"
 #include "core/Razitko.h"
 #include "core/Recordset.h"
@@ -34,8 +35,26 @@ void naHlavickuZakazky(Recordset& rs)
 
 } // namespace
 
+namespace {
+
+bool platnaZakazka(Prompt& p, const QString& nazev, const QString& poznamka)
+{
+    return KontrolaTextu::prijmi(p, {{nazev, QStringLiteral("Název zakázky"), KontrolaTextu::NazevZakazky},
+                                     {poznamka, QStringLiteral("Poznámka"), KontrolaTextu::Nejvys, KontrolaTextu::Radky::Ano}});
+}
+
+bool platnaSestava(Prompt& p, const Sestava& s)
+{
+    return KontrolaTextu::prijmi(p, {{s.nazev, QStringLiteral("Název sestavy")},
+                                     {s.popis, QStringLiteral("Popis"), KontrolaTextu::Nejvys, KontrolaTextu::Radky::Ano}});
+}
+
+} // namespace
+
 bool UlozitNovouZakazku(Database& db, Prompt& p, const QString& nazev, const QString& poznamka)
 {
+    if (!platnaZakazka(p, nazev, poznamka))
+        return false;
     if (RadkyZakazky::existuje(db, nazev)) {
         p.zprava(QStringLiteral("Zakazka pod tímhle názvem již existuje, zadejte jiný nazev !!!"),
                  QStringLiteral("Špatné zadání názvu zakázky"), Prompt::Ikona::Kriticka);
@@ -54,6 +73,8 @@ bool UlozitNovouZakazku(Database& db, Prompt& p, const QString& nazev, const QSt
 
 bool UlozitUpravuZakazky(Database& db, Prompt& p, const QString& stary, const QString& nazev, const QString& poznamka)
 {
+    if (!platnaZakazka(p, nazev, poznamka))
+        return false;
     if (nazev != stary && RadkyZakazky::existuje(db, nazev)) {
         p.zprava(QStringLiteral("Zakazka pod tímhle názvem již existuje, zadejte jiný nazev !!!"),
                  QStringLiteral("Špatné zadání názvu zakázky"), Prompt::Ikona::Kriticka);
@@ -101,6 +122,8 @@ Sestava nactiSestavu(Database& db, const QString& zakazka, const QString& nazev)
 
 bool UlozitNovouSestavu(Database& db, Prompt& p, const QString& zakazka, const Sestava& s)
 {
+    if (!platnaSestava(p, s))
+        return false;
     if (RadkyZakazky::existujeSestava(db, zakazka, s.nazev)) {
         p.zprava(QStringLiteral("Sestava pod tímhle názvem již existuje, zadejte jiný nazev !!!"), QString(),
                  Prompt::Ikona::Kriticka);
@@ -127,6 +150,8 @@ bool UlozitNovouSestavu(Database& db, Prompt& p, const QString& zakazka, const S
 
 bool UlozitUpravuSestavy(Database& db, Prompt& p, const QString& zakazka, const QString& stary, const Sestava& s)
 {
+    if (!platnaSestava(p, s))
+        return false;
     if (s.nazev != stary && RadkyZakazky::existujeSestava(db, zakazka, s.nazev)) {
         p.zprava(QStringLiteral("Sestava pod tímhle názvem již existuje, zadejte jiný nazev !!!"), QString(),
                  Prompt::Ikona::Kriticka);

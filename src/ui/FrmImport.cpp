@@ -9,6 +9,8 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPlainTextEdit>
+#include <QProgressDialog>
+#include <QCoreApplication>
 #include <QPushButton>
 #include <QTextBlock>
 #include <QVBoxLayout>
@@ -57,10 +59,37 @@ FrmImport::FrmImport(Database& db, Prompt& prompt, const QString& zakazka, const
 
 void FrmImport::otevriSoubor(const QString& soubor) { m_text1->setPlainText(Import::nactiSoubor(soubor)); }
 
+namespace {
+
+// A long list shows how far the import got, and Storno stops it with nothing written.
+class PrubehImportu : public Prubeh {
+public:
+    explicit PrubehImportu(QWidget* rodic)
+        : m_okno(QStringLiteral("Import desek..."), QStringLiteral("Storno"), 0, 100, rodic)
+    {
+        m_okno.setWindowModality(Qt::WindowModal);
+        m_okno.setMinimumDuration(500);
+        m_okno.setAutoReset(false);
+    }
+    void popisek(const QString& text) override { m_okno.setLabelText(text); }
+    void hodnota(double hodnota) override { m_okno.setValue(int(hodnota)); }
+    bool prerusit() override
+    {
+        QCoreApplication::processEvents();
+        return m_okno.wasCanceled();
+    }
+
+private:
+    QProgressDialog m_okno;
+};
+
+} // namespace
+
 bool FrmImport::importuj()
 {
     try {
-        const Import::Vysledek v = Import::importuj(m_db, m_zakazka, m_sestava, m_text1->toPlainText());
+        PrubehImportu prubeh(this);
+        const Import::Vysledek v = Import::importuj(m_db, m_zakazka, m_sestava, m_text1->toPlainText(), &prubeh);
         if (v.odmitnuti) {
             m_prompt.zprava(v.odmitnuti->zprava, QStringLiteral("Import"), Prompt::Ikona::Kriticka);
             const QTextBlock radek = m_text1->document()->findBlockByNumber(std::max(v.odmitnuti->radek - 1, 0));

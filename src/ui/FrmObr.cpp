@@ -2,6 +2,7 @@
 
 #include "core/Error.h"
 #include "core/Prompt.h"
+#include "core/Soubory.h"
 #include "printing/Obrazky.h"
 
 #include <QApplication>
@@ -131,10 +132,7 @@ void FrmObr::pridej()
     try {
         const QString soubor = m_prompt.soubor(false, QStringLiteral("Vyberte obrázek"), QString(), QString(),
                                                QStringLiteral("Soubory obrázků  (*.jpg *.jpeg *.png *.bmp *.gif *.wmf)"));
-        QFile f(soubor);
-        if (!f.open(QIODevice::ReadOnly))
-            throw Error(Chyba::PristupKSouboru, QStringLiteral("Soubor %1 nelze přečíst.").arg(soubor));
-        const QByteArray bajty = f.readAll();
+        const QByteArray bajty = Soubory::nacti(soubor);
         const QImage nahled = Obrazky::dekoduj(bajty);
         if (!nahled.isNull())
             m_Image1->setPixmap(QPixmap::fromImage(Obrazky::vepsany(nahled, m_Image1->contentsRect().size())));

@@ -1,5 +1,6 @@
 #include "ui/QtPrompt.h"
 
+#include "core/CilZapisu.h"
 #include "core/Error.h"
 #include "printing/Operace.h"
 
@@ -58,13 +59,18 @@ QString QtPrompt::vstup(const QString& text, const QString& titulek, const QStri
 QString QtPrompt::soubor(bool ulozit, const QString& titulek, const QString& slozka, const QString& navrh,
                          const QString& filtr)
 {
-    const QString start = navrh.isEmpty() ? slozka : QDir(slozka).filePath(navrh);
-    const QString vybrany = ulozit ? QFileDialog::getSaveFileName(m_rodic, titulek, start, filtr, nullptr,
-                                                                  QFileDialog::DontConfirmOverwrite)
-                                   : QFileDialog::getOpenFileName(m_rodic, titulek, start, filtr);
-    if (vybrany.isEmpty())
-        throw Error(Chyba::Zruseno, QStringLiteral("Zrušeno"));
-    return vybrany;
+    QString start = navrh.isEmpty() ? slozka : QDir(slozka).filePath(navrh);
+    for (;;) {
+        const QString vybrany = ulozit ? QFileDialog::getSaveFileName(m_rodic, titulek, start, filtr, nullptr,
+                                                                      QFileDialog::DontConfirmOverwrite)
+                                       : QFileDialog::getOpenFileName(m_rodic, titulek, start, filtr);
+        if (vybrany.isEmpty())
+            throw Error(Chyba::Zruseno, QStringLiteral("Zrušeno"));
+        if (!ulozit || !CilZapisu::jeVDatech(vybrany))
+            return vybrany;
+        zprava(CilZapisu::zprava(vybrany), QStringLiteral("Chyba zápisu"), Ikona::Vykricnik, Tlacitka::Ok);
+        start = QDir(slozka).filePath(navrh);
+    }
 }
 
 quint32 QtPrompt::barva(quint32 bgr, const QString& titulek)

@@ -170,17 +170,33 @@ TEST_F(Uloziste_, PracovniKopieMaDataAZbytekPoPaduZmizi)
     EXPECT_EQ(materialy(u.dataS(), QStringLiteral("SkladOdrezku")), QStringList({"A"}));
     u.ObnovPracovniDatabazi(); // remade: the copy's own row is gone
     EXPECT_EQ(materialy(u.dataK(), QStringLiteral("SkladOdrezku")), QStringList({"A"}));
-    zavri();
 
-    // A crash leaves DataK.db with a journal and one of our temporary files behind.
-    for (const char* s : {"Data/DataK.db-journal", "Data/DataS.db.tmp-zaloha"}) {
-        QFile f(Aplikace::cesta(QString::fromLatin1(s)));
+    // Files of another process on the same folder, and of one that crashed: while anyone holds
+    // the store, a start removes nothing, so a live process never loses its plan copy.
+    const QStringList ciziSoubory = {QStringLiteral("Data/DataK-p99-beef.db"), QStringLiteral("Data/DataK-p99-beef.db-journal"),
+                                     QStringLiteral("Data/DataK.db"), QStringLiteral("Data/DataS.db.tmp-zaloha-p99-beef-1234")};
+    for (const QString& s : ciziSoubory) {
+        QFile f(Aplikace::cesta(s));
         ASSERT_TRUE(f.open(QIODevice::WriteOnly));
     }
+    {
+        Uloziste druhy(false);
+        EXPECT_TRUE(QFile::exists(Aplikace::dataK()));
+        for (const QString& s : ciziSoubory)
+            EXPECT_TRUE(QFile::exists(Aplikace::cesta(s))) << s.toStdString();
+        EXPECT_EQ(materialy(u.dataK(), QStringLiteral("SkladOdrezku")), QStringList({"A"}));
+    }
+    EXPECT_TRUE(Aplikace::dataK().contains(Aplikace::znackaProcesu()));
+    zavri();
+    EXPECT_FALSE(QFile::exists(Aplikace::dataK())); // a process takes its own plan copy with it
+    for (const QString& s : ciziSoubory)
+        EXPECT_TRUE(QFile::exists(Aplikace::cesta(s))) << s.toStdString();
+
+    // the next start with the store to itself clears them all away
     Uloziste znovu(false);
     EXPECT_FALSE(QFile::exists(Aplikace::dataK()));
-    EXPECT_FALSE(QFile::exists(Aplikace::dataK() + QStringLiteral("-journal")));
-    EXPECT_FALSE(QFile::exists(Aplikace::cesta(QStringLiteral("Data/DataS.db.tmp-zaloha"))));
+    for (const QString& s : ciziSoubory)
+        EXPECT_FALSE(QFile::exists(Aplikace::cesta(s))) << s.toStdString();
     EXPECT_EQ(materialy(znovu.dataS(), QStringLiteral("SkladOdrezku")), QStringList({"A"}));
 }
 
@@ -194,6 +210,12 @@ TEST_F(Uloziste_, DrzeneUlozisteHlasi3356)
     EXPECT_EQ(cisloChyby([&] { Uloziste u(false); }), Chyba::DatabazePouzivana);
     ::close(fd);
     EXPECT_EQ(cisloChyby([&] { Uloziste u(false); }), 0);
+
+    // a restore that cannot have the store alone keeps its shared hold, so a second one cannot
+    // take it away from under the first
+    Uloziste prvni(false), druhy(false);
+    EXPECT_EQ(cisloChyby([&] { Uloziste::Vyhradne v(prvni); }), Chyba::DatabazePouzivana);
+    EXPECT_EQ(cisloChyby([&] { Uloziste::Vyhradne v(druhy); }), Chyba::DatabazePouzivana);
 }
 
 TEST_F(Uloziste_, SouborBezIndexuHoDostanePriOtevreni)

@@ -3,6 +3,7 @@
 #include "DomovTest.h"
 #include "core/Error.h"
 #include "core/Nastaveni.h"
+#include "core/Prompt.h"
 #include "core/Recordset.h"
 #include "exchange/Import.h"
 #include "exchange/ZakazkaJson.h"
@@ -143,4 +144,38 @@ TEST_F(ImportTest, NahodneZmenyImportujiVseNeboNic)
             ASSERT_EQ(desek() - pred, v.pridano) << text.toStdString();
         }
     }
+}
+
+TEST_F(ImportTest, DlouhySeznamUkazujePrubehAStornoNeulozNic)
+{
+    // counts the reports and asks to stop at the given one (0: never)
+    class Pocitadlo : public Prubeh {
+    public:
+        explicit Pocitadlo(int stop) : m_stop(stop) {}
+        void popisek(const QString&) override {}
+        void hodnota(double h) override
+        {
+            EXPECT_GE(h, m_posledni);
+            EXPECT_LE(h, maximum());
+            m_posledni = h;
+        }
+        bool prerusit() override { return ++m_dotazu == m_stop; }
+        int m_stop, m_dotazu = 0;
+        double m_posledni = 0;
+    };
+    QString seznam;
+    for (int i = 0; i < 3000; ++i)
+        seznam += QStringLiteral("díl;%1;300;1\r\n").arg(100 + i % 500);
+    const int pred = radku();
+    Pocitadlo storno(3);
+    const Import::Vysledek v = Import::importuj(db(), QStringLiteral("Z"), QStringLiteral("S"), seznam, &storno);
+    ASSERT_TRUE(v.odmitnuti);
+    EXPECT_EQ(v.odmitnuti->zprava, QStringLiteral("Import byl přerušen, nic nebylo uloženo."));
+    EXPECT_EQ(radku(), pred);
+
+    Pocitadlo az(0);
+    EXPECT_EQ(Import::importuj(db(), QStringLiteral("Z"), QStringLiteral("S"), seznam, &az).pridano, 3000);
+    EXPECT_EQ(az.m_dotazu, 6);
+    EXPECT_GT(az.m_posledni, 90);
+    EXPECT_EQ(desek(), 3000);
 }
