@@ -165,7 +165,7 @@ bool Umisteni::sloucitKoncoveZbytky()
     // "SELECT * FROM SoupisDesek WHERE ID = False  and OTOC = False and y <= {celkemY} and x <=
     // {XZP} ORDER BY y DESC, x DESC;": whether any board fits the block
     const double vyska = Dotaz::jakoVDotazu(celkemY), sirka = Dotaz::jakoVDotazu(B.XZP);
-    if (prvni([&](const DeskaNP& d) { return !d.OTOC && d.y <= vyska && d.x <= sirka; }, [](auto&, auto&) { return false; }) < 0)
+    if (!existuje([&](const DeskaNP& d) { return !d.OTOC && d.y <= vyska && d.x <= sirka; }))
         return false; // plocha and celkemY stay as they are
     double sp = B.YDP, h = B.YZP;
     double t = h, w = B.XZP;

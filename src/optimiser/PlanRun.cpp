@@ -80,9 +80,16 @@ bool PlanRun::SpustNP(const QString& zakazka, double idFormatu, ZpusobNP zpusob,
     if (vydej(true))
         return false;
     PrecislujTabule();
+    zapisTabulky();
+    return true;
+}
+
+void PlanRun::zapisTabulky()
+{
+    if (!m_zapsat)
+        return;
     m_uloziste.ObnovPracovniDatabazi();
     m_t.zapis(m_uloziste.dataK());
-    return true;
 }
 
 bool PlanRun::vydej(bool hned)

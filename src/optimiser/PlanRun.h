@@ -42,6 +42,9 @@ public:
     // Throws Error from the store (75, 3356, 3799 when DataK cannot be made or written).
     bool SpustNP(const QString& zakazka, double idFormatu, ZpusobNP zpusob, int volba = 0);
 
+    // A run whose plan is only read from tabulky(): the working tables are not written to DataK.
+    void bezZapisu() { m_zapsat = false; }
+
     // The search budget of "úsporně" in seconds, over the setting CasUsporne (the command line's --cas).
     void casUsporne(double sekund) { m_casUsporne = sekund; }
     double sekundHledani() const { return m_sekundHledani; } // of the last "úsporně" search itself
@@ -68,6 +71,7 @@ private:
     void ridic();              // the driver of the mode: one placement per sheet
     bool usporne();            // the rest of a run of "úsporně": a stop keeps the best plan found
     void PrecislujTabule();
+    void zapisTabulky();       // the finished tables into a fresh DataK, unless bezZapisu()
     void varujNeusazene();     // the warning of boards left out, said once
     // A turn for the event loop; true when the run is to stop. Inside the trial's loops the turn
     // comes at most every few milliseconds (hned false), at the steps of the run always.
@@ -90,6 +94,7 @@ private:
     bool m_smycka = false;
     int m_slouceni = 0;
     QElapsedTimer m_odVydeje;
+    bool m_zapsat = true;
     std::optional<double> m_casUsporne;
     double m_sekundHledani = 0;
 

@@ -122,9 +122,9 @@ bool Umisteni::otevri(Volani& v, int smer, int& kand, int& otoc)
     auto skore = [&](const DeskaNP& d) {
         return plocha(d, false) != 0 || plocha(d, true) != 0 || (smer == 1 && (suma(d, false) != 0 || suma(d, true) != 0));
     };
-    const int pripad = prvni([&](const DeskaNP& d) { return d.PVT && d.PD && skore(d); }, [](auto&, auto&) { return false; }) >= 0 ? 0
-                       : prvni([&](const DeskaNP& d) { return d.PVT && skore(d); }, [](auto&, auto&) { return false; }) >= 0 ? 1
-                                                                                                                            : 2;
+    const int pripad = existuje([&](const DeskaNP& d) { return d.PVT && d.PD && skore(d); }) ? 0
+                       : existuje([&](const DeskaNP& d) { return d.PVT && skore(d); })      ? 1
+                                                                                            : 2;
     for (bool o : {false, true}) {
         auto podleSumy = [&](const DeskaNP& p, const DeskaNP& q) { return suma(p, o) < suma(q, o); };
         // c: ORDER by the area, then across the strip's axes as the mode sorts: rows y, x; columns x, y

@@ -10,6 +10,8 @@
 // the query text would carry them (15 significant digits).
 #include "optimiser/PlanRun.h"
 
+#include <algorithm>
+
 class Umisteni {
 public:
     explicit Umisteni(PlanRun& run);
@@ -34,6 +36,8 @@ private:
     int najdiSchod(int smer, bool otoceno) const;      // Dotazy::Schod, Dotazy::SchodOtoc
     template <typename Pasuje, typename Pred>
     int prvni(Pasuje pasuje, Pred pred) const;
+    template <typename Pasuje>
+    bool existuje(Pasuje pasuje) const; // a query that is only asked whether it has a row
 
     void poloz(Volani& v, Druh druh, int smer, int deska, bool otoceno);
     bool otevri(Volani& v, int smer, int& kand, int& otoc);
@@ -72,4 +76,10 @@ inline int Umisteni::prvni(Pasuje pasuje, Pred pred) const
         if (pasuje(desky[i]) && (nejlepsi < 0 || pred(desky[i], desky[nejlepsi])))
             nejlepsi = i;
     return nejlepsi;
+}
+
+template <typename Pasuje>
+inline bool Umisteni::existuje(Pasuje pasuje) const
+{
+    return std::any_of(r.m_neusazene.begin(), r.m_neusazene.end(), [&](int i) { return pasuje(desky[i]); });
 }

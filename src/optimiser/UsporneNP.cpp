@@ -56,6 +56,7 @@ std::vector<Usporne::Plan> planyPopsanychZpusobu(Uloziste& u, Prubeh& prubeh, co
     TichyPrompt tichy;
     for (ZpusobNP zpusob : {ZpusobNP::Kombinovane, ZpusobNP::PodelneRezy, ZpusobNP::PricneRezy}) {
         PlanRun run(u, tichy, prubeh);
+        run.bezZapisu(); // only its tables in memory are read
         if (!run.SpustNP(zakazka, idFormatu, zpusob))
             break;
         const PracovniTabulky& t = run.tabulky();
@@ -145,7 +146,6 @@ bool PlanRun::usporne()
     if (!plan.neusazene.empty())
         varujNeusazene();
     PrecislujTabule();
-    m_uloziste.ObnovPracovniDatabazi();
-    m_t.zapis(m_uloziste.dataK());
+    zapisTabulky();
     return true;
 }

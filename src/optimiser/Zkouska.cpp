@@ -145,7 +145,7 @@ void Zkouska::zkus(int smer, int deska, bool otoceno)
     const Klic klic{smer, otoceno, s.VZbytkuRadyKZ, d.typ, std::move(odlisne)};
     auto it = m_zkousky.find(klic);
     if (it == m_zkousky.end())
-        it = m_zkousky.emplace(klic, proved(smer, deska, otoceno)).first;
+        it = m_zkousky.emplace(klic, proved(smer, deska)).first;
     const Vysledek v = it->second;
     if (r.m_formatOV)
         HodnotTabuli(smer, otoceno, x, y, v);
@@ -155,7 +155,7 @@ void Zkouska::zkus(int smer, int deska, bool otoceno)
 }
 
 // The trial itself: the candidate opens the row, the rest of the row and its strips follow.
-Zkouska::Vysledek Zkouska::proved(int smer, int deska, bool otoceno)
+Zkouska::Vysledek Zkouska::proved(int smer, int deska)
 {
     const int a = smer, b = 1 - smer;
     const double k = s.SrezNP;
@@ -174,8 +174,7 @@ Zkouska::Vysledek Zkouska::proved(int smer, int deska, bool otoceno)
     s.ZbyvaKZ[a] -= R[a] + k;
     s.ZbyvaKZ[b] = R[b];
     s.RadaRozpracovanaKZ = 1;
-    UsazeniKZ(smer);
-    (void)otoceno; // the candidate's own OTOC was set before the test of fit
+    UsazeniKZ(smer); // the candidate lies as PosledniX, PosledniY; a turned one's OTOC was set before the test of fit
     return vysledek();
 }
 

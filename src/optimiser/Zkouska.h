@@ -59,7 +59,7 @@ private:
     void seskup();
     void pruchod(int smer);
     void zkus(int smer, int deska, bool otoceno);
-    Vysledek proved(int smer, int deska, bool otoceno);
+    Vysledek proved(int smer, int deska);
     void UsazeniKZ(int smer);
     void oznacKZ(int deska, bool otoceno);
     std::array<int, 8> najdi(int smer) const;
