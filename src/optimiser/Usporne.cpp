@@ -547,7 +547,12 @@ void Hledani::vyprazdni(Plan& plan, std::int64_t limit)
         const int kolik = std::min(zive - 1, 1 + int(3 * nahodne()));
         std::vector<int> partneri;
         while (int(partneri.size()) < kolik) {
-            const int b = plne[size_t(nahodne() * plne.size()) % plne.size()];
+            // the less full of two sheets drawn: there is room to gain, and on a large order a
+            // partner drawn evenly is nearly always one of the many already tightly filled
+            int b = plne[size_t(nahodne() * double(plne.size())) % plne.size()];
+            const int c = plne[size_t(nahodne() * double(plne.size())) % plne.size()];
+            if (c != a && !smazana[c] && plochy[c] < plochy[b])
+                b = c;
             if (b != a && !smazana[b] && std::find(partneri.begin(), partneri.end(), b) == partneri.end())
                 partneri.push_back(b);
         }
