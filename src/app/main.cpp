@@ -40,9 +40,9 @@ int main(int argc, char** argv)
     Aplikace::nastavDomov(argumenty.value(QStringLiteral("home")));
     // A double click on an order file names it; the first start of an installed program brings
     // the demo order, so that a new joiner has something to try the manual's steps on.
-    const QString soubor = !argumenty.positionalArguments().isEmpty() ? argumenty.positionalArguments().first()
-                           : Aplikace::existuje()                      ? QString()
-                                                                       : ukazkovaZakazka();
+    QString soubor = argumenty.positionalArguments().value(0);
+    if (soubor.isEmpty() && !Aplikace::existuje())
+        soubor = ukazkovaZakazka();
 
     QPixmap obrazek = Ikony::proKlic("NP").pixmap(96, 96);
     QSplashScreen splash(obrazek);

@@ -7,9 +7,7 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
-FrmNapoveda::FrmNapoveda(QWidget* rodic)
-    : QWidget(rodic, Qt::Window)
-    , m_prohlizec(new QTextBrowser(this))
+FrmNapoveda::FrmNapoveda(QWidget* rodic) : QWidget(rodic, Qt::Window), m_prohlizec(new QTextBrowser(this))
 {
     setObjectName(QStringLiteral("frmNapoveda"));
     setWindowTitle(QStringLiteral("Nápověda"));

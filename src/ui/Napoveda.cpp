@@ -10,7 +10,7 @@ namespace Napoveda {
 namespace {
 
 // Windows and frmNovy's frames by object name, and their pages.
-const std::pair<const char*, const char*> strankyOken[] = {
+const std::vector<std::pair<const char*, const char*>> g_strankyOken = {
     {"frmBorovak", "index.html"},
     {"frmNapoveda", "index.html"},
     {"fraZakázka", "zakazka.html"},
@@ -58,13 +58,15 @@ protected:
 
 QString slozka() { return QStringLiteral("qrc:/napoveda"); }
 
+const std::vector<std::pair<const char*, const char*>>& strankyOken() { return g_strankyOken; }
+
 QString stranka(const QWidget* okno)
 {
     const QWidget* w = okno->window();
-    for (const auto& [nazev, soubor] : strankyOken)
+    for (const auto& [nazev, soubor] : g_strankyOken)
         if (w->objectName() == QString::fromUtf8(nazev))
             return QLatin1String(soubor);
-    for (const auto& [nazev, soubor] : strankyOken) {
+    for (const auto& [nazev, soubor] : g_strankyOken) {
         const QWidget* ramec = w->findChild<QWidget*>(QString::fromUtf8(nazev));
         if (ramec && ramec->isVisibleTo(w))
             return QLatin1String(soubor);
@@ -87,9 +89,6 @@ FrmNapoveda* otevri(QWidget* okno, const QString& stranka)
     return napoveda;
 }
 
-void zapniKlavesu(QObject* vlastnik)
-{
-    qApp->installEventFilter(new KlavesaNapovedy(vlastnik));
-}
+void zapniKlavesu(QObject* vlastnik) { qApp->installEventFilter(new KlavesaNapovedy(vlastnik)); }
 
-}
+} // namespace Napoveda

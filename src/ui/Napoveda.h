@@ -3,6 +3,8 @@
 // help window. F1 (or the Help key) in any window opens that window's own page; the help menu
 // and the toolbar key open the contents.
 #include <QString>
+#include <utility>
+#include <vector>
 
 class FrmNapoveda;
 class QObject;
@@ -13,6 +15,9 @@ namespace Napoveda {
 inline const QString Obsah = QStringLiteral("index.html"); // the first page: the contents
 
 QString slozka(); // the manual's folder as a URL ("qrc:/napoveda")
+
+// The windows and frmNovy's frames that have a page of their own, by object name (UTF-8).
+const std::vector<std::pair<const char*, const char*>>& strankyOken();
 
 // The page of a window (a frame of frmNovy by the frame it shows): "plan.html",
 // "zakazka.html#import"; the contents for a window the manual has no page for.
@@ -26,4 +31,4 @@ FrmNapoveda* otevri(QWidget* okno, const QString& stranka);
 // page of the window that has the keyboard.
 void zapniKlavesu(QObject* vlastnik);
 
-}
+} // namespace Napoveda
