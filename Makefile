@@ -5,7 +5,7 @@ PACKAGES := cmake g++ make qt6-base-dev libsqlite3-dev libgtest-dev libgmock-dev
             fonts-urw-base35 \
             fonts-liberation2 fonts-dejavu-core poppler-utils xvfb xauth
 
-.PHONY: deps build run test bench fuzz clean
+.PHONY: deps build run test bench fuzz clean install package package-check
 
 deps:
 	@missing=$$(for p in $(PACKAGES); do dpkg-query -W -f='$${Status}\n' $$p 2>/dev/null | grep -q 'install ok installed' || echo $$p; done); \
@@ -34,6 +34,18 @@ run: build
 
 test: build
 	cd $(BUILD_DIR) && ctest --output-on-failure -j $(JOBS)
+
+# The installed layout: PREFIX/bin, PREFIX/share (DESTDIR=... lays it out under a staging folder).
+PREFIX ?= /usr/local
+install: build
+	DESTDIR=$(DESTDIR) cmake --install $(BUILD_DIR) --prefix $(PREFIX) --strip
+
+# The Debian package (programs in /usr/bin), and the check that it installs and runs on a clean
+# Debian 12 (debootstrap, as root; not part of make test).
+package: build
+	cd $(BUILD_DIR) && cpack -G DEB
+package-check: package
+	tools/zkouska-balicku $(BUILD_DIR)/truhlar_*.deb
 
 bench: build
 	$(BUILD_DIR)/bench/truhlar-bench $(BENCH_ARGS)

@@ -15,6 +15,8 @@
 #include "ui/FrmCenik.h"
 #include "ui/FrmNahled.h"
 #include "ui/FrmObr.h"
+#include "ui/FrmNapoveda.h"
+#include "ui/Napoveda.h"
 #include "catalogues/Cenik.h"
 #include "catalogues/Knihovna.h"
 #include "printing/Dokument.h"
@@ -197,6 +199,11 @@ int main(int argc, char** argv)
     emit strom->itemClicked(zakazka->child(0), 0);
     uloz(&okno, vystup, QStringLiteral("frmBorovak-sestava"));
     moznostiAJazyk(okno, prompt, vystup);
+    for (const char* stranka : {"index", "zakazka", "plan"}) { // the manual in its window
+        FrmNapoveda* napoveda = Napoveda::otevri(&okno, QLatin1String(stranka) + QStringLiteral(".html"));
+        uloz(napoveda, vystup, QStringLiteral("frmNapoveda-") + QLatin1String(stranka));
+        napoveda->close();
+    }
 
     // the entry frames, each grabbed as soon as it stands and closed again
     auto ramec = [&](const QString& nazev, const std::function<void(FrmNovy&)>& otevri) {

@@ -36,6 +36,12 @@ QString cesta(const QString& relativni)
     return QDir(domov()).filePath(relativni);
 }
 
+QString sdilenaData()
+{
+    const QDir sdilena(QCoreApplication::applicationDirPath() + QStringLiteral("/../share/truhlar"));
+    return sdilena.exists(QStringLiteral("czech.txt")) ? sdilena.canonicalPath() : QString();
+}
+
 QString dataS() { return cesta(QStringLiteral("Data/DataS.db")); }
 QString cenik() { return cesta(QStringLiteral("Data/Cenik.db")); }
 QString dataK()

@@ -10,6 +10,10 @@ namespace Aplikace {
 void nastavDomov(const QString& slozka);
 QString domov();
 QString cesta(const QString& relativni); // a path inside the application folder
+// The shared data of an installed program, <prefix>/share/truhlar beside its <prefix>/bin: the
+// language files, the demo order and the manual that a new application folder starts from.
+// Empty for a program run from its build folder, which has its own copies built in.
+QString sdilenaData();
 
 QString dataS();   // Data/DataS.db
 QString cenik();   // Data/Cenik.db

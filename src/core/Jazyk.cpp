@@ -5,6 +5,7 @@
 #include "core/Error.h"
 #include "core/Soubory.h"
 
+#include <QDir>
 #include <QFile>
 #include <QStringDecoder>
 
@@ -161,7 +162,9 @@ void zapisChybejici()
     for (Soubor s : {Soubor::Cestina, Soubor::Anglictina}) {
         if (QFile::exists(cesta(s)))
             continue;
-        Soubory::zapis(cesta(s), vestaveny(s));
+        const QString sdilena = QDir(Aplikace::sdilenaData()).filePath(nazevSouboru(s));
+        const bool nainstalovany = !Aplikace::sdilenaData().isEmpty() && QFile::exists(sdilena);
+        Soubory::zapis(cesta(s), nainstalovany ? Soubory::nacti(sdilena) : vestaveny(s));
     }
 }
 

@@ -50,8 +50,8 @@ QByteArray vestaveny(Soubor s);     // the copy built into the program
 // verze je poškozený!!!" for fewer lines, text that is not UTF-8 or a blank caption.
 QStringList nacti(const QString& cesta);
 
-// Writes the built-in files into the application folder where they are missing; a file the
-// user has edited is never replaced.
+// Writes the files into the application folder where they are missing, from the shared data of
+// an installed program or else the built-in copies; a file the user has edited is never replaced.
 void zapisChybejici();
 
 }

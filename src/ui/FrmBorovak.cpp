@@ -10,6 +10,7 @@
 #include "ui/FrmOptions.h"
 #include "ui/Ikony.h"
 #include "ui/Nabidka.h"
+#include "ui/Napoveda.h"
 #include "ui/QtPrompt.h"
 #include "ui/TabulkaPrikazu.h"
 
@@ -38,6 +39,7 @@ FrmBorovak::FrmBorovak(Uloziste& uloziste, Prompt& prompt)
       m_katalogy(uloziste, prompt, this, [this] { NactiSchema(); }), m_jazyk(*this, prompt)
 {
     pridejPrikazy();
+    Napoveda::zapniKlavesu(this);
     setObjectName(QStringLiteral("frmBorovak"));
     setWindowTitle(QStringLiteral("Truhlář V ") + Nastaveni::verze());
     setWindowIcon(Ikony::proKlic("NP"));
@@ -256,9 +258,7 @@ void FrmBorovak::pridejPrikazy()
     });
     m_prikazy.pridej({QStringLiteral("Konec")}, [this] { close(); });
     m_prikazy.pridej({QStringLiteral("Moznosti")}, [this] { otevriMoznosti(); });
-    m_prikazy.pridej({QStringLiteral("NapovedaObsah")}, [this] {
-        m_prompt.zprava(QStringLiteral("Na aktualizaci nápovědy se pracuje..."), QString(), Prompt::Ikona::Informace);
-    });
+    m_prikazy.pridej({QStringLiteral("NapovedaObsah")}, [this] { Napoveda::otevri(this, Napoveda::Obsah); });
     m_prikazy.pridej({QStringLiteral("OProgramu")}, [this] {
         m_prompt.zprava(windowTitle() + QStringLiteral("\nPracovní stůl truhlářské dílny: zakázky, nářezové plány, "
                                                        "kalkulace a výpisy."),

@@ -52,6 +52,11 @@ public:
     // An assembly node dropped on a node of another order: copied there on Yes.
     void pretazeni(QTreeWidgetItem* zdroj, QTreeWidgetItem* cil);
 
+    // An order file (exchange JSON) named on the command line, as a double click in the file
+    // manager does: loaded as a new order and selected. A refusal is shown in its Czech message
+    // and leaves the store as it was.
+    void otevriSoubor(const QString& soubor);
+
     // The commands of the menu bar and the toolbar, by entry name.
     void prikaz(const QString& nazev);
     QAction* akce(const QString& nazev) const;

@@ -7,7 +7,10 @@
 
 #include "core/Database.h"
 #include "core/Jednotky.h"
+#include "core/Error.h"
 #include "core/Nastaveni.h"
+#include "core/Soubory.h"
+#include "exchange/ZakazkaJson.h"
 #include "core/Uloziste.h"
 #include "orders/Desky.h"
 #include "orders/Materialy.h"
@@ -68,6 +71,15 @@ void FrmBorovak::vyberUzel(QString zakazka, QString sestava)
     m_AktZakazka = zakazka;
     m_AktSestava = sestava;
     m_vyber.obnov(zakazka, sestava);
+}
+
+void FrmBorovak::otevriSoubor(const QString& soubor)
+{
+    try {
+        vyberUzel(ZakazkaJson::nacti(m_uloziste.dataS(), Soubory::nacti(soubor)), QString());
+    } catch (const Error& e) {
+        m_prompt.zprava(e.text(), QStringLiteral("Chyba"), Prompt::Ikona::Kriticka);
+    }
 }
 
 void FrmBorovak::NovaZakazka()
