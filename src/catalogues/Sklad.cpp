@@ -5,6 +5,7 @@
 #include "core/Prompt.h"
 #include "core/Recordset.h"
 #include "core/Transakce.h"
+#include "core/VypisTabulky.h"
 #include "printing/Dokument.h"
 
 namespace Sklad {
@@ -145,6 +146,8 @@ void pridejKus(Database& db, const QString& material, double xDesetiny, double y
     r.set(QStringLiteral("Pocet"), r.cislo(QStringLiteral("Pocet")) + 1);
     r.update();
 }
+
+QJsonArray VypisJson(Database& dataS) { return VypisTabulky(dataS, QStringLiteral("SkladOdrezku")); }
 
 void SmazatOdrezek(Database& db, const Odrezek& o)
 {

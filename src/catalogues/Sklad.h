@@ -3,6 +3,7 @@
 // (with the question that merges pieces of one material and size), the deletion of a whole
 // row, and the printed list. Sizes are millimetres and compared through x*10, as the plan's
 // tenths are.
+#include <QJsonArray>
 #include <QString>
 #include <vector>
 
@@ -39,6 +40,8 @@ void pridej(Database& dataS, const std::vector<Odrezek>& odrezky);
 // happens), and one piece in (a new row, or one more in the row of that size).
 void odeberKus(Database& dataS, const QString& material, double xDesetiny, double yDesetiny);
 void pridejKus(Database& dataS, const QString& material, double xDesetiny, double yDesetiny);
+// The store's rows as JSON (Material, x, y, Pocet), in the order they were added.
+QJsonArray VypisJson(Database& dataS);
 // The whole row, whatever its count.
 void SmazatOdrezek(Database& dataS, const Odrezek& o);
 

@@ -6,9 +6,9 @@
 #include "core/Error.h"
 #include "core/Jednotky.h"
 #include "core/Uloziste.h"
+#include "core/VypisTabulky.h"
 #include "costing/Kalkulace.h"
 #include "costing/Vypisy.h"
-#include "optimiser/VypisNP.h"
 #include "orders/Strom.h"
 #include "printing/Vykresleni.h"
 

@@ -1,7 +1,7 @@
 // init, the orders, the settings and the offcut store of the command line.
 #include "Cli.h"
 #include "Prikazy.h"
-#include "optimiser/VypisNP.h"
+#include "catalogues/Sklad.h"
 
 #include "core/Aplikace.h"
 #include "core/Kolace.h"
@@ -81,8 +81,7 @@ int prikazOffcutsLoad(const QStringList& argumenty)
 int prikazOffcutsList(const QStringList& argumenty)
 {
     pocet(argumenty, 0);
-    Cli::out() << QString::fromUtf8(QJsonDocument(VypisTabulky(Cli::uloziste().dataS(), QStringLiteral("SkladOdrezku")))
-                                        .toJson(QJsonDocument::Compact))
+    Cli::out() << QString::fromUtf8(QJsonDocument(Sklad::VypisJson(Cli::uloziste().dataS())).toJson(QJsonDocument::Compact))
                << '\n';
     return Cli::Hotovo;
 }

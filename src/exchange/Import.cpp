@@ -12,12 +12,12 @@
 #include "core/Transakce.h"
 #include "core/Val.h"
 #include "orders/Materialy.h"
+#include "orders/NoveRadky.h"
 #include "orders/RadkyZakazky.h"
 
 #include <QFile>
 #include <QFileInfo>
 #include <QHash>
-#include <QMap>
 #include <QRandomGenerator>
 #include <QRegularExpression>
 #include <QStringDecoder>
@@ -108,7 +108,10 @@ void radky(const QString& text, Funkce&& f)
 
 class Zapis {
 public:
-    Zapis(Database& db, const QString& zakazka, const QString& sestava) : m_db(db), m_zakazka(zakazka), m_sestava(sestava) {}
+    Zapis(Database& db, const QString& zakazka, const QString& sestava)
+        : m_db(db), m_zakazka(zakazka), m_sestava(sestava), m_desky(db, zakazka, sestava)
+    {
+    }
 
     bool existuje(const QString& nazev) const { return RadkyZakazky::polozka(m_db, m_zakazka, m_sestava, nazev).has_value(); }
 
@@ -146,41 +149,18 @@ public:
         return id;
     }
 
-    // The assembly's last row is its header row while it is empty: the first board takes it
-    // over, every further board is a new row with the header fields of the assembly's first row.
+    // Each board a row of the assembly, by the orders library's header-row rules.
     void deska(const Radek& r, const QString& nazev, double idFormat, const double hrany[4], double cas)
     {
-        if (!m_nactena) {
-            Recordset vse = RadkyZakazky::radkySestavy(m_db, m_zakazka, m_sestava, QStringLiteral("Sestava"));
-            for (const char* pole : {"Zakazka", "Sestava", "pocetelementuVsestave", "popis", "schema", "Poznamka", "datum"})
-                m_hlavicka[QLatin1String(pole)] = vse.eof() ? QVariant() : vse.value(QLatin1String(pole));
-            vse.moveLast();
-            if (!vse.eof() && vse.text(QStringLiteral("Oznaceni")).isEmpty())
-                m_prazdna.emplace(std::move(vse)); // standing on the header row
-            m_nactena = true;
-        }
-        std::optional<Recordset> rs;
-        if (m_prazdna) {
-            rs = std::move(m_prazdna);
-            m_prazdna.reset();
-            rs->edit();
-        } else {
-            rs.emplace(m_db, QStringLiteral("Zakazky"), Recordset::Rozsah::Prvni);
-            rs->addNew();
-            for (auto it = m_hlavicka.cbegin(); it != m_hlavicka.cend(); ++it)
-                rs->set(it.key(), it.value());
-        }
-        static const char* const pole[] = {"IDHX1", "IDHX2", "IDHY1", "IDHY2"};
-        rs->set(QStringLiteral("cas"), cas + r.cislo);
-        rs->set(QStringLiteral("x"), r.x);
-        rs->set(QStringLiteral("y"), r.y);
-        rs->set(QStringLiteral("Pocet"), r.pocet);
-        rs->set(QStringLiteral("Oznaceni"), nazev);
-        for (int i = 0; i < 4; ++i)
-            rs->set(QLatin1String(pole[i]), hrany[i]);
-        rs->set(QStringLiteral("IDFormat"), idFormat);
-        rs->set(QStringLiteral("OV"), true); // imported boards keep their grain
-        rs->update();
+        NoveRadky::Polozka p;
+        p.oznaceni = nazev;
+        p.format = idFormat;
+        p.x = r.x;
+        p.y = r.y;
+        p.pocet = r.pocet;
+        p.ov = true; // imported boards keep their grain
+        std::copy(hrany, hrany + 4, p.hrany);
+        m_desky.pridej(p, cas + r.cislo);
     }
 
 private:
@@ -188,9 +168,7 @@ private:
     QString m_zakazka, m_sestava;
     QHash<QString, int> m_citace;
     QHash<QString, double> m_hrany;
-    bool m_nactena = false;
-    QMap<QString, QVariant> m_hlavicka;
-    std::optional<Recordset> m_prazdna; // the assembly's header row while no board has taken it
+    NoveRadky::DoSestavy m_desky;
 };
 
 } // namespace

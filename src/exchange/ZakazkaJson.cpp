@@ -8,6 +8,7 @@
 #include "core/Transakce.h"
 #include "exchange/CteniJson.h"
 #include "orders/Materialy.h"
+#include "orders/NoveRadky.h"
 #include "orders/RadkyZakazky.h"
 #include "orders/Strom.h"
 
@@ -36,14 +37,7 @@ struct Material {
     qint64 barva = 0;
 };
 
-struct Polozka { // a board (format > 1) or an accessory (format 1)
-    QString oznaceni;
-    double format = 1;
-    double x = 0, y = 0, pocet = 0, cena = 0;
-    bool ov = false;
-    double hrany[4] = {0, 0, 0, 0};
-    QString jednotka;
-};
+using Polozka = NoveRadky::Polozka;
 
 struct Sestava {
     QString nazev, popis;
@@ -210,50 +204,22 @@ void zapisMaterialy(Database& db, Zakazka& z)
 
 void zapisRadky(Database& db, const Zakazka& z)
 {
-    const double datum = Razitko::den(Razitko::ted());
+    NoveRadky::Hlavicka h;
+    h.zakazka = z.nazev;
+    h.poznamka = z.poznamka;
+    h.datum = Razitko::den(Razitko::ted());
     double cas = Razitko::sekundy(Razitko::ted());
-    Recordset rs(db, QStringLiteral("Zakazky"), Recordset::Rozsah::Prvni);
-    auto hlavicka = [&](const Sestava* s) {
-        rs.addNew();
-        rs.set(QStringLiteral("Zakazka"), z.nazev);
-        rs.set(QStringLiteral("Poznamka"), z.poznamka);
-        rs.set(QStringLiteral("datum"), datum);
-        rs.set(QStringLiteral("Sestava"), s ? s->nazev : QString());
-        rs.set(QStringLiteral("Oznaceni"), QString());
-        if (s) {
-            rs.set(QStringLiteral("popis"), s->popis);
-            rs.set(QStringLiteral("pocetelementuVsestave"), s->pocet);
-            rs.set(QStringLiteral("schema"), s->schema);
-        }
-    };
-    if (z.sestavy.empty()) {
-        hlavicka(nullptr);
-        rs.update();
-    }
+    if (z.sestavy.empty())
+        NoveRadky::pridejHlavicku(db, h);
     for (const Sestava& s : z.sestavy) {
-        if (s.polozky.empty()) {
-            hlavicka(&s);
-            rs.update();
-        }
-        for (const Polozka& p : s.polozky) {
-            hlavicka(&s);
-            rs.set(QStringLiteral("Oznaceni"), p.oznaceni);
-            rs.set(QStringLiteral("IDFormat"), p.format);
-            rs.set(QStringLiteral("cas"), cas++);
-            rs.set(QStringLiteral("Pocet"), p.pocet);
-            if (p.format > 1) {
-                static const char* const hrany[] = {"IDHX1", "IDHX2", "IDHY1", "IDHY2"};
-                for (int i = 0; i < 4; ++i)
-                    rs.set(QLatin1String(hrany[i]), p.hrany[i]);
-                rs.set(QStringLiteral("x"), p.x);
-                rs.set(QStringLiteral("y"), p.y);
-                rs.set(QStringLiteral("OV"), p.ov);
-            } else {
-                rs.set(QStringLiteral("Cena"), p.cena);
-                rs.set(QStringLiteral("jednotka"), p.jednotka);
-            }
-            rs.update();
-        }
+        h.sestava = s.nazev;
+        h.popis = s.popis;
+        h.pocet = s.pocet;
+        h.schema = s.schema;
+        if (s.polozky.empty())
+            NoveRadky::pridejHlavicku(db, h);
+        for (const Polozka& p : s.polozky)
+            NoveRadky::pridejPolozku(db, h, p, cas++);
     }
 }
 

@@ -1,5 +1,6 @@
 #include "optimiser/PlanRun.h"
 
+#include "catalogues/Sklad.h"
 #include "core/Database.h"
 #include "core/Dotaz.h"
 #include "core/Nastaveni.h"
@@ -111,12 +112,11 @@ void PlanRun::SoupisTabuliNP()
     const QString material = format->text(QStringLiteral("Material"));
 
     int ct = 1;
-    if (Nastaveni::cislo(QStringLiteral("Setting2"), QStringLiteral("POdrezky")) != 0) {
-        Recordset odrezky(dataS, QStringLiteral("SELECT * FROM SkladOdrezku  WHERE Material = ? ORDER BY x,y"), {material});
-        for (; !odrezky.eof(); odrezky.moveNext())
-            for (int i = 1; i <= odrezky.cislo(QStringLiteral("Pocet")); ++i)
-                m_t.tabule.push_back({0, 0, odrezky.text(QStringLiteral("Material")), odrezky.cislo(QStringLiteral("x")) * 10,
-                                      odrezky.cislo(QStringLiteral("y")) * 10});
+    // "SELECT * FROM SkladOdrezku  WHERE Material = ? ORDER BY x,y" (a format without a name has none)
+    if (Nastaveni::cislo(QStringLiteral("Setting2"), QStringLiteral("POdrezky")) != 0 && !material.isEmpty()) {
+        for (const Sklad::Odrezek& o : Sklad::nacti(dataS, material, QStringLiteral("x,y")))
+            for (int i = 1; i <= o.pocet; ++i)
+                m_t.tabule.push_back({0, 0, o.material, o.x * 10, o.y * 10});
         // "SELECT * FROM SoupisTabuli  ORDER BY y,x": the offcuts are used first, smallest y first
         std::vector<int> poradi(m_t.tabule.size());
         std::iota(poradi.begin(), poradi.end(), 0);

@@ -8,6 +8,7 @@
 #include "core/Recordset.h"
 #include "core/Transakce.h"
 #include "orders/Materialy.h"
+#include "orders/NoveRadky.h"
 #include "orders/RadkyZakazky.h"
 
 namespace Desky {
@@ -101,7 +102,7 @@ QString UlozitNovyPM(Database& db, Prompt& p, const QString& zakazka, const QStr
     if (duplicita(db, p, zakazka, sestava, nazev))
         return QString(); // refused before the transaction: no lock is held while the message stands
     Transakce t(db);
-    Recordset rs = RadkyZakazky::radekProPolozku(db, zakazka, sestava);
+    Recordset rs = NoveRadky::DoSestavy(db, zakazka, sestava).radek();
     zapis(rs, d, nazev);
     rs.set(QStringLiteral("cas"), Razitko::sekundy(Razitko::ted()));
     rs.update();

@@ -10,6 +10,7 @@
 #include "core/Recordset.h"
 #include "core/Transakce.h"
 #include "core/Zaokrouhleni.h"
+#include "orders/NoveRadky.h"
 #include "orders/RadkyZakazky.h"
 
 #include <cmath>
@@ -74,7 +75,7 @@ void zapis(Recordset& rs, const Polozka& p)
 
 void nova(Database& db, const QString& zakazka, const QString& sestava, const Polozka& p)
 {
-    Recordset rs = RadkyZakazky::radekProPolozku(db, zakazka, sestava);
+    Recordset rs = NoveRadky::DoSestavy(db, zakazka, sestava).radek();
     zapis(rs, p);
     rs.set(QStringLiteral("cas"), Razitko::sekundy(Razitko::ted()));
     rs.update();

@@ -1,7 +1,5 @@
 #include "orders/RadkyZakazky.h"
 
-#include "core/Error.h"
-
 namespace RadkyZakazky {
 namespace {
 
@@ -56,23 +54,6 @@ std::optional<Recordset> polozka(Database& db, const QString& zakazka, const QSt
 {
     return prvni(Recordset(db, sestavy + QStringLiteral(" and Oznaceni = ? ORDER BY Oznaceni"), {zakazka, sestava, oznaceni},
                            Rozsah::Prvni));
-}
-
-Recordset radekProPolozku(Database& db, const QString& zakazka, const QString& sestava)
-{
-    Recordset vse = radkySestavy(db, zakazka, sestava, QStringLiteral("Sestava"));
-    if (vse.prazdny())
-        throw Error(Chyba::NeplatnyVstup, QStringLiteral("Sestava „%1“ v zakázce „%2“ není.").arg(sestava, zakazka));
-    vse.moveLast();
-    if (vse.recordCount() < 2 && vse.text(QStringLiteral("Oznaceni")).isEmpty()) {
-        vse.edit();
-        return vse;
-    }
-    Recordset rs(db, QStringLiteral("Zakazky"), Rozsah::Prvni);
-    rs.addNew();
-    for (const char* pole : {"Zakazka", "Sestava", "pocetelementuVsestave", "popis", "schema", "Poznamka", "datum"})
-        rs.set(QLatin1String(pole), vse.value(QLatin1String(pole)));
-    return rs;
 }
 
 Recordset deskyFormatu(Database& db, const QString& zakazka, double idFormatu, const QString& razeni)

@@ -1,6 +1,6 @@
 #pragma once
 // The owner of Zakazky and ZakazkyMaterialy: every other library reads an order's rows through
-// these calls, never through its own query text. Names and numbers are bound, not spliced, so
+// these calls, never through its own query text (and adds them through NoveRadky.h). Names and numbers are bound, not spliced, so
 // any name works. The recordsets follow the store's rules (snapshot of rowids, insertion order
 // for ties) and work on any copy of the data (DataS, the plan and costing copy DataK).
 #include "core/Recordset.h"
@@ -28,11 +28,6 @@ Recordset radkySestavy(Database& db, const QString& zakazka, const QString& sest
 Recordset polozkySestavy(Database& db, const QString& zakazka, const QString& sestava, const QString& razeni);
 // The first row of the assembly named oznaceni, if there is one.
 std::optional<Recordset> polozka(Database& db, const QString& zakazka, const QString& sestava, const QString& oznaceni);
-// The row a new board or accessory of the assembly goes into, ready for set() and update():
-// the assembly's header row while the assembly is empty, else a new row with the header fields
-// (order, assembly, note, date, description, count, schema) copied. Throws Error 5 when the
-// assembly is not there.
-Recordset radekProPolozku(Database& db, const QString& zakazka, const QString& sestava);
 // The boards of the order cut from the format idFormatu.
 Recordset deskyFormatu(Database& db, const QString& zakazka, double idFormatu, const QString& razeni = {});
 // The boards of one assembly cut from the format idFormatu.

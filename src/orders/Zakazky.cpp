@@ -6,6 +6,7 @@
 #include "core/Razitko.h"
 #include "core/Recordset.h"
 #include "core/Transakce.h"
+#include "orders/NoveRadky.h"
 #include "orders/RadkyZakazky.h"
 
 namespace Zakazky {
@@ -60,14 +61,11 @@ bool UlozitNovouZakazku(Database& db, Prompt& p, const QString& nazev, const QSt
                  QStringLiteral("Špatné zadání názvu zakázky"), Prompt::Ikona::Kriticka);
         return false;
     }
-    Recordset rs(db, QStringLiteral("Zakazky"), Recordset::Rozsah::Prvni);
-    rs.addNew();
-    rs.set(QStringLiteral("Zakazka"), nazev);
-    rs.set(QStringLiteral("Poznamka"), poznamka);
-    rs.set(QStringLiteral("Sestava"), QString());
-    rs.set(QStringLiteral("Oznaceni"), QString());
-    rs.set(QStringLiteral("datum"), Razitko::den(Razitko::ted()));
-    rs.update();
+    NoveRadky::Hlavicka h;
+    h.zakazka = nazev;
+    h.poznamka = poznamka;
+    h.datum = Razitko::den(Razitko::ted());
+    NoveRadky::pridejHlavicku(db, h);
     return true;
 }
 

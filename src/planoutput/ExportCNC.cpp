@@ -1,12 +1,12 @@
 #include "planoutput/ExportCNC.h"
 
 #include "core/Database.h"
-#include "core/Dotaz.h"
 #include "core/Jednotky.h"
 #include "core/Nastaveni.h"
 #include "core/Razitko.h"
 #include "core/Recordset.h"
 #include "core/Soubory.h"
+#include "optimiser/CteniPlanu.h"
 #include "orders/RadkyZakazky.h"
 
 #include <QLocale>
@@ -38,12 +38,14 @@ void kazdyDruh(Database& k, F&& naDruh)
     }
 }
 
-QString sZbytky()
+// The remnants worth keeping: longer than XZ and wider than YZ.
+Recordset sZbytky(Database& k)
 {
-    return QStringLiteral(
-               "SELECT * FROM SoupisZbytku WHERE ID = True and (XZP / 10) > %1 And (YZP / 10) > %2 ORDER BY CT,XZP,YZP ")
-        .arg(Dotaz::cislo(Nastaveni::cislo(QStringLiteral("Setting2"), QStringLiteral("XZ"))),
-             Dotaz::cislo(Nastaveni::cislo(QStringLiteral("Setting2"), QStringLiteral("YZ"))));
+    return Recordset(
+        k,
+        QStringLiteral("SELECT * FROM SoupisZbytku WHERE ID = True and (XZP / 10) > ? And (YZP / 10) > ? ORDER BY CT,XZP,YZP "),
+        {Nastaveni::cislo(QStringLiteral("Setting2"), QStringLiteral("XZ")),
+         Nastaveni::cislo(QStringLiteral("Setting2"), QStringLiteral("YZ"))});
 }
 
 } // namespace
@@ -68,7 +70,7 @@ QString text(Database& dataS, Database& k, const PlanNaStrankach& plan)
             druh.update();
         }
     });
-    Recordset zbytky(k, sZbytky());
+    Recordset zbytky = sZbytky(k);
     if (zbytky.eof())
         return {};
     for (int i = zbytky.recordCount(); !zbytky.eof(); zbytky.moveNext(), --i) {
@@ -82,9 +84,7 @@ QString text(Database& dataS, Database& k, const PlanNaStrankach& plan)
     const QLocale l; // the system's, unless a test fixed another
     const QString datum = l.toString(ted.date(), QLocale::ShortFormat), cas = ted.time().toString(QStringLiteral("H:mm:ss"));
     const QString program = QStringLiteral("Truhlář ") + Nastaveni::verze();
-    Recordset desky(k, QStringLiteral("SELECT * FROM SoupisDesek ORDER BY Tabule "));
-    desky.moveLast();
-    const int tabuli = int(desky.cislo(QStringLiteral("Tabule")));
+    const int tabuli = CteniPlanu::posledniTabule(k);
     const auto format = RadkyZakazky::material(dataS, plan.zakazka, plan.idFormatu);
     r << QStringLiteral("[COMMON]") << QStringLiteral("OrderNote=") + datum + QLatin1Char(' ') + cas
       << QStringLiteral("OrderName=") + datum + QLatin1Char(' ') + cas << QStringLiteral("OrderNumber=") + plan.zakazka
@@ -109,7 +109,7 @@ QString text(Database& dataS, Database& k, const PlanNaStrankach& plan)
                       d.text(QStringLiteral("Oznaceni")));
     });
     r << QString() << QStringLiteral("[RESTS]") << QStringLiteral("PrintMode=0");
-    Recordset rest(k, sZbytky());
+    Recordset rest = sZbytky(k);
     r << QStringLiteral("Count=") + QString::number(rest.recordCount());
     for (; !rest.eof(); rest.moveNext())
         r << QStringLiteral("Part%1=%1;%2;%3")
@@ -117,22 +117,22 @@ QString text(Database& dataS, Database& k, const PlanNaStrankach& plan)
                       n(rest.cislo(QStringLiteral("YZP"))));
     r << QString();
     for (int t = 1; t <= tabuli; ++t) {
-        const Recordset hlava(k, QStringLiteral("SELECT * FROM SoupisTabuli WHERE ID = True and NCT = %1 ORDER BY NCT ").arg(t),
+        const Recordset hlava(k, QStringLiteral("SELECT * FROM SoupisTabuli WHERE ID = True and NCT = ? ORDER BY NCT "), {t},
                               Recordset::Rozsah::Prvni);
         r << QStringLiteral("[SHEET%1]").arg(t);
         if (!hlava.eof())
             r << QStringLiteral("Sheet=%1;%2;%3;1;1;0")
                      .arg(QString::number(t), n(hlava.cislo(QStringLiteral("x"))), n(hlava.cislo(QStringLiteral("y"))));
-        Recordset casti(
-            k, QStringLiteral("SELECT * FROM SoupisDesek WHERE ID = True and tabule = %1 ORDER BY Part desc, XD desc").arg(t));
+        Recordset casti(k, QStringLiteral("SELECT * FROM SoupisDesek WHERE ID = True and tabule = ? ORDER BY Part desc, XD desc"),
+                        {t});
         r << QStringLiteral("PartCount=%1").arg(casti.recordCount());
         for (int i = casti.recordCount(); !casti.eof(); casti.moveNext(), --i)
             r << QStringLiteral("Part%1=%2;%3;%4;%5")
                      .arg(QString::number(i), n(casti.cislo(QStringLiteral("Part"))),
                           n(casti.cislo(QStringLiteral("XD")) + plan.srez), n(casti.cislo(QStringLiteral("YD")) + plan.srez),
                           casti.ano(QStringLiteral("OTOC")) ? QStringLiteral("1") : QStringLiteral("0"));
-        Recordset zb(
-            k, QStringLiteral("SELECT * FROM SoupisZbytku WHERE ID = True and Part <> 0 and CT = %1 ORDER BY part desc ").arg(t));
+        Recordset zb(k, QStringLiteral("SELECT * FROM SoupisZbytku WHERE ID = True and Part <> 0 and CT = ? ORDER BY part desc "),
+                     {t});
         r << QStringLiteral("RestCount=%1").arg(zb.recordCount());
         for (int i = zb.recordCount(); !zb.eof(); zb.moveNext(), --i)
             r << QStringLiteral("Rest%1=%2;%3;%4;0")

@@ -191,13 +191,6 @@ HranyDesky BarvyHran::desky(const double id[4]) const
     return h;
 }
 
-HranyDesky BarvyHran::desky(const Recordset& deska) const
-{
-    const double id[4] = {deska.cislo(QStringLiteral("IDHX1")), deska.cislo(QStringLiteral("IDHX2")),
-                          deska.cislo(QStringLiteral("IDHY1")), deska.cislo(QStringLiteral("IDHY2"))};
-    return desky(id);
-}
-
 QString PopisNP(const QString& popis, bool zobrazeniHran, bool otoceno)
 {
     return popis + (zobrazeniHran ? QLatin1Char('1') : QLatin1Char('0')) + (otoceno ? QLatin1Char('1') : QLatin1Char('0'));

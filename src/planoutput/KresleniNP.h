@@ -11,7 +11,6 @@
 #include <optional>
 
 class Database;
-class Recordset;
 
 // Font and colours of boards or of remnants, from the settings (keys ...Desky or ...Odrezku).
 struct StylNP {
@@ -30,8 +29,7 @@ using HranyDesky = std::array<std::optional<QColor>, 4>;
 class BarvyHran {
 public:
     BarvyHran(Database& dataS, const QString& zakazka);
-    HranyDesky desky(const Recordset& deska) const; // the board's IDHX1..IDHY2
-    HranyDesky desky(const double id[4]) const;
+    HranyDesky desky(const double id[4]) const; // the board's IDHX1..IDHY2
 
 private:
     QHash<qint64, QColor> m_barvy;

@@ -1,8 +1,8 @@
 #include "planoutput/Stitky.h"
 
 #include "core/Nastaveni.h"
-#include "core/Recordset.h"
 #include "core/Uloziste.h"
+#include "optimiser/CteniPlanu.h"
 #include "planoutput/KresleniNP.h"
 
 namespace {
@@ -32,7 +32,6 @@ int TiskStitku(Dokument& d, Uloziste& u, const QString& zakazka)
     const bool zobrazeniHran = Nastaveni::cislo(QStringLiteral("Setting2"), QStringLiteral("ZobrazeniHran")) == 1;
     const StylNP styl = StylNP::desky();
     const BarvyHran hrany(u.dataS(), zakazka);
-    Recordset desky(u.dataK(), QStringLiteral("SELECT * FROM Soupisdesek  WHERE ID = True  ORDER BY Tabule,yd,xd"));
 
     d.naSirku = false;
     d.MarginLeft = d.MarginTop = d.MarginRight = d.MarginBottom = 0;
@@ -40,7 +39,7 @@ int TiskStitku(Dokument& d, Uloziste& u, const QString& zakazka)
     int strana = 1;
     double x = m.zleva, y = m.shora;
     int cislo = 1;
-    for (; !desky.eof(); desky.moveNext(), ++cislo) {
+    for (const CteniPlanu::Deska& deska : CteniPlanu::usazeneDesky(u.dataK())) {
         if (qint64(x) > qint64(m.zleva + (m.sloupcu - 1) * (m.delka + m.mezeraX))) {
             x = m.zleva;
             y += m.sirka + m.mezeraY;
@@ -50,12 +49,11 @@ int TiskStitku(Dokument& d, Uloziste& u, const QString& zakazka)
             y = m.shora;
             ++strana;
         }
-        const bool otoc = desky.ano(QStringLiteral("OTOC"));
-        const double dx = desky.cislo(QStringLiteral("x")), dy = desky.cislo(QStringLiteral("y"));
-        KresliStitek(d, m.delka, m.sirka, x, y, otoc ? dy : dx, otoc ? dx : dy, 1, desky.text(QStringLiteral("Oznaceni")),
-                     PopisNP(desky.text(QStringLiteral("popis")), zobrazeniHran, otoc), desky.text(QStringLiteral("Sestava")),
-                     desky.ano(QStringLiteral("OV")), hrany.desky(desky), styl);
+        const bool otoc = deska.OTOC;
+        KresliStitek(d, m.delka, m.sirka, x, y, otoc ? deska.y : deska.x, otoc ? deska.x : deska.y, 1, deska.Oznaceni,
+                     PopisNP(deska.popis, zobrazeniHran, otoc), deska.Sestava, deska.OV, hrany.desky(deska.hrany), styl);
         x += m.delka + m.mezeraX;
+        ++cislo;
     }
     d.EndDoc();
     return cislo - 1;

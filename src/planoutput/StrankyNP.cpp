@@ -2,12 +2,12 @@
 
 #include "catalogues/Cenik.h"
 #include "catalogues/Knihovna.h"
-#include "core/Dotaz.h"
 #include "core/Jednotky.h"
 #include "core/Nastaveni.h"
 #include "core/Recordset.h"
 #include "core/Uloziste.h"
 #include "core/Val.h"
+#include "optimiser/CteniPlanu.h"
 #include "optimiser/PlanRun.h"
 #include "orders/RadkyZakazky.h"
 #include "planoutput/KresleniNP.h"
@@ -123,13 +123,7 @@ double legenda(Dokument& d, Kontext& k, const QRectF& blok, int tabule)
     QList<QColor> barvy;
     Recordset hrany = RadkyZakazky::materialy(k.u.dataS(), k.plan.zakazka, RadkyZakazky::Pouziti::Hrany);
     for (; !hrany.eof(); hrany.moveNext()) {
-        const QString id = Dotaz::cislo(hrany.cislo(QStringLiteral("ID")));
-        if (Recordset(k.u.dataK(),
-                      QStringLiteral("SELECT * FROM SoupisDesek  WHERE ID = True and tabule = ") + QString::number(tabule) +
-                          QStringLiteral(" And (IDHX1 = ") + id + QStringLiteral(" Or IDHX2 = ") + id +
-                          QStringLiteral(" Or IDHY1 = ") + id + QStringLiteral(" Or IDHY2 = ") + id + QStringLiteral(" )"),
-                      Recordset::Rozsah::Prvni)
-                .prazdny())
+        if (!CteniPlanu::hranaNaTabuli(k.u.dataK(), tabule, hrany.cislo(QStringLiteral("ID"))))
             continue;
         nazvy << hrany.text(QStringLiteral("Material"));
         barvy << Barva::zVB(qint64(hrany.cislo(QStringLiteral("BarvaVNP"))));
@@ -216,16 +210,12 @@ bool blokInformaci(Dokument& d, Kontext& k, const QRectF& blok, int n, double x,
 void tabule(Kontext& k, const Bunka& b, int n)
 {
     Dokument& d = k.d;
-    Recordset t(k.u.dataK(),
-                QStringLiteral("SELECT * FROM SoupisTabuli  WHERE NCT = ") + QString::number(n) + QStringLiteral(" ORDER BY x,y"),
-                Recordset::Rozsah::Prvni);
-    if (t.eof())
+    const auto t = CteniPlanu::tabule(k.u.dataK(), n);
+    if (!t)
         return;
-    const double x = t.cislo(QStringLiteral("x")), y = t.cislo(QStringLiteral("y"));
-    const int ct = int(t.cislo(QStringLiteral("CT")));
-    const double soucet = k.u.dataK()
-                              .hodnota(QStringLiteral("SELECT Sum(x * y ) FROM SoupisDesek WHERE Tabule = ") + QString::number(n))
-                              .toDouble();
+    const double x = t->x, y = t->y;
+    const int ct = t->CT;
+    const double soucet = CteniPlanu::plochaDesek(k.u.dataK(), n);
     const double plochaDesek = Round(soucet / 100 / 1000000, 3);
     const double plochaTabule = Round(x * y / 100 / 1000000, 3);
     const double vyuziti = plochaTabule > 0 ? Round(plochaDesek / plochaTabule * 100, 1) : 0;
@@ -258,24 +248,15 @@ void tabule(Kontext& k, const Bunka& b, int n)
     }
     blokInformaci(d, k, blok, n, x, y, ct, vyuziti, velikost);
 
-    Recordset desky(k.u.dataK(), QStringLiteral("SELECT * FROM SoupisDesek  WHERE ID = True and tabule = ") + QString::number(n) +
-                                     QStringLiteral(" ORDER BY YD,XD,Y desc"));
-    for (; !desky.eof(); desky.moveNext()) {
-        const bool otoc = desky.ano(QStringLiteral("OTOC"));
-        const double dx = desky.cislo(QStringLiteral("x")), dy = desky.cislo(QStringLiteral("y"));
-        KresliDesku(d, desky.cislo(QStringLiteral("XD")), desky.cislo(QStringLiteral("YD")), u.OkrajX, u.OkrajY, otoc ? dy : dx,
-                    otoc ? dx : dy, u.Meritko, desky.text(QStringLiteral("Oznaceni")),
-                    PopisNP(desky.text(QStringLiteral("popis")), k.zobrazeniHran, otoc), desky.text(QStringLiteral("Sestava")),
-                    k.hrany.desky(desky), k.plan.samovani, k.deska);
+    for (const CteniPlanu::Deska& deska : CteniPlanu::deskyTabule(k.u.dataK(), n)) {
+        const double dx = deska.x, dy = deska.y;
+        KresliDesku(d, deska.XD, deska.YD, u.OkrajX, u.OkrajY, deska.OTOC ? dy : dx, deska.OTOC ? dx : dy, u.Meritko,
+                    deska.Oznaceni, PopisNP(deska.popis, k.zobrazeniHran, deska.OTOC), deska.Sestava, k.hrany.desky(deska.hrany),
+                    k.plan.samovani, k.deska);
     }
-    Recordset zbytky(k.u.dataK(), QStringLiteral("SELECT * FROM SoupisZbytku  WHERE CT = ") + QString::number(n) +
-                                      QStringLiteral(" and Oznaceni <> 'ZŘ' ORDER BY YDP"));
-    for (; !zbytky.eof(); zbytky.moveNext()) {
-        const double xz = zbytky.cislo(QStringLiteral("XZP")), yz = zbytky.cislo(QStringLiteral("YZP"));
-        if (xz / 10 > k.XZ && yz / 10 > k.YZ)
-            KresliOdrezek(d, zbytky.cislo(QStringLiteral("XDP")), zbytky.cislo(QStringLiteral("YDP")), u.OkrajX, u.OkrajY, xz, yz,
-                          u.Meritko, zbytky.text(QStringLiteral("Oznaceni")), k.plan.samovani, k.odrezek);
-    }
+    for (const CteniPlanu::Zbytek& z : CteniPlanu::zbytkyTabule(k.u.dataK(), n))
+        if (z.XZP / 10 > k.XZ && z.YZP / 10 > k.YZ)
+            KresliOdrezek(d, z.XDP, z.YDP, u.OkrajX, u.OkrajY, z.XZP, z.YZP, u.Meritko, z.Oznaceni, k.plan.samovani, k.odrezek);
 }
 
 double okraj(const char* klic, double vychozi)
@@ -296,14 +277,7 @@ bool StrankyNP(Dokument& d, Uloziste& u, const PlanNaStrankach& plan, int kolik)
     d.StartDoc();
     if (kolik != 1 && kolik != 2 && kolik != 4)
         return false;
-    int posledni = 0;
-    {
-        Recordset vse(u.dataK(), QStringLiteral("SELECT * FROM SoupisDesek  ORDER BY Tabule "));
-        if (!vse.eof()) {
-            vse.moveLast();
-            posledni = int(vse.cislo(QStringLiteral("tabule")));
-        }
-    }
+    const int posledni = CteniPlanu::posledniTabule(u.dataK());
     if (posledni <= 0)
         return false;
 

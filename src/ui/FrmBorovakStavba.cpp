@@ -23,41 +23,39 @@
 
 QWidget* FrmBorovak::vytvorStrom()
 {
-    m_tvzakazky = new QTreeWidget;
-    m_tvzakazky->setObjectName(QStringLiteral("tvzakazky"));
-    m_tvzakazky->setHeaderHidden(true);
-    m_tvzakazky->setIconSize(QSize(18, 18));
-    connect(m_tvzakazky, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* u) { klikNaUzel(u); });
-    m_tvzakazky->setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(m_tvzakazky, &QTreeWidget::customContextMenuRequested, this, [this](const QPoint& bod) {
-        QTreeWidgetItem* u = m_tvzakazky->itemAt(bod);
+    m_prvky.tvzakazky = new QTreeWidget;
+    m_prvky.tvzakazky->setObjectName(QStringLiteral("tvzakazky"));
+    m_prvky.tvzakazky->setHeaderHidden(true);
+    m_prvky.tvzakazky->setIconSize(QSize(18, 18));
+    m_prvky.tvzakazky->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(m_prvky.tvzakazky, &QTreeWidget::customContextMenuRequested, this, [this](const QPoint& bod) {
+        QTreeWidgetItem* u = m_prvky.tvzakazky->itemAt(bod);
         if (!u)
             return;
-        klikNaUzel(u);
+        m_zakazky->klikNaUzel(u);
         const bool sestava = !u->data(0, Qt::UserRole + 1).toString().isEmpty();
         if (auto* m = findChild<QMenu*>(sestava ? QStringLiteral("Sestava") : QStringLiteral("Zakazka")))
-            m->exec(m_tvzakazky->viewport()->mapToGlobal(bod));
+            m->exec(m_prvky.tvzakazky->viewport()->mapToGlobal(bod));
     });
-    m_tvzakazky->setDragEnabled(true);
-    m_tvzakazky->setAcceptDrops(true);
-    m_tvzakazky->setDragDropMode(QAbstractItemView::DragDrop);
-    m_tvzakazky->viewport()->installEventFilter(this);
+    m_prvky.tvzakazky->setDragEnabled(true);
+    m_prvky.tvzakazky->setAcceptDrops(true);
+    m_prvky.tvzakazky->setDragDropMode(QAbstractItemView::DragDrop);
     auto* napis = new QLabel(QStringLiteral("Zakázka / Sestava"));
     napis->setObjectName(QStringLiteral("lblNapis1"));
     auto* strom = new QWidget;
     auto* stromLayout = new QVBoxLayout(strom);
     stromLayout->setContentsMargins(0, 0, 0, 0);
     stromLayout->addWidget(napis);
-    stromLayout->addWidget(m_tvzakazky);
-    m_img1 = new QLabel;
-    m_img1->setObjectName(QStringLiteral("img1"));
-    m_img1->setAlignment(Qt::AlignCenter);
-    m_img1->setMinimumHeight(60);
-    m_img1->setFrameShape(QFrame::StyledPanel);
+    stromLayout->addWidget(m_prvky.tvzakazky);
+    m_prvky.img1 = new QLabel;
+    m_prvky.img1->setObjectName(QStringLiteral("img1"));
+    m_prvky.img1->setAlignment(Qt::AlignCenter);
+    m_prvky.img1->setMinimumHeight(60);
+    m_prvky.img1->setFrameShape(QFrame::StyledPanel);
     auto* vlevo = new QSplitter(Qt::Vertical);
     vlevo->setObjectName(QStringLiteral("imgsplitter2"));
     vlevo->addWidget(strom);
-    vlevo->addWidget(m_img1);
+    vlevo->addWidget(m_prvky.img1);
     vlevo->setStretchFactor(0, 3);
     vlevo->setStretchFactor(1, 1);
     return vlevo;
@@ -65,46 +63,46 @@ QWidget* FrmBorovak::vytvorStrom()
 
 QWidget* FrmBorovak::vytvorZalozky()
 {
-    m_stZakazky = new QTabWidget;
-    m_stZakazky->setObjectName(QStringLiteral("stZakazky"));
-    m_stZakazky->addTab(
-        vytvorStranku("fraFormat", QStringLiteral("Formáty:"), m_GridFormaty,
+    m_prvky.stZakazky = new QTabWidget;
+    m_prvky.stZakazky->setObjectName(QStringLiteral("stZakazky"));
+    m_prvky.stZakazky->addTab(
+        vytvorStranku("fraFormat", QStringLiteral("Formáty:"), m_prvky.GridFormaty,
                       {QStringLiteral("Materiál"), QStringLiteral("Délka"), QStringLiteral("Šířka"),
                        QStringLiteral("Cena bez DPH"), QStringLiteral("Cena s DPH")},
-                      "fraHrany", QStringLiteral("Hrany:"), m_GridHrany,
+                      "fraHrany", QStringLiteral("Hrany:"), m_prvky.GridHrany,
                       {QStringLiteral("Materiál"), QStringLiteral("Cena bez DPH"), QStringLiteral("Přesah hrany"),
                        QStringLiteral("Barva hrany v NP")},
                       {QStringLiteral("cmdNovyFormat"), QStringLiteral("cmdUpravitFormat"), QStringLiteral("cmdSmazatFormat")},
                       {QStringLiteral("cmdNovaHrana"), QStringLiteral("cmdUpravitHrana"), QStringLiteral("cmdSmazatHrana")}),
         QStringLiteral("Zakázka"));
-    m_stZakazky->addTab(
-        vytvorStranku("fraPM", QStringLiteral("Plošný materiál:"), m_GPM,
+    m_prvky.stZakazky->addTab(
+        vytvorStranku("fraPM", QStringLiteral("Plošný materiál:"), m_prvky.GPM,
                       {QStringLiteral("Název pl. materiálu"), QStringLiteral("Délka"), QStringLiteral("Šířka"),
                        QStringLiteral("Počet"), QStringLiteral("Formát")},
-                      "fraPrislusenstvi", QStringLiteral("Příslušenství:"), m_GPR,
+                      "fraPrislusenstvi", QStringLiteral("Příslušenství:"), m_prvky.GPR,
                       {QStringLiteral("Název příslušenství"), QStringLiteral("Množství"), QStringLiteral("Cena bez DPH")},
                       {QStringLiteral("cmdNovyPM"), QStringLiteral("cmdUpravitPM"), QStringLiteral("cmdSmazatPM"),
                        QStringLiteral("cmdImport")},
                       {QStringLiteral("cmdNovePrislusenstvi"), QStringLiteral("cmdUpravitPrislusenstvi"),
                        QStringLiteral("cmdSmazatPrislusenstvi")}),
         QStringLiteral("Sestava"));
-    return m_stZakazky;
+    return m_prvky.stZakazky;
 }
 
 void FrmBorovak::vytvorStavovyRadek()
 {
     statusBar()->setObjectName(QStringLiteral("stBorovak"));
     for (int i = 0; i < 3; ++i) {
-        m_panel[i] = new QLabel;
-        m_panel[i]->setObjectName(QStringLiteral("panel%1").arg(i + 1));
-        m_panel[i]->setMinimumWidth(i == 0 ? 260 : 170);
-        statusBar()->addWidget(m_panel[i], i == 0 ? 1 : 0);
+        m_prvky.panel[i] = new QLabel;
+        m_prvky.panel[i]->setObjectName(QStringLiteral("panel%1").arg(i + 1));
+        m_prvky.panel[i]->setMinimumWidth(i == 0 ? 260 : 170);
+        statusBar()->addWidget(m_prvky.panel[i], i == 0 ? 1 : 0);
     }
-    for (QLabel* p : m_panel)
+    for (QLabel* p : m_prvky.panel)
         p->installEventFilter(this);
-    m_img1->installEventFilter(this);
-    m_panel[1]->setToolTip(QStringLiteral("Cena zakázky s DPH"));
-    m_panel[2]->setToolTip(QStringLiteral("Cena za 1ks sestavy s DPH"));
+    m_prvky.img1->installEventFilter(this);
+    m_prvky.panel[1]->setToolTip(QStringLiteral("Cena zakázky s DPH"));
+    m_prvky.panel[2]->setToolTip(QStringLiteral("Cena za 1ks sestavy s DPH"));
 }
 
 void FrmBorovak::vytvorMenu()

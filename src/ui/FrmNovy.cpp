@@ -71,8 +71,12 @@ FrmNovy::FrmNovy(QWidget* rodic) : QDialog(rodic)
     volba->addWidget(m_tblSrovnani);
     volba->addLayout(tlacitka);
     m_ramce->addWidget(m_fraVolbaNP);
+    vytvorOptimalizaci();
+}
 
-    // fraOptimalizace
+// fraOptimalizace: the progress of a plan run, its Storno and the trembling icon.
+void FrmNovy::vytvorOptimalizaci()
+{
     m_fraOptimalizace = new QWidget;
     m_fraOptimalizace->setObjectName(QStringLiteral("fraOptimalizace"));
     m_imgIkona = new QLabel(m_fraOptimalizace);
@@ -96,7 +100,6 @@ FrmNovy::FrmNovy(QWidget* rodic) : QDialog(rodic)
     });
     m_fraOptimalizace->setFixedSize(430, 114);
     m_ramce->addWidget(m_fraOptimalizace);
-
     m_timIkona = new QTimer(this);
     m_timIkona->setObjectName(QStringLiteral("TimIkona"));
     m_timIkona->setInterval(400);

@@ -113,6 +113,7 @@ public:
     bool prerusit() override;
 
 private:
+    void vytvorOptimalizaci();
     void ukaz(QWidget* ramec, const QString& titulek, int navic);
 
     // The names of a price-list group ("PM", "H", "P") in the saved order; empty without one.

@@ -63,6 +63,30 @@ FrmPolozka::FrmPolozka(Database& cenik, Prompt& prompt, const QString& staryNaze
         radia->addWidget(r);
     }
 
+    vytvorObrazky(p);
+
+    auto* f = new QFormLayout;
+    f->addRow(QStringLiteral("Název:"), m_txtNazev);
+    f->addRow(QStringLiteral("Kód:"), m_txtKod);
+    f->addRow(QStringLiteral("Cena bez DPH:"), m_txtCena);
+    f->addRow(QStringLiteral("Cena položky s DPH"), m_lblCenaDPH);
+    f->addRow(QStringLiteral("Jednotka:"), m_txtJednotka);
+    f->addRow(QStringLiteral("Zařazení:"), radia);
+    auto* tlacitka = new QDialogButtonBox(QDialogButtonBox::Save | QDialogButtonBox::Cancel);
+    tlacitka->button(QDialogButtonBox::Save)->setText(QStringLiteral("Uložit"));
+    tlacitka->button(QDialogButtonBox::Save)->setObjectName(QStringLiteral("cmdUlozit"));
+    tlacitka->button(QDialogButtonBox::Cancel)->setText(QStringLiteral("Zpět"));
+    connect(tlacitka, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    connect(tlacitka, &QDialogButtonBox::accepted, this, &FrmPolozka::uloz);
+    auto* l = new QVBoxLayout(this);
+    l->addLayout(f);
+    l->addWidget(m_fraNCenik);
+    l->addWidget(tlacitka);
+}
+
+// fraNCenik: the item's two pictures, each with its choice and its removal.
+void FrmPolozka::vytvorObrazky(const Cenik::Polozka& p)
+{
     m_fraNCenik = new QGroupBox(QStringLiteral("Obrázky položky"));
     m_fraNCenik->setObjectName(QStringLiteral("fraNCenik"));
     auto* obrazky = new QGridLayout(m_fraNCenik);
@@ -88,24 +112,6 @@ FrmPolozka::FrmPolozka(Database& cenik, Prompt& prompt, const QString& staryNaze
         obrazky->addWidget(odeber, 1, 2 * i + 1);
         ukazObrazek(i);
     }
-
-    auto* f = new QFormLayout;
-    f->addRow(QStringLiteral("Název:"), m_txtNazev);
-    f->addRow(QStringLiteral("Kód:"), m_txtKod);
-    f->addRow(QStringLiteral("Cena bez DPH:"), m_txtCena);
-    f->addRow(QStringLiteral("Cena položky s DPH"), m_lblCenaDPH);
-    f->addRow(QStringLiteral("Jednotka:"), m_txtJednotka);
-    f->addRow(QStringLiteral("Zařazení:"), radia);
-    auto* tlacitka = new QDialogButtonBox(QDialogButtonBox::Save | QDialogButtonBox::Cancel);
-    tlacitka->button(QDialogButtonBox::Save)->setText(QStringLiteral("Uložit"));
-    tlacitka->button(QDialogButtonBox::Save)->setObjectName(QStringLiteral("cmdUlozit"));
-    tlacitka->button(QDialogButtonBox::Cancel)->setText(QStringLiteral("Zpět"));
-    connect(tlacitka, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    connect(tlacitka, &QDialogButtonBox::accepted, this, &FrmPolozka::uloz);
-    auto* l = new QVBoxLayout(this);
-    l->addLayout(f);
-    l->addWidget(m_fraNCenik);
-    l->addWidget(tlacitka);
 }
 
 QString FrmPolozka::nazev() const

@@ -6,6 +6,9 @@
 // order and stays open on a refusal, so nothing typed is lost.
 #include <QDialog>
 
+namespace Cenik {
+struct Polozka;
+}
 class Database;
 class Error;
 class Prompt;
@@ -25,6 +28,7 @@ public:
     int obrazek(int i) const { return m_obr[i]; } // IDE of picture i (0, 1), 0 for none
 
 private:
+    void vytvorObrazky(const Cenik::Polozka& p);
     void vyberObrazek(int i); // frmObr, marked "N" or "D"
     void ukazObrazek(int i);
     void ukazCenuSDph();

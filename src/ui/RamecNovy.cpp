@@ -1,5 +1,6 @@
 #include "ui/RamecNovy.h"
 
+#include <QComboBox>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLineEdit>
@@ -53,6 +54,15 @@ CiselnePole* pole(const char* nazev, CiselnePole::Druh druh, int mist)
     auto* p = new CiselnePole(druh, mist);
     p->setObjectName(QLatin1String(nazev));
     return p;
+}
+
+QComboBox* seznam(const char* nazev, const QStringList& polozky)
+{
+    auto* c = new QComboBox;
+    c->setObjectName(QLatin1String(nazev));
+    c->setEditable(true);
+    c->addItems(polozky);
+    return c;
 }
 
 } // namespace RamecNovy

@@ -1,6 +1,8 @@
-// truhlar-cli under faults a careless choice or a second process brings: files of the store
-// named as output, several commands on one application folder at once.
+// truhlar-cli under faults a careless choice, a full disk or a second process brings: files of
+// the store named as output, outputs on a disk that fills up, several commands on one
+// application folder at once.
 #include "SpusteniCli.h"
+#include "VzorkyObrazku.h"
 
 #include <QDir>
 #include <QFile>
@@ -65,6 +67,35 @@ TEST_F(Odolnost, VystupDoSlozkyDatJeOdmitnutADataZustanou)
     EXPECT_EQ(spust({"check"}).kod, 0);
     // beside the store, a backup still goes where it is asked
     EXPECT_EQ(spust({"backup", domov() + QStringLiteral("/Zálohy dat/a.bvk")}).kod, 0);
+}
+
+// Every file the command line writes whole, on a disk that fills up at the file's sync: exit 4
+// with the Czech message, and neither the file nor a temporary one beside it.
+TEST_F(Odolnost, VystupyNaPlnemDiskuNezanechajiNic)
+{
+    ASSERT_EQ(spust({"picture-add", soubor(QStringLiteral("o.png"), vzorek("png"))}).kod, 0);
+    const QString plny = m_dir.filePath(QStringLiteral("plny"));
+    ASSERT_TRUE(QDir().mkpath(plny));
+    QProcessEnvironment env;
+    env.insert(QStringLiteral("LD_PRELOAD"), QStringLiteral(ZABITI_PRI_SYNCU));
+    env.insert(QStringLiteral("TRUHLAR_PLNY_DISK"), plny);
+    const QStringList plan = {"plan", "Kuchyně Novák", "--format", "5000001", "--mode", "kombinovane"};
+    const QList<QStringList> prikazy = {
+        plan + QStringList{"--pdf", plny + QStringLiteral("/plan.pdf")},
+        plan + QStringList{"--labels-pdf", plny + QStringLiteral("/stitky.pdf")},
+        plan + QStringList{"--vpf", plny + QStringLiteral("/OUT00000.VPF")},
+        {"calc", "Kuchyně Novák", "--pdf", plny + QStringLiteral("/kalkulace.pdf")},
+        {"pricelist-pdf", plny + QStringLiteral("/cenik.pdf")},
+        {"picture-get", "1", plny + QStringLiteral("/o.png")},
+        {"picture-render", "1", plny + QStringLiteral("/male.png")},
+    };
+    for (const QStringList& p : prikazy) {
+        const Vysledek v = spust(p, env);
+        EXPECT_EQ(v.kod, 4) << p.join(' ').toStdString() << v.err.toStdString();
+        EXPECT_TRUE(v.err.contains(QStringLiteral("Na disku není dostatek místa!!!"))) << v.err.toStdString();
+    }
+    EXPECT_EQ(QDir(plny).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot), QStringList());
+    EXPECT_EQ(spust({"check"}).kod, 0);
 }
 
 TEST_F(Odolnost, DvaPlanyAObnovaNaraz)

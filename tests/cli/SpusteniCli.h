@@ -12,11 +12,12 @@ struct Vysledek {
 
 class SpusteniCli : public ::testing::Test {
 protected:
-    Vysledek spust(QStringList argumenty)
+    Vysledek spust(QStringList argumenty, const QProcessEnvironment& navic = {})
     {
         QProcess p;
         QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
         env.insert(QStringLiteral("XDG_CONFIG_HOME"), m_dir.filePath(QStringLiteral("config")));
+        env.insert(navic);
         p.setProcessEnvironment(env);
         p.start(QStringLiteral(TRUHLAR_CLI), QStringList{QStringLiteral("--home"), domov()} + argumenty);
         EXPECT_TRUE(p.waitForFinished(60000));

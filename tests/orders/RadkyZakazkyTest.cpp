@@ -7,6 +7,7 @@
 #include "core/Error.h"
 #include "orders/Desky.h"
 #include "orders/Materialy.h"
+#include "orders/NoveRadky.h"
 #include "orders/Prislusenstvi.h"
 #include "orders/Zakazky.h"
 
@@ -65,7 +66,7 @@ TEST_F(RadkyZakazkyTest, NazvySeVazouANeslepuji)
     EXPECT_EQ(RadkyZakazky::materialPodleNazvu(db(), zakazka, QStringLiteral("dtd 'BÍLÁ'"))->cislo(QStringLiteral("ID")), format);
     EXPECT_FALSE(RadkyZakazky::material(db(), zakazka, format, RadkyZakazky::Pouziti::Hrany));
     EXPECT_TRUE(RadkyZakazky::material(db(), zakazka, format, RadkyZakazky::Pouziti::Formaty));
-    EXPECT_EQ(cisloChyby([&] { RadkyZakazky::radekProPolozku(db(), zakazka, QStringLiteral("není")); }), Chyba::NeplatnyVstup);
+    EXPECT_EQ(cisloChyby([&] { NoveRadky::DoSestavy(db(), zakazka, QStringLiteral("není")); }), Chyba::NeplatnyVstup);
 }
 
 TEST_F(RadkyZakazkyTest, OtazkyAOdmitnutiPredTransakci)

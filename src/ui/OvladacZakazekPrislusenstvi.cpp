@@ -1,35 +1,20 @@
 // The main window's accessories (GPR and fraPřís) and its schema picture img1.
-#include "ui/FrmBorovak.h"
+#include "ui/OvladacZakazek.h"
 
 #include "catalogues/Cenik.h"
 #include "catalogues/Knihovna.h"
 #include "core/Nastaveni.h"
 #include "core/Uloziste.h"
 #include "orders/Prislusenstvi.h"
+#include "orders/Vyber.h"
 #include "orders/Zakazky.h"
 #include "printing/Obrazky.h"
 #include "ui/FrmNovy.h"
 
-#include <QAction>
 #include <QLabel>
-#include <QSplitter>
 #include <QTableWidget>
 
-void FrmBorovak::pridejPrikazyPrislusenstvi()
-{
-    m_prikazy.pridej({QStringLiteral("NoveP"), QStringLiteral("cmdNovePrislusenstvi")}, [this] { NovePrislusenstvi(); });
-    m_prikazy.pridej({QStringLiteral("UpraveniP"), QStringLiteral("cmdUpravitPrislusenstvi")},
-                     [this] { UpravitPrislusenstvi(); });
-    m_prikazy.pridej({QStringLiteral("SmazaniP"), QStringLiteral("cmdSmazatPrislusenstvi")}, [this] { SmazatPrislusenstvi(); });
-}
-
-void FrmBorovak::pripojKatalog()
-{
-    for (auto* s : findChildren<QSplitter*>())
-        connect(s, &QSplitter::splitterMoved, this, &FrmBorovak::NactiSchema);
-}
-
-void FrmBorovak::NaplnitGridPR(const QString& akce)
+void OvladacZakazek::NaplnitGridPR(const QString& akce)
 {
     const int predtim = m_GPR->currentRow();
     const auto radky = m_AktSestava.isEmpty()
@@ -54,7 +39,7 @@ void FrmBorovak::NaplnitGridPR(const QString& akce)
     povol({QStringLiteral("cmdNovePrislusenstvi"), QStringLiteral("NoveP"), QStringLiteral("tbNPR")}, !m_AktSestava.isEmpty());
 }
 
-void FrmBorovak::NovePrislusenstvi()
+void OvladacZakazek::NovePrislusenstvi()
 {
     if (m_vyber.txtSestava().isEmpty())
         return;
@@ -64,7 +49,7 @@ void FrmBorovak::NovePrislusenstvi()
     otevriPrislusenstvi(false, jednotkyCeniku, {});
 }
 
-void FrmBorovak::UpravitPrislusenstvi()
+void OvladacZakazek::UpravitPrislusenstvi()
 {
     const int r = m_GPR->currentRow();
     if (r < 0 || !m_GPR->item(r, 0))
@@ -74,7 +59,7 @@ void FrmBorovak::UpravitPrislusenstvi()
                                                             m_GPR->item(r, 0)->text()));
 }
 
-void FrmBorovak::otevriPrislusenstvi(bool uprava, const QStringList& jednotkyCeniku, const Prislusenstvi::Polozka& p)
+void OvladacZakazek::otevriPrislusenstvi(bool uprava, const QStringList& jednotkyCeniku, const Prislusenstvi::Polozka& p)
 {
     const QString zakazka = m_vyber.txtzakazka(), sestava = m_vyber.txtSestava();
     Database& cenik = m_uloziste.cenik();
@@ -85,7 +70,7 @@ void FrmBorovak::otevriPrislusenstvi(bool uprava, const QStringList& jednotkyCen
             return std::nullopt;
         return Prislusenstvi::Polozka{c->nazev, 0, c->jednotka, c->cena};
     };
-    FrmNovy d(this, cenik, m_prompt);
+    FrmNovy d(m_okno, cenik, m_prompt);
     d.prislusenstvi(uprava ? FrmNovy::Stav::UpraveniPrislusenstvi : FrmNovy::Stav::NovePrislusenstvi,
                     Cenik::NaplnitSeznamCeniku(cenik, Cenik::ulozenyVyber(), Cenik::ulozeneRazeni()),
                     Prislusenstvi::jednotky(jednotkyCeniku), p, zCeniku, [&](const Prislusenstvi::Zadani& z) {
@@ -98,7 +83,7 @@ void FrmBorovak::otevriPrislusenstvi(bool uprava, const QStringList& jednotkyCen
                     });
 }
 
-void FrmBorovak::SmazatPrislusenstvi()
+void OvladacZakazek::SmazatPrislusenstvi()
 {
     const int r = m_GPR->currentRow();
     if (r < 0 || !m_GPR->item(r, 0))
@@ -110,7 +95,7 @@ void FrmBorovak::SmazatPrislusenstvi()
     }
 }
 
-void FrmBorovak::NactiSchema()
+void OvladacZakazek::NactiSchema()
 {
     const int schema =
         m_AktSestava.isEmpty() ? 0 : Zakazky::nactiSestavu(m_uloziste.dataS(), m_vyber.txtzakazka(), m_AktSestava).schema;

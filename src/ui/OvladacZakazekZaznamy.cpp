@@ -1,90 +1,29 @@
-// The main window's entry commands: orders, assemblies, formats, bands and boards. Each opens
-// frmNovy in its frame, hands the save to the orders library, and refills and reselects what
-// the save changed.
-#include "ui/FrmBorovak.h"
+// The entry commands of the main window's orders: orders, assemblies, formats, bands and boards.
+#include "ui/OvladacZakazek.h"
 
 #include "printing/Operace.h"
 
 #include "core/Database.h"
 #include "core/Jednotky.h"
-#include "core/Error.h"
 #include "core/Nastaveni.h"
-#include "core/Soubory.h"
-#include "exchange/ZakazkaJson.h"
 #include "core/Uloziste.h"
 #include "orders/Desky.h"
 #include "orders/Materialy.h"
+#include "orders/Vyber.h"
 #include "orders/Zakazky.h"
 #include "ui/FrmImport.h"
 #include "ui/FrmNovy.h"
 #include "ui/QtPrompt.h"
 
-#include <QAction>
 #include <QTabWidget>
 #include <QTableWidget>
 #include <QTreeWidget>
 
 using PoUlozeni = FrmNovy::PoUlozeni;
 
-void FrmBorovak::pridejPrikazyZaznamu()
+void OvladacZakazek::NovaZakazka()
 {
-    const std::pair<QStringList, void (FrmBorovak::*)()> prikazy[] = {
-        {{"NZakazka"}, &FrmBorovak::NovaZakazka},
-        {{"UpraveniZakazky"}, &FrmBorovak::UpravitZakazku},
-        {{"SmazaniZakazky"}, &FrmBorovak::SmazatZakazku},
-        {{"NSestava"}, &FrmBorovak::NovaSestava},
-        {{"USestava"}, &FrmBorovak::UpravitSestavu},
-        {{"SmazaniSestavy"}, &FrmBorovak::SmazatSestavu},
-        {{"NovyPloM", "cmdNovyPM"}, &FrmBorovak::NovyPM},
-        {{"UpraveniPM", "cmdUpravitPM"}, &FrmBorovak::UpravitPM},
-        {{"SmazaniPM", "cmdSmazatPM"}, &FrmBorovak::SmazatPM},
-        {{"cmdImport"}, &FrmBorovak::ImportDesek},
-    };
-    for (const auto& [nazvy, f] : prikazy)
-        m_prikazy.pridej(nazvy, [this, f = f] { (this->*f)(); });
-    // formats and bands share their routines; the table says which is which
-    const std::pair<QStringList, void (FrmBorovak::*)(bool)> materialy[] = {
-        {{"NF", "cmdNovyFormat", "NH", "cmdNovaHrana"}, &FrmBorovak::NovyMaterial},
-        {{"UF", "cmdUpravitFormat", "UH", "cmdUpravitHrana"}, &FrmBorovak::UpravitMaterial},
-        {{"SF", "cmdSmazatFormat", "SH", "cmdSmazatHrana"}, &FrmBorovak::SmazatMaterial},
-    };
-    for (const auto& [nazvy, f] : materialy) {
-        m_prikazy.pridej(nazvy.mid(0, 2), [this, f = f] { (this->*f)(false); });
-        m_prikazy.pridej(nazvy.mid(2, 2), [this, f = f] { (this->*f)(true); });
-    }
-}
-
-void FrmBorovak::vyberUzel(QString zakazka, QString sestava)
-{
-    NaplnitStrom();
-    for (int i = 0; i < m_tvzakazky->topLevelItemCount(); ++i) {
-        QTreeWidgetItem* z = m_tvzakazky->topLevelItem(i);
-        if (z->text(0) != zakazka)
-            continue;
-        QTreeWidgetItem* cil = z;
-        for (int j = 0; j < z->childCount(); ++j)
-            if (!sestava.isEmpty() && z->child(j)->data(0, Qt::UserRole + 1).toString() == sestava)
-                cil = z->child(j);
-        m_tvzakazky->setCurrentItem(cil);
-        m_tvzakazky->scrollToItem(cil);
-    }
-    m_AktZakazka = zakazka;
-    m_AktSestava = sestava;
-    m_vyber.obnov(zakazka, sestava);
-}
-
-void FrmBorovak::otevriSoubor(const QString& soubor)
-{
-    try {
-        vyberUzel(ZakazkaJson::nacti(m_uloziste.dataS(), Soubory::nacti(soubor)), QString());
-    } catch (const Error& e) {
-        m_prompt.zprava(e.text(), QStringLiteral("Chyba"), Prompt::Ikona::Kriticka);
-    }
-}
-
-void FrmBorovak::NovaZakazka()
-{
-    FrmNovy d(this, m_uloziste.cenik(), m_prompt);
+    FrmNovy d(m_okno, m_uloziste.cenik(), m_prompt);
     QString ulozena;
     d.zakazka(FrmNovy::Stav::NovaZakazka, QString(), QString(), [&](const QString& nazev, const QString& poznamka) {
         if (!Zakazky::UlozitNovouZakazku(m_uloziste.dataS(), m_prompt, nazev, poznamka))
@@ -98,9 +37,9 @@ void FrmBorovak::NovaZakazka()
     NovyMaterial(false); // an order without a format cannot receive boards
 }
 
-void FrmBorovak::UpravitZakazku()
+void OvladacZakazek::UpravitZakazku()
 {
-    FrmNovy d(this, m_uloziste.cenik(), m_prompt);
+    FrmNovy d(m_okno, m_uloziste.cenik(), m_prompt);
     const QString stara = m_vyber.txtzakazka();
     QString nova;
     d.zakazka(FrmNovy::Stav::UpraveniZakazky, stara, Zakazky::poznamka(m_uloziste.dataS(), stara),
@@ -114,7 +53,7 @@ void FrmBorovak::UpravitZakazku()
         vyberUzel(nova, QString());
 }
 
-void FrmBorovak::SmazatZakazku()
+void OvladacZakazek::SmazatZakazku()
 {
     if (!Zakazky::SmazatZakazku(m_uloziste.dataS(), m_prompt, m_vyber.txtzakazka()))
         return;
@@ -123,9 +62,9 @@ void FrmBorovak::SmazatZakazku()
     vyberUzel(dalsi ? dalsi->text(0) : QString(), QString());
 }
 
-void FrmBorovak::NovaSestava()
+void OvladacZakazek::NovaSestava()
 {
-    FrmNovy d(this, m_uloziste.cenik(), m_prompt);
+    FrmNovy d(m_okno, m_uloziste.cenik(), m_prompt);
     QString ulozena;
     d.sestava(FrmNovy::Stav::NovaSestava, {QString(), QString(), 1, 0}, [&](const Zakazky::Sestava& s) {
         if (!Zakazky::UlozitNovouSestavu(m_uloziste.dataS(), m_prompt, m_vyber.txtzakazka(), s))
@@ -140,9 +79,9 @@ void FrmBorovak::NovaSestava()
     NovyPM();
 }
 
-void FrmBorovak::UpravitSestavu()
+void OvladacZakazek::UpravitSestavu()
 {
-    FrmNovy d(this, m_uloziste.cenik(), m_prompt);
+    FrmNovy d(m_okno, m_uloziste.cenik(), m_prompt);
     const QString stara = m_vyber.txtSestava();
     Nastaveni::SaveSetting(QStringLiteral("Editor"), QStringLiteral("Sestava"), stara);
     QString nova;
@@ -157,7 +96,7 @@ void FrmBorovak::UpravitSestavu()
         vyberUzel(m_vyber.txtzakazka(), nova);
 }
 
-void FrmBorovak::SmazatSestavu()
+void OvladacZakazek::SmazatSestavu()
 {
     if (Zakazky::SmazatSestavu(m_uloziste.dataS(), m_prompt, m_vyber.txtzakazka(), m_vyber.txtSestava()))
         vyberUzel(m_vyber.txtzakazka(), QString());
@@ -210,10 +149,10 @@ void nastavRadek(QTableWidget* grid, const QString& akce, int predtim)
 
 } // namespace
 
-void FrmBorovak::NovyMaterial(bool hrana)
+void OvladacZakazek::NovyMaterial(bool hrana)
 {
     m_stZakazky->setCurrentIndex(0);
-    FrmNovy d(this, m_uloziste.cenik(), m_prompt);
+    FrmNovy d(m_okno, m_uloziste.cenik(), m_prompt);
     d.material(hrana ? FrmNovy::Stav::NovaHrana : FrmNovy::Stav::NovyFormat, {}, [&](const Materialy::Material& m) {
         const bool ok = hrana ? Materialy::UlozitNovouHranu(m_uloziste.dataS(), m_vyber.txtzakazka(), m)
                               : Materialy::UlozitNovyFormat(m_uloziste.dataS(), m_vyber.txtzakazka(), m);
@@ -225,19 +164,19 @@ void FrmBorovak::NovyMaterial(bool hrana)
     });
 }
 
-std::optional<Materialy::Material> FrmBorovak::vybranyMaterial(bool hrana)
+std::optional<Materialy::Material> OvladacZakazek::vybranyMaterial(bool hrana)
 {
     m_stZakazky->setCurrentIndex(0);
     return aktualni(hrana ? m_GridHrany : m_GridFormaty, hrana ? Materialy::hrany(m_uloziste.dataS(), m_vyber.txtzakazka())
                                                                : Materialy::formaty(m_uloziste.dataS(), m_vyber.txtzakazka()));
 }
 
-void FrmBorovak::UpravitMaterial(bool hrana)
+void OvladacZakazek::UpravitMaterial(bool hrana)
 {
     const auto m = vybranyMaterial(hrana);
     if (!m)
         return;
-    FrmNovy d(this, m_uloziste.cenik(), m_prompt);
+    FrmNovy d(m_okno, m_uloziste.cenik(), m_prompt);
     d.material(hrana ? FrmNovy::Stav::UpraveniHrany : FrmNovy::Stav::UpraveniFormatu, *m, [&](const Materialy::Material& z) {
         if (hrana) {
             if (!Materialy::UlozitUpravuHrany(m_uloziste.dataS(), m_vyber.txtzakazka(), z))
@@ -255,7 +194,7 @@ void FrmBorovak::UpravitMaterial(bool hrana)
     });
 }
 
-void FrmBorovak::SmazatMaterial(bool hrana)
+void OvladacZakazek::SmazatMaterial(bool hrana)
 {
     const auto m = vybranyMaterial(hrana);
     if (!m)
@@ -266,7 +205,7 @@ void FrmBorovak::SmazatMaterial(bool hrana)
         hrana ? NaplnitGridHrany(QStringLiteral("Odstraneni zaznamu")) : NaplnitGridFormaty(QStringLiteral("Odstraneni zaznamu"));
 }
 
-void FrmBorovak::NaplnitGridFormaty(const QString& akce)
+void OvladacZakazek::NaplnitGridFormaty(const QString& akce)
 {
     const int predtim = m_GridFormaty->currentRow();
     const auto vse = Materialy::formaty(m_uloziste.dataS(), m_vyber.txtzakazka());
@@ -285,7 +224,7 @@ void FrmBorovak::NaplnitGridFormaty(const QString& akce)
           radek);
 }
 
-void FrmBorovak::NaplnitGridHrany(const QString& akce)
+void OvladacZakazek::NaplnitGridHrany(const QString& akce)
 {
     const int predtim = m_GridHrany->currentRow();
     const auto vse = Materialy::hrany(m_uloziste.dataS(), m_vyber.txtzakazka());
@@ -306,7 +245,7 @@ void FrmBorovak::NaplnitGridHrany(const QString& akce)
           radek);
 }
 
-void FrmBorovak::NaplnitGridPM(const QString& akce)
+void OvladacZakazek::NaplnitGridPM(const QString& akce)
 {
     const int predtim = m_GPM->currentRow();
     const auto radky = m_AktSestava.isEmpty()
@@ -328,11 +267,11 @@ void FrmBorovak::NaplnitGridPM(const QString& akce)
     povol({QStringLiteral("cmdNovyPM")}, !m_AktSestava.isEmpty());
 }
 
-void FrmBorovak::NovyPM()
+void OvladacZakazek::NovyPM()
 {
     const QString zakazka = m_vyber.txtzakazka(), sestava = m_vyber.txtSestava();
     const Nabidka n = nabidka(m_uloziste.dataS(), zakazka);
-    FrmNovy d(this, m_uloziste.cenik(), m_prompt);
+    FrmNovy d(m_okno, m_uloziste.cenik(), m_prompt);
     d.deska(FrmNovy::Stav::NovyPM, n.textyFormatu, n.textyHran, n.hrany, {QString(), 0, 0, 1}, {},
             [&](const Desky::Deska& z, const FrmNovy::TextyDesky& t) {
                 if (Desky::UlozitNovyPM(m_uloziste.dataS(), m_prompt, zakazka, sestava, sIdy(m_uloziste.dataS(), zakazka, z, t))
@@ -344,7 +283,7 @@ void FrmBorovak::NovyPM()
             });
 }
 
-void FrmBorovak::UpravitPM()
+void OvladacZakazek::UpravitPM()
 {
     const int r = m_GPM->currentRow();
     if (r < 0)
@@ -362,7 +301,7 @@ void FrmBorovak::UpravitPM()
         for (size_t i = 0; i < n.hrany.size(); ++i)
             if (n.hrany[i].ID == deska.hrany[s])
                 texty.hrany[s] = n.textyHran[int(i)];
-    FrmNovy d(this, m_uloziste.cenik(), m_prompt);
+    FrmNovy d(m_okno, m_uloziste.cenik(), m_prompt);
     d.deska(FrmNovy::Stav::UpraveniPM, n.textyFormatu, n.textyHran, n.hrany, deska, texty,
             [&](const Desky::Deska& z, const FrmNovy::TextyDesky& t) {
                 const QString puvodni = Nastaveni::GetSetting(QStringLiteral("Editor"), QStringLiteral("PM"));
@@ -376,7 +315,7 @@ void FrmBorovak::UpravitPM()
             });
 }
 
-void FrmBorovak::SmazatPM()
+void OvladacZakazek::SmazatPM()
 {
     const int r = m_GPM->currentRow();
     if (r < 0)
@@ -387,11 +326,11 @@ void FrmBorovak::SmazatPM()
     }
 }
 
-void FrmBorovak::ImportDesek()
+void OvladacZakazek::ImportDesek()
 {
     if (m_AktSestava.isEmpty())
         return;
-    FrmImport d(m_uloziste.dataS(), m_prompt, m_vyber.txtzakazka(), m_vyber.txtSestava(), this);
+    FrmImport d(m_uloziste.dataS(), m_prompt, m_vyber.txtzakazka(), m_vyber.txtSestava(), m_okno);
     if (d.exec() == QDialog::Accepted) {
         NaplnitGridHrany(QStringLiteral("Novy zaznam"));
         NaplnitGridPM(QStringLiteral("Novy zaznam"));
