@@ -33,7 +33,7 @@ constexpr int TwipuNaPixel = 15; // the old window positions were kept in screen
 } // namespace
 
 FrmBorovak::FrmBorovak(Uloziste& uloziste, Prompt& prompt)
-    : m_uloziste(uloziste), m_prompt(prompt), m_data(uloziste, prompt, [this] { poObnoveDat(); }),
+    : m_uloziste(uloziste), m_prompt(prompt), m_data(uloziste, prompt, [this](Schema::Soubor) { poObnoveDat(); }),
       m_vypisy(uloziste, prompt, m_vyber, this, [this](const QString& n) { return popisekPrikazu(n); }),
       m_katalogy(uloziste, prompt, this, [this] { NactiSchema(); }), m_jazyk(*this, prompt)
 {

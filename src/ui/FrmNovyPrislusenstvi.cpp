@@ -30,14 +30,15 @@ void FrmNovy::prislusenstvi(Stav stavRamce, const QStringList& nazvy, const QStr
     nazev->setMinimumWidth(320);
     nazev->addItems(nazvy);
     nazev->setToolTip(QStringLiteral("Název z ceníku (EP) nebo vlastní"));
-    auto* pocet = new QLineEdit;
-    pocet->setObjectName(QStringLiteral("txtPocetPrislusenstvi"));
+    // the quantity and the price as the grid shows them: "0.000" and "0.00"
+    auto* pocet = RamecNovy::pole("txtPocetPrislusenstvi", CiselnePole::Druh::Desetinne, 3);
+    pocet->nastavTvar(CiselnePole::sDesetinnymi(3));
     auto* jednotka = new QComboBox;
     jednotka->setObjectName(QStringLiteral("txtJednotka"));
     jednotka->setEditable(true);
     jednotka->addItems(jednotky);
-    auto* cena = new QLineEdit;
-    cena->setObjectName(QStringLiteral("txtCena"));
+    auto* cena = RamecNovy::pole("txtCena", CiselnePole::Druh::Desetinne, 2);
+    cena->nastavTvar(CiselnePole::sDesetinnymi(2));
     auto* popisek = new QLabel;
     popisek->setObjectName(QStringLiteral("lblCenaJednotka"));
     auto* radekCeny = new QHBoxLayout;
