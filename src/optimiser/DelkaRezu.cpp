@@ -2,66 +2,62 @@
 
 #include <QRectF>
 #include <algorithm>
-#include <optional>
 
 namespace {
 
-// The cut length inside kus (tenths) that frees every board of desky. A cut runs across the
-// whole piece at a board's edge that no board straddles; a cut with boards on both sides comes
-// before one that only trims waste off, and of those the first from the left or the top.
+// The cuts that free one board from the waste around it in kus: a cut at each side with a gap,
+// the cuts across the piece first in the direction that makes the shorter sum.
+double orez(const QRectF& kus, const QRectF& d, double tolerance)
+{
+    const int svisle = int(d.left() - kus.left() > tolerance) + int(kus.right() - d.right() > tolerance);
+    const int vodorovne = int(d.top() - kus.top() > tolerance) + int(kus.bottom() - d.bottom() > tolerance);
+    return std::min(svisle * kus.height() + vodorovne * d.width(), vodorovne * kus.width() + svisle * d.height());
+}
+
+// The cut length inside kus (tenths) that frees every board of desky: a cut across the whole
+// piece at a board's edge that no board straddles and that leaves boards on both sides, the
+// first from the left, then from the top; a piece with one board is trimmed by orez.
 double rezy(const QRectF& kus, std::vector<QRectF> desky, double tolerance)
 {
     if (desky.empty())
         return 0;
-    if (desky.size() == 1 && desky[0].left() - kus.left() <= tolerance && kus.right() - desky[0].right() <= tolerance &&
-        desky[0].top() - kus.top() <= tolerance && kus.bottom() - desky[0].bottom() <= tolerance)
-        return 0;
-    struct Rez {
-        bool svisly;
-        double poloha;
-        bool obeStrany;
-    };
-    std::optional<Rez> nejlepsi;
+    if (desky.size() == 1)
+        return orez(kus, desky[0], tolerance);
     for (const bool svisly : {true, false}) {
-        const double od = svisly ? kus.left() : kus.top(), po = svisly ? kus.right() : kus.bottom();
+        const auto od = [svisly](const QRectF& r) { return svisly ? r.left() : r.top(); };
+        const auto po = [svisly](const QRectF& r) { return svisly ? r.right() : r.bottom(); };
+        std::vector<double> hrany;
         for (const QRectF& d : desky)
-            for (const double hrana : {svisly ? d.left() : d.top(), svisly ? d.right() : d.bottom()}) {
-                if (hrana - od <= tolerance || po - hrana <= tolerance)
-                    continue;
-                bool pred = false, za = false, pres = false;
-                for (const QRectF& e : desky) {
-                    const double a = svisly ? e.left() : e.top(), b = svisly ? e.right() : e.bottom();
-                    pres = pres || (a < hrana - 0.01 && b > hrana + 0.01);
-                    pred = pred || b <= hrana + 0.01;
-                    za = za || a >= hrana - 0.01;
-                }
-                if (pres)
-                    continue;
-                const Rez r{svisly, hrana, pred && za};
-                if (!nejlepsi || (r.obeStrany && !nejlepsi->obeStrany) ||
-                    (r.obeStrany == nejlepsi->obeStrany && r.svisly == nejlepsi->svisly && r.poloha < nejlepsi->poloha))
-                    nejlepsi = r;
+            hrany.push_back(po(d));
+        std::sort(hrany.begin(), hrany.end());
+        for (const double hrana : hrany) {
+            if (po(kus) - hrana <= tolerance)
+                continue;
+            std::vector<QRectF> pred, za;
+            bool pres = false;
+            for (const QRectF& d : desky) {
+                pres = pres || (od(d) < hrana - 0.01 && po(d) > hrana + 0.01);
+                (po(d) <= hrana + 0.01 ? pred : za).push_back(d);
             }
+            if (pres || pred.empty() || za.empty())
+                continue;
+            QRectF prvni = kus, druhy = kus;
+            if (svisly) {
+                prvni.setRight(hrana);
+                druhy.setLeft(hrana);
+            } else {
+                prvni.setBottom(hrana);
+                druhy.setTop(hrana);
+            }
+            return (svisly ? kus.height() : kus.width()) + rezy(prvni, std::move(pred), tolerance) +
+                   rezy(druhy, std::move(za), tolerance);
+        }
     }
-    if (!nejlepsi) { // no guillotine cut frees them: each board's own outline, shared sides once
-        double obvod = 0;
-        for (const QRectF& d : desky)
-            obvod += d.width() + d.height();
-        return obvod;
-    }
-    QRectF prvni = kus, druhy = kus;
-    if (nejlepsi->svisly) {
-        prvni.setRight(nejlepsi->poloha);
-        druhy.setLeft(nejlepsi->poloha);
-    } else {
-        prvni.setBottom(nejlepsi->poloha);
-        druhy.setTop(nejlepsi->poloha);
-    }
-    std::vector<QRectF> vPrvnim, veDruhem;
+    // no guillotine cut parts them (not a plan of ours): each board's own outline, once
+    double obvod = 0;
     for (const QRectF& d : desky)
-        ((nejlepsi->svisly ? d.right() : d.bottom()) <= nejlepsi->poloha + 0.01 ? vPrvnim : veDruhem).push_back(d);
-    return (nejlepsi->svisly ? kus.height() : kus.width()) + rezy(prvni, std::move(vPrvnim), tolerance) +
-           rezy(druhy, std::move(veDruhem), tolerance);
+        obvod += d.width() + d.height();
+    return obvod;
 }
 
 } // namespace
