@@ -5,14 +5,15 @@
 #include "core/Error.h"
 #include "core/Nastaveni.h"
 #include "core/Uloziste.h"
-#include "optimiser/OdepisOdrezky.h"
 #include "optimiser/PlanRun.h"
 #include "optimiser/StartNP.h"
 #include "optimiser/VypisNP.h"
 #include "orders/RadkyZakazky.h"
 #include "planoutput/ExportCNC.h"
+#include "planoutput/SeznamDilcu.h"
 #include "planoutput/Stitky.h"
 #include "planoutput/StrankyNP.h"
+#include "planoutput/ZapisDoSkladu.h"
 #include "printing/Vykresleni.h"
 
 #include <QJsonDocument>
@@ -75,6 +76,7 @@ int prikazPlan(const QStringList& vstup)
     const QString stitky = Cli::vezmiVolbu(argumenty, QStringLiteral("--labels-pdf"));
     const QString vpf = Cli::vezmiVolbu(argumenty, QStringLiteral("--vpf"));
     const bool odepsat = Cli::vezmiPrepinac(argumenty, QStringLiteral("--write-back"));
+    const QString csv = Cli::vezmiVolbu(argumenty, QStringLiteral("--csv"));
     if (argumenty.size() != 1 || format.isNull() || rezim.isNull())
         throw Cli::ChybaPouziti(QStringLiteral("plan NÁZEV --format ID --mode kombinovane|podelne|pricne|usporne [--cas S]"));
     const QString zakazka = argumenty[0];
@@ -111,8 +113,10 @@ int prikazPlan(const QStringList& vstup)
         ulozPdf(u, run, pdf, stitky);
     // the export numbers the part kinds and remnants, so it goes before the dump shows them
     const bool vpfZapsan = !vpf.isNull() && ExportCNC::zapis(u.dataS(), u.dataK(), PlanNaStrankach::z(run), vpf);
+    if (!csv.isNull())
+        SeznamDilcu::uloz(u.dataK(), zakazka, csv);
     if (odepsat)
-        OdepisOdrezky(u.dataS(), u.dataK(), Cli::prompt(), zakazka, idFormatu);
+        ZapisDoSkladu::zapis(u.dataS(), u.dataK(), Cli::prompt(), zakazka, idFormatu);
     if (dump)
         Cli::out() << QString::fromUtf8(QJsonDocument(VypisNP(u.dataK(), run)).toJson(QJsonDocument::Compact)) << '\n';
     else

@@ -90,10 +90,11 @@ int spustVypis(const QStringList& vstup, DruhVypisu druh)
     const QString pdf = Cli::vezmiVolbu(argumenty, QStringLiteral("--pdf"));
     const Vyber v = vyber(argumenty);
     Uloziste& u = Cli::uloziste();
+    const std::vector<Rezani::Format> rezani = Rezani::zakazky(u, v.zakazka, v.nazvy);
     u.ObnovPracovniDatabazi();
     Database& k = u.dataK();
     Dokument d;
-    const VysledekVypisu r = SestavVypis(druh, d, k, u.cenik(), v.zakazka, v.nazvy, v.texty);
+    const VysledekVypisu r = SestavVypis(druh, d, k, u.cenik(), v.zakazka, v.nazvy, v.texty, rezani);
     QJsonObject o;
     if (druh == DruhVypisu::Sestavy || druh == DruhVypisu::Nabidka)
         o.insert(QStringLiteral("sestavy"), sestavyJson(r.sestavy, druh == DruhVypisu::Nabidka));

@@ -15,7 +15,8 @@ struct VolbaPisma {
 class Prompt {
 public:
     enum class Ikona { Zadna, Informace, Otaznik, Vykricnik, Kriticka };
-    enum class Tlacitka { Ok, AnoNe, AnoNeStorno, OkStorno };
+    // AnoNeVychoziNe: Yes and No with No as the default, for a question whose safe answer is No.
+    enum class Tlacitka { Ok, AnoNe, AnoNeStorno, OkStorno, AnoNeVychoziNe };
     enum class Odpoved { Ok, Ano, Ne, Storno };
 
     virtual ~Prompt() = default;

@@ -24,7 +24,29 @@ struct Slevy {
 
 // One costing pass: celkem covers the whole order (quantities times the assembly count),
 // otherwise one piece of each assembly.
-void napln(Database& db, const QString& zakazka, const Vyber& vyber, bool celkem)
+// The cutting's rows, after everything else.
+void pridejRezani(Recordset& out, const std::vector<Rezani::Format>& rezani, bool celkem)
+{
+    const double jc = Zaokrouhli(Rezani::cenaZaMetr(), 2);
+    for (const Rezani::Format& f : rezani) {
+        out.addNew();
+        out.set(QStringLiteral("ID"), true);
+        out.set(QStringLiteral("cislo"), CisloRezani);
+        out.set(QStringLiteral("Sestava"), QStringLiteral(""));
+        if (!celkem)
+            out.set(QStringLiteral("pocetsestav"), 1);
+        out.set(QStringLiteral("Material"), f.material);
+        out.set(QStringLiteral("Oznaceni"), QString());
+        out.set(QStringLiteral("mnozstvi"), f.metru);
+        out.set(QStringLiteral("plocha"), 0.0);
+        out.set(QStringLiteral("JC"), jc);
+        out.set(QStringLiteral("Cena"), Zaokrouhli(f.metru * jc, 2));
+        out.set(QStringLiteral("jednotka"), QStringLiteral("m"));
+        out.update();
+    }
+}
+
+void napln(Database& db, const QString& zakazka, const Vyber& vyber, bool celkem, const std::vector<Rezani::Format>& rezani)
 {
     const Slevy s;
     db.execute(QStringLiteral("DELETE * FROM SoupisProKalkulaci"));
@@ -113,6 +135,7 @@ void napln(Database& db, const QString& zakazka, const Vyber& vyber, bool celkem
             out.set(QStringLiteral("jednotka"), QStringLiteral("m"));
             out.update();
         });
+    pridejRezani(out, rezani, celkem);
 }
 
 // A row's quantity in the unit of its price: area, length or pieces.
@@ -136,20 +159,19 @@ std::pair<double, double> soucet(Recordset& g, bool kratPocet)
     return {cena, mnozstvi};
 }
 
-// Each distinct Material of SoupisProKalkulaci (of one assembly when sestava is not null), case-blind as the
-// store groups, with the group's rows.
-void kazdyMaterial(Database& db, const QString& sestava,
+// Each distinct Material of the rows of SoupisProKalkulaci that meet podminka (with its bound
+// hodnoty; empty: all rows), case-blind as the store groups, with the group's rows.
+void kazdyMaterial(Database& db, const QString& podminka, const QVariantList& hodnoty,
                    const std::function<void(const QString& material, Recordset& skupina)>& naMaterial)
 {
-    const QString vSestave = sestava.isNull() ? QString() : QStringLiteral("Sestava = ? and ");
-    const QVariantList hodnoty = sestava.isNull() ? QVariantList() : QVariantList{sestava};
-    const QString vse = sestava.isNull() ? QStringLiteral("SELECT * FROM SoupisProKalkulaci ORDER BY Material")
-                                         : QStringLiteral("SELECT * FROM SoupisProKalkulaci WHERE Sestava = ? ORDER BY Material");
+    const QString kde = podminka.isEmpty() ? QString() : podminka + QStringLiteral(" and ");
+    const QString vse = podminka.isEmpty()
+                            ? QStringLiteral("SELECT * FROM SoupisProKalkulaci ORDER BY Material")
+                            : QStringLiteral("SELECT * FROM SoupisProKalkulaci WHERE ") + podminka + QStringLiteral(" ORDER BY Material");
     PruchodZakazky::kazdaSkupina(Recordset(db, vse, hodnoty), QStringLiteral("Material"), [&](const Recordset& m, int) {
         const QString material = m.text(QStringLiteral("Material"));
         Recordset g(db,
-                    QStringLiteral("SELECT * FROM SoupisProKalkulaci WHERE ") + vSestave +
-                        QStringLiteral("Material = ? ORDER BY Material"),
+                    QStringLiteral("SELECT * FROM SoupisProKalkulaci WHERE ") + kde + QStringLiteral("Material = ? ORDER BY Material"),
                     hodnoty + QVariantList{material});
         naMaterial(material, g);
     });
@@ -157,49 +179,56 @@ void kazdyMaterial(Database& db, const QString& sestava,
 
 } // namespace
 
-void NaplnKalkulaciZakazky(Database& dataK, const QString& zakazka, const Vyber& sestavy)
+void NaplnKalkulaciZakazky(Database& dataK, const QString& zakazka, const Vyber& sestavy,
+                           const std::vector<Rezani::Format>& rezani)
 {
     Transakce t(dataK);
-    napln(dataK, zakazka, sestavy, true);
+    napln(dataK, zakazka, sestavy, true, rezani);
     t.commit();
 }
 
-void NaplnKalkulaciSestav(Database& dataK, const QString& zakazka, const Vyber& sestavy)
+void NaplnKalkulaciSestav(Database& dataK, const QString& zakazka, const Vyber& sestavy,
+                          const std::vector<Rezani::Format>& rezani)
 {
     Transakce t(dataK);
     dataK.execute(QStringLiteral("DELETE * FROM SoupisProKalkulaciCelkem"));
-    napln(dataK, zakazka, sestavy, false);
+    napln(dataK, zakazka, sestavy, false, rezani);
     // totals per assembly and material
     Recordset celkem(dataK, QStringLiteral("SoupisProKalkulaciCelkem"), Recordset::Rozsah::Prvni);
+    const auto pridejCelkem = [&](const QString& material, Recordset& g) {
+        const auto [cena, mnozstvi] = soucet(g, false);
+        celkem.addNew();
+        celkem.set(QStringLiteral("Material"), material);
+        for (const char* pole : {"Sestava", "schema", "pocetsestav", "popis", "JC", "jednotka", "cislo"})
+            celkem.set(QLatin1String(pole), g.value(QLatin1String(pole)));
+        celkem.set(QStringLiteral("mnozstvi"), mnozstvi);
+        celkem.set(QStringLiteral("Cena"), cena);
+        celkem.update();
+    };
+    const QString bezRezani = QStringLiteral("cislo <> %1").arg(CisloRezani);
     PruchodZakazky::kazdaSkupina(
-        Recordset(dataK, QStringLiteral("SELECT * FROM SoupisProKalkulaci  ORDER BY Sestava")), QStringLiteral("Sestava"),
-        [&](const Recordset& a, int) {
-            const QString sestava = a.text(QStringLiteral("Sestava"));
-            kazdyMaterial(dataK, sestava, [&](const QString& material, Recordset& g) {
-                const auto [cena, mnozstvi] = soucet(g, false);
-                celkem.addNew();
-                celkem.set(QStringLiteral("Material"), material);
-                for (const char* pole : {"Sestava", "schema", "pocetsestav", "popis", "JC", "jednotka", "cislo"})
-                    celkem.set(QLatin1String(pole), g.value(QLatin1String(pole)));
-                celkem.set(QStringLiteral("mnozstvi"), mnozstvi);
-                celkem.set(QStringLiteral("Cena"), cena);
-                celkem.update();
-            });
+        Recordset(dataK, QStringLiteral("SELECT * FROM SoupisProKalkulaci  WHERE ") + bezRezani + QStringLiteral(" ORDER BY Sestava")),
+        QStringLiteral("Sestava"), [&](const Recordset& a, int) {
+            kazdyMaterial(dataK, QStringLiteral("Sestava = ?"), {a.text(QStringLiteral("Sestava"))}, pridejCelkem);
         });
+    // the cutting belongs to the order, not to an assembly: its totals stand apart
+    kazdyMaterial(dataK, QStringLiteral("cislo = %1").arg(CisloRezani), {}, pridejCelkem);
     t.commit();
 }
 
-void NaplnKalkulaciMaterialu(Database& dataK, const QString& zakazka, const Vyber& sestavy)
+void NaplnKalkulaciMaterialu(Database& dataK, const QString& zakazka, const Vyber& sestavy,
+                             const std::vector<Rezani::Format>& rezani)
 {
     Transakce t(dataK);
     dataK.execute(QStringLiteral("DELETE * FROM SoupisProKalkulaciCelkem"));
-    napln(dataK, zakazka, sestavy, false);
+    napln(dataK, zakazka, sestavy, false, rezani);
     // totals per material over the order: one piece's rows times the assembly count
     Recordset celkem(dataK, QStringLiteral("SoupisProKalkulaciCelkem"), Recordset::Rozsah::Prvni);
-    kazdyMaterial(dataK, QString(), [&](const QString& material, Recordset& g) {
+    kazdyMaterial(dataK, QString(), {}, [&](const QString& material, Recordset& g) {
         const auto [cena, mnozstvi] = soucet(g, true);
         const bool hrana = g.cislo(QStringLiteral("delka")) != 0;
-        const bool prislusenstvi = !hrana && g.cislo(QStringLiteral("plocha")) == 0;
+        const bool jeRezani = g.cislo(QStringLiteral("cislo")) == CisloRezani;
+        const bool prislusenstvi = !hrana && !jeRezani && g.cislo(QStringLiteral("plocha")) == 0;
         celkem.addNew();
         celkem.set(QStringLiteral("Material"), material);
         for (const char* pole : {"JC", "jednotka", "cislo"})
@@ -207,6 +236,7 @@ void NaplnKalkulaciMaterialu(Database& dataK, const QString& zakazka, const Vybe
         celkem.set(QStringLiteral("mnozstvi"), mnozstvi);
         celkem.set(QStringLiteral("Cena"), cena);
         celkem.set(QStringLiteral("popis"), hrana           ? QStringLiteral("Hrana")
+                                            : jeRezani      ? QStringLiteral("Rezani")
                                             : prislusenstvi ? QStringLiteral("Prislusenstvi")
                                                             : QString());
         celkem.update();
@@ -229,10 +259,11 @@ Ceny ZobrazCeny(Uloziste& u, const QString& zakazka, const QString& sestava)
                QLatin1Char(' ') + mena;
     };
     Ceny c;
+    const std::vector<Rezani::Format> rezani = Rezani::zakazky(u, zakazka);
     u.ObnovPracovniDatabazi();
     try {
         Database& k = u.dataK();
-        NaplnKalkulaciZakazky(k, zakazka);
+        NaplnKalkulaciZakazky(k, zakazka, {}, rezani);
         c.zakazka = text(k.hodnota(QStringLiteral("SELECT sum(cena) FROM SoupisProKalkulaci  ")));
         if (!sestava.isEmpty()) {
             NaplnKalkulaciSestav(k, zakazka);

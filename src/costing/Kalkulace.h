@@ -4,6 +4,8 @@
 // SoupisProKalkulaciCelkem), per material over the order (NaplnKalkulaciMaterialu) or for the whole order
 // (NaplnKalkulaciZakazky), and the two prices of the main window's status bar (ZobrazCeny). They fill the tables of the plan
 // database DataK.
+#include "costing/Rezani.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -15,12 +17,19 @@ namespace Kalkulace {
 // The assemblies the calculation covers; empty: all.
 using Vyber = QStringList;
 
+// cislo of the cutting's rows (rezani): one per format, of the order (Sestava ""), priced per
+// metre of cut without discount; none when rezani is empty.
+constexpr int CisloRezani = 4;
+
 // Throws Error 5 naming board and assembly when a board's format row is gone.
-void NaplnKalkulaciZakazky(Database& dataK, const QString& zakazka, const Vyber& sestavy = {});
-void NaplnKalkulaciSestav(Database& dataK, const QString& zakazka, const Vyber& sestavy = {});
+void NaplnKalkulaciZakazky(Database& dataK, const QString& zakazka, const Vyber& sestavy = {},
+                           const std::vector<Rezani::Format>& rezani = {});
+void NaplnKalkulaciSestav(Database& dataK, const QString& zakazka, const Vyber& sestavy = {},
+                          const std::vector<Rezani::Format>& rezani = {});
 // One piece's rows, and totals per material over the order for the purchase list: popis of a
-// total is "Hrana", "Prislusenstvi" or empty for sheet material.
-void NaplnKalkulaciMaterialu(Database& dataK, const QString& zakazka, const Vyber& sestavy = {});
+// total is "Hrana", "Prislusenstvi", "Rezani" or empty for sheet material.
+void NaplnKalkulaciMaterialu(Database& dataK, const QString& zakazka, const Vyber& sestavy = {},
+                             const std::vector<Rezani::Format>& rezani = {});
 // The workshop list's table SoupisProDilnu: sizes, band colours and notes, no prices.
 void NaplnSoupisProDilnu(Database& dataK, const QString& zakazka, const Vyber& sestavy = {});
 

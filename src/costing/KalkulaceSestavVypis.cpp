@@ -4,6 +4,7 @@
 #include "core/Jednotky.h"
 #include "core/Recordset.h"
 #include "core/Zaokrouhleni.h"
+#include "costing/Kalkulace.h"
 #include "costing/PruchodZakazky.h"
 #include "printing/Operace.h"
 
@@ -14,14 +15,16 @@ namespace {
 double mm(double v) { return Dokument::mm(v); }
 QString m() { return QLatin1Char(' ') + Vypis::mena(); }
 
-// The rows of one assembly (sestava) in its order.
-void polozkySestavy(Dokument& d, Database& k, const QString& sestava)
+// The rows of one assembly (sestava) in its order; with rezani the cutting's rows instead.
+void polozkySestavy(Dokument& d, Database& k, const QString& sestava, bool rezani = false)
 {
     const Tabulka t{{mm(90), mm(25), mm(25), mm(25)},
                     {Vypis::zarovnani(6), Vypis::zarovnani(8), Vypis::zarovnani(8), Vypis::zarovnani(8)}};
     d.pismo.velikost = 8;
     d.pismo.tucne = false;
-    for (Recordset r(k, QStringLiteral("SELECT * FROM SoupisProKalkulaciCelkem WHERE Sestava = ? order by cislo"), {sestava});
+    const QString podminka = rezani ? QStringLiteral("cislo = %1").arg(Kalkulace::CisloRezani) : QStringLiteral("Sestava = ?");
+    for (Recordset r(k, QStringLiteral("SELECT * FROM SoupisProKalkulaciCelkem WHERE ") + podminka + QStringLiteral(" order by cislo"),
+                     rezani ? QVariantList{} : QVariantList{sestava});
          !r.eof(); r.moveNext()) {
         const QString jednotka = r.text(QStringLiteral("jednotka"));
         d.AddRow(t, RadekTabulky{{r.text(QStringLiteral("Material")),
@@ -47,6 +50,23 @@ void cenyTabulka(Dokument& d, double levy, double pravy, const QList<QPair<QStri
     d.pismo.tucne = false;
 }
 
+// The cutting after the assemblies: its rows and its price, which the assembly calculation adds
+// to its base (the quotation's base sums every row anyway).
+double rezani(Dokument& d, Database& k, bool nabidka)
+{
+    const QVariant cena = k.hodnota(
+        QStringLiteral("SELECT sum(cena) FROM SoupisProKalkulaciCelkem WHERE cislo = %1").arg(Kalkulace::CisloRezani));
+    if (cena.isNull())
+        return 0;
+    Vypis::pasSestavy(d, QStringLiteral("Řezání"), 1, QString());
+    polozkySestavy(d, k, QString(), true);
+    const double c = Zaokrouhli(cena.toDouble(), 2);
+    cenyTabulka(d, nabidka ? 55 : 50, nabidka ? 35 : 25, {{QStringLiteral("cena za řezání (bez DPH):"), Vypis::castka(c) + m()}});
+    Vypis::zlomStranyPodPrahem(d);
+    d.CurrentY += 200;
+    return nabidka ? 0 : c;
+}
+
 } // namespace
 
 VysledekSestav KalkulaceSestavVypis(Dokument& d, Database& k, Database& cenik, const QString& zakazka, const QStringList& sestavy,
@@ -59,7 +79,9 @@ VysledekSestav KalkulaceSestavVypis(Dokument& d, Database& k, Database& cenik, c
     double zaklad = 0;
     const double dph = Vypis::procentoDPH();
     PruchodZakazky::kazdaSkupina(
-        Recordset(k, QStringLiteral("SELECT * FROM SoupisProKalkulaciCelkem  order by Sestava")), QStringLiteral("Sestava"),
+        Recordset(k, QStringLiteral("SELECT * FROM SoupisProKalkulaciCelkem WHERE cislo <> %1 order by Sestava")
+                         .arg(Kalkulace::CisloRezani)),
+        QStringLiteral("Sestava"),
         [&](const Recordset& a, int) {
             const QString sestava = a.text(QStringLiteral("Sestava"));
             const double pocet = a.cislo(QStringLiteral("pocetsestav"));
@@ -96,6 +118,7 @@ VysledekSestav KalkulaceSestavVypis(Dokument& d, Database& k, Database& cenik, c
             Vypis::zlomStranyPodPrahem(d);
             d.CurrentY += 200;
         });
+    zaklad += rezani(d, k, nabidka);
     if (nabidka)
         for (Recordset r(k, QStringLiteral("SoupisProKalkulaciCelkem")); !r.eof(); r.moveNext())
             zaklad += r.cislo(QStringLiteral("Cena")) * r.cislo(QStringLiteral("pocetsestav"));
@@ -112,7 +135,7 @@ QString nakupMaterialu(const QString& popis, const QString& material, double mno
     auto cele = [](double v) { return std::floor(Zaokrouhli(v, 6)); };
     if (popis == QLatin1String("Hrana"))
         return QString::number(cele(mnozstvi) + 1, 'f', 0) + QLatin1Char(' ') + jednotka;
-    if (popis == QLatin1String("Prislusenstvi"))
+    if (popis == QLatin1String("Prislusenstvi") || popis == QLatin1String("Rezani"))
         return Vypis::castka(mnozstvi, 3) + QLatin1Char(' ') + jednotka;
     // the sheet's size is the last bracket of the name: "name (2800 mm x 2070 mm)"
     const QString rozmer =

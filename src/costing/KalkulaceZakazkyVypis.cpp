@@ -3,6 +3,7 @@
 #include "core/Database.h"
 #include "core/Jednotky.h"
 #include "core/Recordset.h"
+#include "costing/Kalkulace.h"
 #include "costing/PruchodZakazky.h"
 #include "printing/Operace.h"
 
@@ -62,16 +63,17 @@ void oddil(Dokument& d, Database& k, const Oddil& o)
         });
 }
 
-void prislusenstvi(Dokument& d, Database& k)
+// The rows priced by their own unit: the accessories, and the cutting of the formats.
+void poJednotkach(Dokument& d, Database& k, const QString& nadpis, const QString& podminka)
 {
-    Recordset r(k, QStringLiteral("SELECT * FROM SoupisProKalkulaci  WHERE len(Oznaceni) = 0  order by sestava"));
+    Recordset r(k, QStringLiteral("SELECT * FROM SoupisProKalkulaci  WHERE ") + podminka + QStringLiteral("  order by sestava"));
     if (r.eof())
         return;
     const QString m = QLatin1Char(' ') + Vypis::mena();
     d.CurrentY += 500;
     d.pismo.velikost = 10;
     const double sirka = d.PageWidth() - d.MarginLeft - d.MarginRight;
-    RadekTabulky pas{{QStringLiteral("Příslušenství:")}, mm(7)};
+    RadekTabulky pas{{nadpis}, mm(7)};
     pas.pozadi = Vypis::SedaTlacitka;
     d.AddRow(Tabulka{{sirka}, {}}, pas);
     const Tabulka detail{
@@ -86,8 +88,7 @@ void prislusenstvi(Dokument& d, Database& k)
                       Vypis::castka(r.cislo(QStringLiteral("Cena"))) + m});
     }
     Vypis::souhrn(
-        d, {Vypis::castka(
-                k.hodnota(QStringLiteral("SELECT sum(cena) FROM SoupisProKalkulaci  WHERE len(Oznaceni) = 0 ")).toDouble()) +
+        d, {Vypis::castka(k.hodnota(QStringLiteral("SELECT sum(cena) FROM SoupisProKalkulaci  WHERE ") + podminka).toDouble()) +
             m});
 }
 
@@ -103,7 +104,9 @@ Vypis::Dan KalkulaceZakazkyVypis(Dokument& d, Database& k, const QString& zakazk
     if (desky)
         d.CurrentY += 400;
     oddil(d, k, {"delka > 0", "/m", Barva::zVB(0xFFFFC0), Vypis::SedaZvyrazneni, true});
-    prislusenstvi(d, k);
+    poJednotkach(d, k, QStringLiteral("Příslušenství:"),
+                 QStringLiteral("len(Oznaceni) = 0 and cislo <> %1").arg(Kalkulace::CisloRezani));
+    poJednotkach(d, k, QStringLiteral("Řezání:"), QStringLiteral("cislo = %1").arg(Kalkulace::CisloRezani));
     const Vypis::Dan dan = Vypis::dan(k.hodnota(QStringLiteral("SELECT sum(cena) FROM SoupisProKalkulaci  ")).toDouble());
     Vypis::souhrnDane(d, dan);
     d.EndDoc();

@@ -5,13 +5,13 @@
 #include "costing/SoupisProDilnuVypis.h"
 
 VysledekVypisu SestavVypis(DruhVypisu druh, Dokument& d, Database& k, Database& cenik, const QString& zakazka,
-                           const QStringList& nazvy, const QStringList& texty)
+                           const QStringList& nazvy, const QStringList& texty, const std::vector<Rezani::Format>& rezani)
 {
     VysledekVypisu v;
     v.tabulky = {QStringLiteral("SoupisProKalkulaci"), QStringLiteral("SoupisProKalkulaciCelkem")};
     switch (druh) {
     case DruhVypisu::Zakazka:
-        Kalkulace::NaplnKalkulaciZakazky(k, zakazka, nazvy);
+        Kalkulace::NaplnKalkulaciZakazky(k, zakazka, nazvy, rezani);
         v.dan = KalkulaceZakazkyVypis(d, k, zakazka, texty);
         v.titulek = QString::fromUtf8(TitulekKalkulaceZakazky);
         v.tabulky.removeLast();
@@ -19,7 +19,7 @@ VysledekVypisu SestavVypis(DruhVypisu druh, Dokument& d, Database& k, Database& 
     case DruhVypisu::Sestavy:
     case DruhVypisu::Nabidka: {
         const bool nabidka = druh == DruhVypisu::Nabidka;
-        Kalkulace::NaplnKalkulaciSestav(k, zakazka, nazvy);
+        Kalkulace::NaplnKalkulaciSestav(k, zakazka, nazvy, rezani);
         VysledekSestav r = KalkulaceSestavVypis(d, k, cenik, zakazka, texty, nabidka ? DruhSestav::Nabidka : DruhSestav::Kalkulace);
         v.dan = r.dan;
         v.sestavy = std::move(r.sestavy);
@@ -27,7 +27,7 @@ VysledekVypisu SestavVypis(DruhVypisu druh, Dokument& d, Database& k, Database& 
         break;
     }
     case DruhVypisu::Nakup: {
-        Kalkulace::NaplnKalkulaciMaterialu(k, zakazka, nazvy);
+        Kalkulace::NaplnKalkulaciMaterialu(k, zakazka, nazvy, rezani);
         VysledekNakupu r = NakupVypis(d, k, zakazka, texty);
         v.dan = r.dan;
         v.nakup = std::move(r.nakup);

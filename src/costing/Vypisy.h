@@ -2,6 +2,7 @@
 // The five reports of the calculation dialog by one name: each fills its working table for the
 // chosen assemblies and lays itself out; the caller shows, prints or saves the document.
 #include "costing/KalkulaceSestavVypis.h"
+#include "costing/Rezani.h"
 
 #include <optional>
 
@@ -17,5 +18,6 @@ struct VysledekVypisu {
 
 // nazvy: the chosen assemblies (empty: all); texty: their list entries for the page heads.
 // Throws Error 5 naming board and assembly when a board's format row is gone.
+// rezani: the cutting's rows of the calculations (Rezani::zakazky), made before dataK.
 VysledekVypisu SestavVypis(DruhVypisu druh, Dokument& d, Database& dataK, Database& cenik, const QString& zakazka,
-                           const QStringList& nazvy, const QStringList& texty);
+                           const QStringList& nazvy, const QStringList& texty, const std::vector<Rezani::Format>& rezani = {});

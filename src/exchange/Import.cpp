@@ -34,7 +34,7 @@ struct Radek {
     QString nazev;
     double x, y;
     double pocet;
-    QString hrany[4];
+    QString hrany[4]; // the band materials' names, empty for none
 };
 
 // A number as typed: a decimal comma or point.
@@ -49,27 +49,109 @@ std::optional<double> cislo(const QString& pole)
     return d;
 }
 
-// One line of the list: its board, its refusal, or nothing for a blank line.
-std::variant<std::monostate, Radek, Odmitnuti> rozeberRadek(const QString& linka, int n)
+// A name as a header may write it: case and accents aside.
+QString bezDiakritiky(const QString& t)
 {
-    if (linka.trimmed().isEmpty())
-        return std::monostate();
+    QString v;
+    for (const QChar c : t.trimmed().toLower().normalized(QString::NormalizationForm_D))
+        if (c.category() != QChar::Mark_NonSpacing)
+            v += c;
+    return v;
+}
+
+// The fields of a line of a spreadsheet's list: cut at the separator (";" and tab, or ","),
+// a field in double quotes may hold it, and "" stands for a quote.
+QStringList poleCsv(const QString& linka, QChar oddelovac)
+{
+    QStringList pole{QString()};
+    bool vUvozovkach = false;
+    for (qsizetype i = 0; i < linka.size(); ++i) {
+        const QChar c = linka[i];
+        if (c == QLatin1Char('"') && vUvozovkach && i + 1 < linka.size() && linka[i + 1] == QLatin1Char('"')) {
+            pole.last() += c;
+            ++i;
+        } else if (c == QLatin1Char('"')) {
+            vUvozovkach = !vUvozovkach;
+        } else if (!vUvozovkach && (c == oddelovac || (oddelovac == QLatin1Char(';') && c == QLatin1Char('\t')))) {
+            pole << QString();
+        } else {
+            pole.last() += c;
+        }
+    }
+    return pole;
+}
+
+} // namespace
+
+std::optional<Hlavicka> hlavicka(const QString& prvniRadek)
+{
+    const QChar oddelovac = prvniRadek.contains(QLatin1Char(';')) || prvniRadek.contains(QLatin1Char('\t'))
+                                ? QLatin1Char(';')
+                                : QLatin1Char(',');
+    Hlavicka h;
+    h.oddelovac = oddelovac;
+    const QStringList pole = poleCsv(prvniRadek, oddelovac);
+    for (int i = 0; i < pole.size(); ++i) {
+        const QString n = bezDiakritiky(pole[i]);
+        int* sloupec = n == QLatin1String("nazev") || n == QLatin1String("oznaceni") ? &h.nazev
+                       : n == QLatin1String("delka")                                 ? &h.x
+                       : n == QLatin1String("sirka")                                 ? &h.y
+                       : n == QLatin1String("pocet")                                 ? &h.pocet
+                                                                                     : nullptr;
+        for (int j = 0; j < 4; ++j)
+            if (n == bezDiakritiky(QString::fromUtf8(SloupceHran[j])))
+                sloupec = &h.hrany[j];
+        if (sloupec && *sloupec < 0)
+            *sloupec = i;
+    }
+    if (h.x < 0 || h.y < 0)
+        return std::nullopt;
+    return h;
+}
+
+namespace {
+
+// The eight fields of a line in the old order (name, length, width, count, bands), from a list
+// with a header by its columns, else as they stand; nullopt when a line has more than eight.
+std::optional<QStringList> osmPoli(const QString& linka, const std::optional<Hlavicka>& h)
+{
     static const QRegularExpression oddelovac(QStringLiteral("[\t;]"));
-    const Odmitnuti chyba{QStringLiteral("Chyba při převodu řádku č. %1").arg(n), n};
-    QStringList pole = linka.split(oddelovac);
+    QStringList pole;
+    if (h) {
+        const QStringList vse = poleCsv(linka, h->oddelovac);
+        for (int i : {h->nazev, h->x, h->y, h->pocet, h->hrany[0], h->hrany[1], h->hrany[2], h->hrany[3]})
+            pole << (i >= 0 ? vse.value(i) : QString());
+        if (h->pocet < 0)
+            pole[3] = QStringLiteral("1");
+    } else {
+        pole = linka.split(oddelovac);
+    }
     for (QString& p : pole)
         p = p.trimmed();
     while (pole.size() > 8 && pole.last().isEmpty())
         pole.removeLast();
     if (pole.size() > 8)
-        return chyba;
+        return std::nullopt;
     while (pole.size() < 8)
         pole << QString();
-    Radek r{n, pole[0], 0, 0, 0, {pole[4], pole[5], pole[6], pole[7]}};
+    return pole;
+}
+
+// One line of the list: its board, its refusal, or nothing for a blank line. A band is given
+// by its thickness ("hrana 2"); under a header also by its material's name.
+std::variant<std::monostate, Radek, Odmitnuti> rozeberRadek(const QString& linka, int n, const std::optional<Hlavicka>& h)
+{
+    if (linka.trimmed().isEmpty() || (h && n == h->radek))
+        return std::monostate();
+    const Odmitnuti chyba{QStringLiteral("Chyba při převodu řádku č. %1").arg(n), n};
+    const std::optional<QStringList> pole = osmPoli(linka, h);
+    if (!pole)
+        return chyba;
+    Radek r{n, pole->at(0), 0, 0, 0, {}};
     if (const QString spatny = KontrolaTextu::chyba(r.nazev, QStringLiteral("Název desky")); !spatny.isEmpty())
         return Odmitnuti{chyba.zprava + QStringLiteral(": ") + spatny, n};
     // sizes in the user's unit, to millimetres
-    const auto x = cislo(pole[1]), y = cislo(pole[2]), pocet = cislo(pole[3]);
+    const auto x = cislo(pole->at(1)), y = cislo(pole->at(2)), pocet = cislo(pole->at(3));
     if (!x || !y || !pocet)
         return chyba;
     r.x = Jednotky::NaMilimetry(Dotaz::cislo(*x));
@@ -78,12 +160,20 @@ std::variant<std::monostate, Radek, Odmitnuti> rozeberRadek(const QString& linka
     if (r.x <= 0 || r.y <= 0 || r.x > MaxHodnota || r.y > MaxHodnota || r.pocet <= 0 || r.pocet > MaxHodnota ||
         r.pocet != std::trunc(r.pocet))
         return chyba;
-    for (const QString& h : r.hrany) {
-        if (h.isEmpty())
+    for (int i = 0; i < 4; ++i) {
+        const QString& t = pole->at(4 + i);
+        if (t.isEmpty())
             continue;
-        const auto tloustka = cislo(h);
-        if (!tloustka || *tloustka < 0 || *tloustka > MaxHodnota)
+        const auto tloustka = cislo(t);
+        if (!tloustka && h) {
+            if (const QString spatny = KontrolaTextu::chyba(t, QStringLiteral("Hrana")); !spatny.isEmpty())
+                return Odmitnuti{chyba.zprava + QStringLiteral(": ") + spatny, n};
+            r.hrany[i] = t;
+        } else if (!tloustka || *tloustka < 0 || *tloustka > MaxHodnota) {
             return chyba;
+        } else if (*tloustka > 0) {
+            r.hrany[i] = QStringLiteral("hrana ") + t;
+        }
     }
     return r;
 }
@@ -129,9 +219,9 @@ public:
         return zaklad + QString::number(n);
     }
 
-    double hrana(const QString& tloustka)
+    // The band of that name, made (price 5, a random colour) when the order has none.
+    double hrana(const QString& nazev)
     {
-        const QString nazev = QStringLiteral("hrana ") + tloustka;
         if (const auto it = m_hrany.find(nazev.toLower()); it != m_hrany.end())
             return *it;
         const auto rs = RadkyZakazky::materialPodleNazvu(m_db, m_zakazka, nazev);
@@ -215,10 +305,20 @@ Vysledek importuj(Database& db, const QString& zakazka, const QString& sestava, 
     // A first pass only reads, so a refused line costs no writes; the second writes each
     // board as its line is read, all in one transaction that a stop or a failure rolls back.
     // Neither keeps more than one line.
+    // a spreadsheet's list names its columns in its first line
+    std::optional<Hlavicka> h;
+    radky(text, [&](const QString& linka, int n, qsizetype) {
+        if (linka.trimmed().isEmpty())
+            return true;
+        h = hlavicka(linka);
+        if (h)
+            h->radek = n;
+        return false;
+    });
     Vysledek v;
     int prvni = 0;
     radky(text, [&](const QString& linka, int n, qsizetype) {
-        auto r = rozeberRadek(linka, n);
+        auto r = rozeberRadek(linka, n, h);
         if (auto* o = std::get_if<Odmitnuti>(&r))
             v.odmitnuti = *o;
         else if (std::holds_alternative<Radek>(r))
@@ -238,13 +338,13 @@ Vysledek importuj(Database& db, const QString& zakazka, const QString& sestava, 
     if (prubeh)
         prubeh->zobraz();
     radky(text, [&](const QString& linka, int n, qsizetype kde) {
-        const auto r = rozeberRadek(linka, n);
+        const auto r = rozeberRadek(linka, n, h);
         const Radek* radek = std::get_if<Radek>(&r);
         if (!radek)
             return true;
         double hrany[4] = {0, 0, 0, 0};
         for (int i = 0; i < 4; ++i)
-            if (!radek->hrany[i].isEmpty() && *cislo(radek->hrany[i]) > 0)
+            if (!radek->hrany[i].isEmpty())
                 hrany[i] = zapis.hrana(radek->hrany[i]);
         zapis.deska(*radek, zapis.jedinecny(radek->nazev), idFormat, hrany, cas);
         if (++v.pridano % 500 == 0 && prubeh) {

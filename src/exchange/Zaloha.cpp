@@ -96,17 +96,20 @@ void zkontroluj(const QString& soubor, Schema::Soubor druh)
     }
 }
 
+QString pripona(Schema::Soubor druh)
+{
+    return druh == Schema::Soubor::Data ? QStringLiteral(".bvk") : QStringLiteral(".cen");
+}
+
 QString navrh(Schema::Soubor druh, const QDate& den)
 {
     return (druh == Schema::Soubor::Data ? QStringLiteral("BData") : QStringLiteral("Cenik")) +
-           QStringLiteral("%1_%2_%3").arg(den.day()).arg(den.month()).arg(den.year()) +
-           (druh == Schema::Soubor::Data ? QStringLiteral(".bvk") : QStringLiteral(".cen"));
+           QStringLiteral("%1_%2_%3").arg(den.day()).arg(den.month()).arg(den.year()) + pripona(druh);
 }
 
 QString filtr(Schema::Soubor druh)
 {
-    return druh == Schema::Soubor::Data ? QStringLiteral("Databáze programu Truhlář (*.bvk)")
-                                        : QStringLiteral("Databáze programu Truhlář (*.cen)");
+    return QStringLiteral("Databáze programu Truhlář (*") + pripona(druh) + QLatin1Char(')');
 }
 
 QString slozka()

@@ -22,6 +22,7 @@ void zkontroluj(const QString& soubor, Schema::Soubor druh);
 
 QString navrh(Schema::Soubor druh, const QDate& den); // "BData5_3_2026.bvk", "Cenik5_3_2026.cen"
 QString filtr(Schema::Soubor druh);                   // "Databáze programu Truhlář (*.bvk)"
+QString pripona(Schema::Soubor druh);                 // ".bvk", ".cen"
 QString slozka();                                     // "Zálohy dat" of the application folder
 
 // Writes a backup into cil, replacing it. The store stays open. Throws Error 5 (cil lies in

@@ -25,16 +25,34 @@ void CiselnePole::keyPressEvent(QKeyEvent* e)
         QLineEdit::keyPressEvent(e);
 }
 
+CiselnePole::Tvar CiselnePole::sDesetinnymi(int mist)
+{
+    return [mist](const QString& t) {
+        QString cislo = Jednotky::CisloZTextu(t.trimmed());
+        if (cislo.isEmpty())
+            return cislo;
+        return QString::number(Val(cislo.replace(Jednotky::oddelovac(), QLatin1Char('.'))), 'f', mist)
+            .replace(QLatin1Char('.'), Jednotky::oddelovac());
+    };
+}
+
 void CiselnePole::focusInEvent(QFocusEvent* e)
 {
     QLineEdit::focusInEvent(e);
-    setText(Jednotky::CisloZTextu(text()));
+    QString cislo = Jednotky::CisloZTextu(text());
+    if (m_tvar) // the price texts write a point whatever the locale: typing goes on in its form
+        cislo.replace(QLatin1Char('.'), Jednotky::oddelovac());
+    setText(cislo);
     QTimer::singleShot(0, this, &QLineEdit::selectAll);
 }
 
 void CiselnePole::focusOutEvent(QFocusEvent* e)
 {
     QLineEdit::focusOutEvent(e);
+    if (m_tvar) {
+        setText(m_tvar(text()));
+        return;
+    }
     if (m_druh != Druh::Delka)
         return;
     const QString cislo = Jednotky::CisloZTextu(text().trimmed());

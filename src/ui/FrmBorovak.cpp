@@ -29,7 +29,7 @@ constexpr int TwipuNaPixel = 15; // the old window positions were kept in screen
 } // namespace
 
 FrmBorovak::FrmBorovak(Uloziste& uloziste, Prompt& prompt)
-    : m_uloziste(uloziste), m_prompt(prompt), m_data(uloziste, prompt, [this] { m_zakazky->poObnoveDat(); }),
+    : m_uloziste(uloziste), m_prompt(prompt), m_data(uloziste, prompt, [this](Schema::Soubor) { m_zakazky->poObnoveDat(); }),
       m_vypisy(uloziste, prompt, m_vyber, this, [this](const QString& n) { return popisekPrikazu(n); }),
       m_katalogy(uloziste, prompt, this, [this] { m_zakazky->NactiSchema(); }), m_jazyk(*this, prompt)
 {

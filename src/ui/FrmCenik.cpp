@@ -5,6 +5,7 @@
 #include "core/Error.h"
 #include "core/Nastaveni.h"
 #include "core/Prompt.h"
+#include "core/Uloziste.h"
 #include "printing/Obrazky.h"
 #include "ui/FrmNahled.h"
 #include "ui/FrmPolozka.h"
@@ -69,8 +70,18 @@ QGroupBox* FrmCenik::vytvorDetail()
     return detailBox;
 }
 
+FrmCenik::FrmCenik(Uloziste& uloziste, Prompt& prompt, QWidget* rodic) : FrmCenik(uloziste.cenik(), prompt, rodic)
+{
+    m_zalohy = std::make_unique<OvladacDat>(uloziste, prompt, [this, &uloziste](Schema::Soubor) {
+        m_cenik = &uloziste.cenik();
+        NaplnCenik();
+    });
+    for (const char* klic : {"ZD", "OZ"})
+        findChild<QAction*>(QLatin1String(klic))->setEnabled(true);
+}
+
 FrmCenik::FrmCenik(Database& cenik, Prompt& prompt, QWidget* rodic, const QString& volajici)
-    : QDialog(rodic), m_cenik(cenik), m_prompt(prompt)
+    : QDialog(rodic), m_cenik(&cenik), m_prompt(prompt)
 {
     setObjectName(QStringLiteral("frmCenik"));
     setWindowTitle(QStringLiteral("Ceník borováckých materiálů"));
@@ -155,15 +166,15 @@ void FrmCenik::NaplnCenik()
     const QString predtim = m_lstCenik->currentItem() ? m_lstCenik->currentItem()->text() : QString();
     m_lstCenik->clear();
     m_lstCenik->addItems(m_chVyber->isChecked()
-                             ? Cenik::hledej(m_cenik, m_txtMaterial->text())
-                             : Cenik::NaplnitSeznamCeniku(m_cenik, Cenik::ulozenyVyber(), Cenik::ulozeneRazeni()));
+                             ? Cenik::hledej(cenik(), m_txtMaterial->text())
+                             : Cenik::NaplnitSeznamCeniku(cenik(), Cenik::ulozenyVyber(), Cenik::ulozeneRazeni()));
     const auto nalezene = m_lstCenik->findItems(predtim, Qt::MatchExactly);
     m_lstCenik->setCurrentRow(nalezene.isEmpty() ? 0 : m_lstCenik->row(nalezene.first()));
 }
 
 void FrmCenik::detail(const QString& nazev)
 {
-    const auto p = Cenik::nacti(m_cenik, nazev);
+    const auto p = Cenik::nacti(cenik(), nazev);
     const double dph = Nastaveni::cislo(QStringLiteral("Setting2"), QStringLiteral("DPH"));
     const QString mena = Nastaveni::GetSetting(QStringLiteral("Setting2"), QStringLiteral("Mena"));
     m_lblKod->setText(p ? QString::number(p->kod) : QString());
@@ -172,8 +183,8 @@ void FrmCenik::detail(const QString& nazev)
     m_obr[0] = p ? p->obr1 : 0;
     m_obr[1] = p ? p->obr2 : 0;
     for (int i = 0; i < 2; ++i) {
-        m_lblObr[i]->setText(m_obr[i] ? Knihovna::nazev(m_cenik, Knihovna::Druh::Obrazky, m_obr[i]) : QString());
-        const QImage obr = m_obr[i] ? Knihovna::obrazek(m_cenik, Knihovna::Druh::Obrazky, m_obr[i]) : QImage();
+        m_lblObr[i]->setText(m_obr[i] ? Knihovna::nazev(cenik(), Knihovna::Druh::Obrazky, m_obr[i]) : QString());
+        const QImage obr = m_obr[i] ? Knihovna::obrazek(cenik(), Knihovna::Druh::Obrazky, m_obr[i]) : QImage();
         if (obr.isNull())
             m_img[i]->clear();
         else
@@ -185,7 +196,7 @@ bool FrmCenik::eventFilter(QObject* o, QEvent* e)
 {
     for (int i = 0; i < 2; ++i)
         if (o == m_img[i] && e->type() == QEvent::MouseButtonRelease && m_obr[i]) {
-            const QImage obr = Knihovna::obrazek(m_cenik, Knihovna::Druh::Obrazky, m_obr[i]);
+            const QImage obr = Knihovna::obrazek(cenik(), Knihovna::Druh::Obrazky, m_obr[i]);
             if (!obr.isNull()) {
                 FrmNahled nahled(obr, m_lstCenik->currentItem() ? m_lstCenik->currentItem()->text() : QString(), m_prompt, this);
                 nahled.exec();
@@ -204,12 +215,16 @@ void FrmCenik::prikaz(const QString& klic)
         else if (klic == QStringLiteral("UPoložky") && !nazev.isEmpty())
             polozka(nazev);
         else if (klic == QStringLiteral("OPoložky") && !nazev.isEmpty()) {
-            if (Cenik::SmazatPolozku(m_cenik, m_prompt, nazev))
+            if (Cenik::SmazatPolozku(cenik(), m_prompt, nazev))
                 NaplnCenik();
+        } else if (klic == QLatin1String("ZD") && m_zalohy) {
+            m_zalohy->ZalohaCeniku();
+        } else if (klic == QLatin1String("OZ") && m_zalohy) {
+            m_zalohy->ObnovaCeniku();
         } else if (klic == QLatin1String("TiskPC")) {
             FrmVSP vsp(m_prompt, this);
             vsp.setWindowTitle(QString::fromUtf8(Cenik::TitulekVypisu));
-            Cenik::TiskCeniku(vsp.dokument(), m_cenik, Cenik::ulozenyVyber(), Cenik::ulozeneRazeni());
+            Cenik::TiskCeniku(vsp.dokument(), cenik(), Cenik::ulozenyVyber(), Cenik::ulozeneRazeni());
             vsp.obnov();
             vsp.exec();
         } else if (QStringList{QStringLiteral("VM"), QStringLiteral("VF"), QStringLiteral("VH"), QStringLiteral("EP")}.contains(
@@ -227,7 +242,7 @@ void FrmCenik::prikaz(const QString& klic)
 
 bool FrmCenik::polozka(const QString& staryNazev)
 {
-    FrmPolozka d(m_cenik, m_prompt, staryNazev, this);
+    FrmPolozka d(cenik(), m_prompt, staryNazev, this);
     if (d.exec() != QDialog::Accepted)
         return false;
     NaplnCenik();

@@ -1,8 +1,12 @@
 #pragma once
 // frmCenik: the price list lstCenik in the chosen group and order (both saved at once), the
 // search, the chosen item's detail with its two pictures, and the keys for a new item, an edit
-// (frmPolozka), deletion and the printed list.
+// (frmPolozka), deletion and the printed list; opened from the menu, also the backup and the
+// restore of the price list.
+#include "ui/OvladacDat.h"
+
 #include <QDialog>
+#include <memory>
 
 class Database;
 class Prompt;
@@ -18,9 +22,12 @@ public:
     // klic: the calling field's key (VM, VF, VH, EP), which enables the choosing keys; empty
     // when opened from the menu.
     FrmCenik(Database& cenik, Prompt& prompt, QWidget* rodic, const QString& klic = QString());
+    // From the menu: with "Záloha ceníku" and "Obnova ceníku"; after a restore the window reads
+    // the reopened store.
+    FrmCenik(Uloziste& uloziste, Prompt& prompt, QWidget* rodic);
 
     void NaplnCenik();
-    void prikaz(const QString& klic); // NPoložka, UPoložky, OPoložky, TiskPC, Konec, VM, VF, VH, EP
+    void prikaz(const QString& klic); // NPoložka, UPoložky, OPoložky, ZD, OZ, TiskPC, Konec, VM, VF, VH, EP
     // The item chosen with VM, VF, VH or EP: its name (empty when the window closed otherwise).
     QString vybrano() const { return m_vybrano; }
 
@@ -32,8 +39,11 @@ private:
     void detail(const QString& nazev);
     bool polozka(const QString& staryNazev); // frmPolozka
 
-    Database& m_cenik;
+    Database& cenik() const { return *m_cenik; }
+
+    Database* m_cenik;
     Prompt& m_prompt;
+    std::unique_ptr<OvladacDat> m_zalohy; // the price list's backups, when opened from the menu
     QListWidget* m_lstCenik;
     QCheckBox* m_chVyber;
     QLineEdit* m_txtMaterial;

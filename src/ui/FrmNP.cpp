@@ -4,9 +4,10 @@
 #include "core/Error.h"
 #include "core/Nastaveni.h"
 #include "core/Uloziste.h"
-#include "optimiser/OdepisOdrezky.h"
 #include "planoutput/ExportCNC.h"
+#include "planoutput/SeznamDilcu.h"
 #include "planoutput/Stitky.h"
+#include "planoutput/ZapisDoSkladu.h"
 #include "printing/UlozeniPdf.h"
 #include "ui/FrmVSP.h"
 #include "ui/Ikony.h"
@@ -39,6 +40,9 @@ FrmNP::FrmNP(Uloziste& uloziste, Prompt& prompt, const PlanNaStrankach& plan, QW
             &QAction::triggered, this, &FrmNP::OdepisOdrezky);
     connect(pridejAkci(QStringLiteral("CNC"), QStringLiteral("Export pro pilu (VPF)"), Ikony::znacka(QStringLiteral("CNC"), seda)),
             &QAction::triggered, this, &FrmNP::ExportCNC);
+    connect(pridejAkci(QStringLiteral("CSV"), QStringLiteral("Seznam dílců pro tabulkový procesor (CSV)"),
+                       Ikony::znacka(QStringLiteral("CSV"), QColor(0x20, 0x4a, 0x87))),
+            &QAction::triggered, this, &FrmNP::SeznamDilcu);
     connect(pridejAkci(QStringLiteral("TiskStitku"), QStringLiteral("Tisk štítků"),
                        Ikony::znacka(QStringLiteral("▭"), QColor(0x4e, 0x9a, 0x06))),
             &QAction::triggered, this, &FrmNP::TiskStitku);
@@ -88,7 +92,7 @@ void FrmNP::TiskStitku()
 void FrmNP::OdepisOdrezky()
 {
     try {
-        ::OdepisOdrezky(m_uloziste.dataS(), m_uloziste.dataK(), m_prompt, m_plan.zakazka, m_plan.idFormatu);
+        ZapisDoSkladu::zapis(m_uloziste.dataS(), m_uloziste.dataK(), m_prompt, m_plan.zakazka, m_plan.idFormatu);
     } catch (const Error& e) {
         m_prompt.zprava(e.text(), QString(), Prompt::Ikona::Kriticka);
     }
@@ -126,5 +130,32 @@ void FrmNP::ExportCNC()
     } catch (const Error&) {
         QApplication::restoreOverrideCursor();
         m_prompt.zprava(QString::fromUtf8(ExportCNC::ChybaPrevodu), QString(), Prompt::Ikona::Kriticka);
+    }
+}
+
+void FrmNP::SeznamDilcu()
+{
+    const QString slozka = Aplikace::cesta(QStringLiteral("Nářezové plány"));
+    QDir().mkpath(slozka);
+    QString cesta;
+    try {
+        cesta = m_prompt.soubor(true, QStringLiteral("Uložení seznamu dílců..."), slozka,
+                                ::SeznamDilcu::navrhNazvu(m_plan.zakazka), QString::fromUtf8(::SeznamDilcu::Filtr));
+    } catch (const Error&) {
+        return; // cancelled
+    }
+    if (cesta.isEmpty())
+        return;
+    if (!cesta.endsWith(QLatin1String(".csv"), Qt::CaseInsensitive))
+        cesta += QStringLiteral(".csv");
+    if (QFileInfo::exists(cesta) &&
+        m_prompt.zprava(QStringLiteral("Soubor pod tímto názvem již existuje, chcete ho přepsat ?"), QStringLiteral("Upozornění !!!"),
+                        Prompt::Ikona::Vykricnik, Prompt::Tlacitka::AnoNe) != Prompt::Odpoved::Ano)
+        return;
+    try {
+        ::SeznamDilcu::uloz(m_uloziste.dataK(), m_plan.zakazka, cesta);
+        m_prompt.zprava(QStringLiteral("Seznam dílců byl uložen do ") + cesta, QStringLiteral("Uloženo.."), Prompt::Ikona::Informace);
+    } catch (const Error& e) {
+        m_prompt.zprava(e.text(), QStringLiteral("Chyba zápisu"), Prompt::Ikona::Kriticka);
     }
 }

@@ -1,7 +1,7 @@
 #pragma once
 // frmNP: the plan viewer shown at the end of a plan run, over the plan in DataK. Prints,
-// saves as PDF, prints labels, books the plan against the offcut store (Sklad) and writes the
-// panel saw's file (CNC). Closing it closes DataK.
+// saves as PDF, prints labels, books the plan against the offcut store (Sklad), writes the
+// panel saw's file (CNC) and the cut list for a spreadsheet (CSV). Closing it closes DataK.
 #include "planoutput/StrankyNP.h"
 #include "ui/OknoDokumentu.h"
 
@@ -19,6 +19,7 @@ public:
     void TiskStitku();
     void OdepisOdrezky();
     void ExportCNC();
+    void SeznamDilcu();
     void nahled(); // page 1, the whole page in view
 
 private:

@@ -121,6 +121,10 @@ private:
     // A button that opens frmCenik with the caller's key and hands the chosen item to prevezmi.
     QPushButton* tlacitkoCeniku(const QString& klic,
                                 const std::function<void(const QString& nazev, double cena, const QString& jednotka)>& prevezmi);
+    // A name chosen from the combo's drop-down list hands the price-list item to prevezmi, as
+    // the button does (a typed name brings nothing).
+    void prevezmiZCeniku(QComboBox* nazev,
+                         const std::function<void(const QString& nazev, double cena, const QString& jednotka)>& prevezmi);
     // A button that opens frmSchema on the schema in lblSchema and puts the choice there.
     QPushButton* tlacitkoSchematu(QLabel* lblSchema, QLabel* imgSchema);
     void ukazSchema(int ide, QLabel* imgSchema) const;

@@ -8,6 +8,7 @@
 #include "ui/FrmCenik.h"
 #include "ui/FrmObr.h"
 
+#include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
 
@@ -37,6 +38,15 @@ QPushButton* FrmNovy::tlacitkoCeniku(const QString& klic,
             prevezmi(p->nazev, p->cena, p->jednotka);
     });
     return b;
+}
+
+void FrmNovy::prevezmiZCeniku(QComboBox* nazev,
+                              const std::function<void(const QString&, double, const QString&)>& prevezmi)
+{
+    connect(nazev, &QComboBox::textActivated, this, [this, prevezmi](const QString& t) {
+        if (const auto p = m_cenik ? Cenik::nacti(*m_cenik, t) : std::nullopt)
+            prevezmi(p->nazev, p->cena, p->jednotka);
+    });
 }
 
 void FrmNovy::ukazSchema(int ide, QLabel* imgSchema) const

@@ -27,9 +27,12 @@ void FrmNovy::prislusenstvi(Stav stavRamce, const QStringList& nazvy, const QStr
     auto* nazev = RamecNovy::seznam("txtNPrislusenstvi", nazvy);
     nazev->setMinimumWidth(320);
     nazev->setToolTip(QStringLiteral("Název z ceníku (EP) nebo vlastní"));
-    auto* pocet = RamecNovy::text("txtPocetPrislusenstvi");
+    // the quantity and the price as the grid shows them: "0.000" and "0.00"
+    auto* pocet = RamecNovy::pole("txtPocetPrislusenstvi", CiselnePole::Druh::Desetinne, 3);
+    pocet->nastavTvar(CiselnePole::sDesetinnymi(3));
     auto* jednotka = RamecNovy::seznam("txtJednotka", jednotky);
-    auto* cena = RamecNovy::text("txtCena");
+    auto* cena = RamecNovy::pole("txtCena", CiselnePole::Druh::Desetinne, 2);
+    cena->nastavTvar(CiselnePole::sDesetinnymi(2));
     auto* popisek = new QLabel;
     popisek->setObjectName(QStringLiteral("lblCenaJednotka"));
     auto* radekCeny = new QHBoxLayout;

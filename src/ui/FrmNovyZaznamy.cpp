@@ -177,6 +177,7 @@ struct PoleMaterialu {
         ov->setObjectName(QStringLiteral("chOVFormat"));
         barva->setObjectName(QStringLiteral("pctBarvaHrany"));
         barva->setFixedSize(60, 22);
+        cena->nastavTvar(hrana ? Jednotky::CenaZaMetr : Jednotky::CenaZaPlochu);
     }
     void vyplnit(const Materialy::Material& z)
     {
@@ -260,11 +261,12 @@ void FrmNovy::material(Stav stavRamce, const Materialy::Material& m,
     p->ukazBarvu(Barva::zVB(m.barva));
     auto* radekNazvu = new QHBoxLayout;
     radekNazvu->addWidget(p->nazev, 1);
-    radekNazvu->addWidget(
-        tlacitkoCeniku(hrana ? QStringLiteral("VH") : QStringLiteral("VF"), [p](const QString& n, double c, const QString&) {
-            p->nazev->setCurrentText(n);
-            p->cena->setText(Jednotky::cislo(c));
-        }));
+    const auto prevezmi = [p](const QString& n, double c, const QString&) {
+        p->nazev->setCurrentText(n);
+        p->cena->setText(Jednotky::cislo(c));
+    };
+    radekNazvu->addWidget(tlacitkoCeniku(hrana ? QStringLiteral("VH") : QStringLiteral("VF"), prevezmi));
+    prevezmiZCeniku(p->nazev, prevezmi);
     p->rozloz(r.formular, radekNazvu);
     connect(p->barva, &QPushButton::clicked, this, [p, this] {
         if (!m_prompt)

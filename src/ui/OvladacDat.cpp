@@ -11,7 +11,7 @@
 #include <QDir>
 #include <QFile>
 
-OvladacDat::OvladacDat(Uloziste& uloziste, Prompt& prompt, std::function<void()> poObnove)
+OvladacDat::OvladacDat(Uloziste& uloziste, Prompt& prompt, std::function<void(Schema::Soubor)> poObnove)
     : m_uloziste(uloziste), m_prompt(prompt), m_poObnove(std::move(poObnove))
 {
 }
@@ -22,20 +22,19 @@ void OvladacDat::pridejPrikazy(TabulkaPrikazu& tabulka)
     tabulka.pridej({QStringLiteral("OD")}, [this] { ObnovaDat(); });
 }
 
-void OvladacDat::ZalohaDat()
+void OvladacDat::zaloha(Schema::Soubor druh)
 {
     try {
         QDir().mkpath(Zaloha::slozka());
-        const QString soubor =
-            m_prompt.soubor(true, QStringLiteral("Vytvoření zálohy..."), Zaloha::slozka(),
-                            Zaloha::navrh(Schema::Soubor::Data, Razitko::ted().date()), Zaloha::filtr(Schema::Soubor::Data));
-        const QString cil =
-            soubor.endsWith(QLatin1String(".bvk"), Qt::CaseInsensitive) ? soubor : soubor + QStringLiteral(".bvk");
+        const QString soubor = m_prompt.soubor(true, QStringLiteral("Vytvoření zálohy..."), Zaloha::slozka(),
+                                               Zaloha::navrh(druh, Razitko::ted().date()), Zaloha::filtr(druh));
+        const QString pripona = Zaloha::pripona(druh);
+        const QString cil = soubor.endsWith(pripona, Qt::CaseInsensitive) ? soubor : soubor + pripona;
         if (QFile::exists(cil) && m_prompt.zprava(QStringLiteral("Soubor pod tímto názvem již existuje, chcete ho přepsat ?"),
                                                   QStringLiteral("Upozornění !!!"), Prompt::Ikona::Vykricnik,
                                                   Prompt::Tlacitka::AnoNe) != Prompt::Odpoved::Ano)
             return;
-        Zaloha::zalohuj(m_uloziste, Schema::Soubor::Data, cil);
+        Zaloha::zalohuj(m_uloziste, druh, cil);
         m_prompt.zprava(QStringLiteral("Zálohování bylo úspěšně dokončeno"), QStringLiteral("Uloženo.."),
                         Prompt::Ikona::Informace);
     } catch (const Error& e) {
@@ -45,16 +44,16 @@ void OvladacDat::ZalohaDat()
     }
 }
 
-void OvladacDat::ObnovaDat()
+void OvladacDat::obnova(Schema::Soubor druh)
 {
     try {
         QDir().mkpath(Zaloha::slozka());
         const QString soubor = m_prompt.soubor(false, QStringLiteral("Vložení zálohovaných dat..."), Zaloha::slozka(), QString(),
-                                               Zaloha::filtr(Schema::Soubor::Data));
-        if (Zaloha::obnov(m_uloziste, Schema::Soubor::Data, soubor, m_prompt))
-            m_poObnove();
+                                               Zaloha::filtr(druh));
+        if (Zaloha::obnov(m_uloziste, druh, soubor, m_prompt))
+            m_poObnove(druh);
     } catch (const Error& e) {
-        const Zaloha::Zprava z = Zaloha::zpravaObnovy(e, Schema::Soubor::Data);
+        const Zaloha::Zprava z = Zaloha::zpravaObnovy(e, druh);
         if (!z.text.isEmpty())
             m_prompt.zprava(z.text, z.titulek, Prompt::Ikona::Kriticka);
         if (z.konec)

@@ -15,7 +15,7 @@ OvladacKatalogu::OvladacKatalogu(Uloziste& uloziste, Prompt& prompt, QWidget* ok
 void OvladacKatalogu::pridejPrikazy(TabulkaPrikazu& tabulka)
 {
     tabulka.pridej({QStringLiteral("CTM")}, [this] {
-        FrmCenik cenik(m_uloziste.cenik(), m_prompt, m_okno);
+        FrmCenik cenik(m_uloziste, m_prompt, m_okno);
         cenik.exec();
     });
     for (const auto druh : {Knihovna::Druh::Schemata, Knihovna::Druh::Obrazky})

@@ -107,9 +107,10 @@ void OvladacVypisu::Vypis(DruhVypisu druh, const QString& nazev)
     QApplication::setOverrideCursor(Qt::WaitCursor);
     FrmVSP vsp(m_prompt, m_okno);
     try {
+        const std::vector<Rezani::Format> rezani = Rezani::zakazky(m_uloziste, zakazka, vNazvy);
         m_uloziste.ObnovPracovniDatabazi();
         vsp.setWindowTitle(
-            SestavVypis(druh, vsp.dokument(), m_uloziste.dataK(), m_uloziste.cenik(), zakazka, vNazvy, vTexty).titulek);
+            SestavVypis(druh, vsp.dokument(), m_uloziste.dataK(), m_uloziste.cenik(), zakazka, vNazvy, vTexty, rezani).titulek);
     } catch (...) {
         m_uloziste.zavriDataK();
         QApplication::restoreOverrideCursor();

@@ -55,10 +55,13 @@ void OvladacZakazek::UpravitZakazku()
 
 void OvladacZakazek::SmazatZakazku()
 {
+    const auto nalezene = m_tvzakazky->findItems(m_vyber.txtzakazka(), Qt::MatchExactly);
+    const int poradi = nalezene.isEmpty() ? 0 : m_tvzakazky->indexOfTopLevelItem(nalezene.first());
     if (!Zakazky::SmazatZakazku(m_uloziste.dataS(), m_prompt, m_vyber.txtzakazka()))
         return;
     NaplnitStrom();
-    QTreeWidgetItem* dalsi = m_tvzakazky->topLevelItem(0);
+    // the order that took its place in the tree, or the one before it when it was the last
+    QTreeWidgetItem* dalsi = m_tvzakazky->topLevelItem(std::min(poradi, m_tvzakazky->topLevelItemCount() - 1));
     vyberUzel(dalsi ? dalsi->text(0) : QString(), QString());
 }
 
@@ -182,6 +185,7 @@ void OvladacZakazek::UpravitMaterial(bool hrana)
             if (!Materialy::UlozitUpravuHrany(m_uloziste.dataS(), m_vyber.txtzakazka(), z))
                 return PoUlozeni::Odmitnuto;
             NaplnitGridHrany(QStringLiteral("Upraveni zaznamu"));
+            obnovCeny();
             return PoUlozeni::Zavrit;
         }
         const auto u = Materialy::UlozitUpravuFormatu(m_uloziste.dataS(), m_prompt, m_vyber.txtzakazka(), z);
@@ -190,6 +194,7 @@ void OvladacZakazek::UpravitMaterial(bool hrana)
         NaplnitGridFormaty(u == Materialy::Uprava::Slouceno ? QStringLiteral("Odstraneni zaznamu")
                                                             : QStringLiteral("Upraveni zaznamu"));
         NaplnitGridPM(QStringLiteral("Upravení záznamu"));
+        obnovCeny();
         return PoUlozeni::Zavrit;
     });
 }
@@ -201,8 +206,10 @@ void OvladacZakazek::SmazatMaterial(bool hrana)
         return;
     const bool smazano = hrana ? Materialy::SmazatHranu(m_uloziste.dataS(), m_prompt, m_vyber.txtzakazka(), *m)
                                : Materialy::SmazatFormat(m_uloziste.dataS(), m_prompt, m_vyber.txtzakazka(), *m);
-    if (smazano)
-        hrana ? NaplnitGridHrany(QStringLiteral("Odstraneni zaznamu")) : NaplnitGridFormaty(QStringLiteral("Odstraneni zaznamu"));
+    if (!smazano)
+        return;
+    hrana ? NaplnitGridHrany(QStringLiteral("Odstraneni zaznamu")) : NaplnitGridFormaty(QStringLiteral("Odstraneni zaznamu"));
+    obnovCeny(); // a band may go while boards still name it: they lose its price
 }
 
 void OvladacZakazek::NaplnitGridFormaty(const QString& akce)
@@ -334,5 +341,6 @@ void OvladacZakazek::ImportDesek()
     if (d.exec() == QDialog::Accepted) {
         NaplnitGridHrany(QStringLiteral("Novy zaznam"));
         NaplnitGridPM(QStringLiteral("Novy zaznam"));
+        obnovCeny();
     }
 }

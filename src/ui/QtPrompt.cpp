@@ -32,6 +32,7 @@ Prompt::Odpoved QtPrompt::zprava(const QString& text, const QString& titulek, Ik
         pridej(QStringLiteral("Storno"), QMessageBox::RejectRole, Odpoved::Storno);
         break;
     case Tlacitka::AnoNe:
+    case Tlacitka::AnoNeVychoziNe:
         pridej(QStringLiteral("&Ano"), QMessageBox::YesRole, Odpoved::Ano);
         pridej(QStringLiteral("&Ne"), QMessageBox::NoRole, Odpoved::Ne);
         break;
@@ -41,12 +42,13 @@ Prompt::Odpoved QtPrompt::zprava(const QString& text, const QString& titulek, Ik
         pridej(QStringLiteral("Storno"), QMessageBox::RejectRole, Odpoved::Storno);
         break;
     }
-    box.setDefaultButton(qobject_cast<QPushButton*>(tlacitko.front().first));
+    box.setDefaultButton(qobject_cast<QPushButton*>(
+        (tlacitka == Tlacitka::AnoNeVychoziNe ? tlacitko.back() : tlacitko.front()).first));
     box.exec();
     for (const auto& [b, o] : tlacitko)
         if (box.clickedButton() == b)
             return o;
-    return tlacitka == Tlacitka::AnoNe ? Odpoved::Ne : Odpoved::Storno;
+    return tlacitka == Tlacitka::AnoNe || tlacitka == Tlacitka::AnoNeVychoziNe ? Odpoved::Ne : Odpoved::Storno;
 }
 
 QString QtPrompt::vstup(const QString& text, const QString& titulek, const QString& vychozi)

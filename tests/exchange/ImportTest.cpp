@@ -179,3 +179,46 @@ TEST_F(ImportTest, DlouhySeznamUkazujePrubehAStornoNeulozNic)
     EXPECT_GT(az.m_posledni, 90);
     EXPECT_EQ(desek(), 3000);
 }
+
+// A spreadsheet's CSV: a header naming the columns in any order (and columns the import does
+// not know), "," or ";" between fields, quoted fields with a decimal comma, bands by thickness
+// or by name, UTF-8 or Windows-1250; without "Počet" each line is one board.
+TEST_F(ImportTest, CsvSHlavickouZTabulkovehoProcesoru)
+{
+    const QString carkami = QStringLiteral("Poznámka,DÉLKA,Šířka,Název,Hrana X1,Hrana Y2\n"
+                                           "\"vlevo, dole\",\"562,5\",300,Bok,2,ABS dub\n"
+                                           ",700,600,záda,,\n");
+    const QString strednikem = QStringLiteral("Nazev;Delka;Sirka;Pocet;Hrana X1;Hrana X2;Hrana Y1;Hrana Y2\r\n"
+                                              "Bok;562,5;300;1;2;;;ABS dub\r\nzáda;700;600;1;;;;\r\n");
+    QStringEncoder cp1250("windows-1250");
+    for (const auto& [sestava, text] : {std::pair{QStringLiteral("T0"), carkami}, std::pair{QStringLiteral("T1"), strednikem},
+                                        std::pair{QStringLiteral("T2"), Import::dekoduj(cp1250(strednikem))}}) {
+        SCOPED_TRACE(sestava.toStdString());
+        const Import::Vysledek v = Import::importuj(db(), QStringLiteral("Z"), sestava, text);
+        ASSERT_FALSE(v.odmitnuti) << v.odmitnuti->zprava.toStdString();
+        EXPECT_EQ(v.pridano, 2);
+        const QJsonArray d = desky(db(), sestava);
+        ASSERT_EQ(d.size(), 2);
+        EXPECT_EQ(d[0][QStringLiteral("oznaceni")].toString(), QStringLiteral("Bok"));
+        EXPECT_EQ(d[0][QStringLiteral("x")].toDouble(), 562.5);
+        EXPECT_EQ(d[0][QStringLiteral("pocet")].toDouble(), 1);
+        EXPECT_EQ(d[1][QStringLiteral("oznaceni")].toString(), QStringLiteral("záda"));
+        const QJsonArray h = d[0][QStringLiteral("hrany")].toArray();
+        EXPECT_NE(h[0].toDouble(), 0);
+        EXPECT_EQ(h[1].toDouble(), 0);
+        EXPECT_NE(h[3].toDouble(), 0);
+    }
+    // each band made once, by its name, over the three imports
+    const QJsonArray hrany = ZakazkaJson::vypis(db(), QStringLiteral("Z"))[QStringLiteral("hrany")].toArray();
+    QStringList nazvy;
+    for (const QJsonValue& h : hrany)
+        nazvy << h[QStringLiteral("material")].toString();
+    EXPECT_EQ(nazvy, (QStringList{QStringLiteral("hrana 2"), QStringLiteral("ABS dub")}));
+    // a refused line under a header imports nothing either
+    const int predtim = radku();
+    const Import::Vysledek v =
+        Import::importuj(db(), QStringLiteral("Z"), QStringLiteral("T3"), QStringLiteral("Délka;Šířka\n600;300\n600;x\n"));
+    ASSERT_TRUE(v.odmitnuti);
+    EXPECT_EQ(v.odmitnuti->radek, 3);
+    EXPECT_EQ(radku(), predtim);
+}

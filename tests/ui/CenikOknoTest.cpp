@@ -6,12 +6,14 @@
 #include "SkriptovanyPrompt.h"
 #include "catalogues/Cenik.h"
 #include "catalogues/Knihovna.h"
+#include "exchange/Zaloha.h"
 #include "ui/FrmCenik.h"
 #include "ui/FrmNovy.h"
 #include "ui/FrmObr.h"
 #include "ui/FrmPolozka.h"
 
 #include <QBuffer>
+#include <QFile>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
@@ -289,4 +291,72 @@ TEST_F(CenikOkno, KlavesyVolbyPredajiPolozkuPolimZaznamu)
         EXPECT_EQ(nazevACena[0], p.polozka);
         EXPECT_DOUBLE_EQ(nazevACena[1].toDouble(), Cenik::nacti(uloziste().cenik(), p.polozka)->cena);
     }
+}
+
+// A name chosen from the drop-down of the format and edge frames brings its price from the
+// price list, as "Z ceníku..." does; a name typed by hand brings nothing.
+TEST_F(CenikOkno, VolbaZeSeznamuPrinasiCenu)
+{
+    klik(strom->topLevelItem(0));
+    for (auto [prikaz, nazev, cena, polozka] : {std::tuple{"NF", "txtFormat", "txtFCena", Dub},
+                                               std::tuple{"NH", "cmbHrana", "txtCenaHrany", Hrana}}) {
+        SCOPED_TRACE(prikaz);
+        QString vybrana, napsana;
+        Kroky k({[&](QWidget* w) {
+            auto* d = qobject_cast<FrmNovy*>(w);
+            if (!d)
+                return false;
+            auto* seznam = d->findChild<QComboBox*>(QLatin1String(nazev));
+            seznam->setCurrentText(QStringLiteral("vlastní název"));
+            emit seznam->textActivated(seznam->currentText()); // Enter on a typed name
+            napsana = text(d, cena);
+            seznam->setCurrentIndex(seznam->findText(polozka));
+            emit seznam->textActivated(polozka); // as a click in the drop-down list
+            vybrana = text(d, cena).replace(QLatin1Char(','), QLatin1Char('.'));
+            d->reject();
+            return true;
+        }});
+        okno->prikaz(QLatin1String(prikaz));
+        EXPECT_TRUE(k.hotovo());
+        EXPECT_EQ(napsana, QString());
+        EXPECT_DOUBLE_EQ(vybrana.toDouble(), Cenik::nacti(uloziste().cenik(), polozka)->cena);
+    }
+}
+
+// "Záloha ceníku" and "Obnova ceníku" from the window: the backup under its proposed name, the
+// restore with its question and safety copy, the list read again from the restored file; a data
+// backup offered to it is refused and nothing changes.
+TEST_F(CenikOkno, ZalohaAObnovaCenikuZOkna)
+{
+    SkriptovanyPrompt skript;
+    FrmCenik cenik(uloziste(), skript, okno.get());
+    auto* seznam = cenik.findChild<QListWidget*>(QStringLiteral("lstCenik"));
+    Cenik::VyberRazeniCeniku(QStringLiteral("VSE"), QStringLiteral("nazev"));
+    cenik.NaplnCenik();
+    const int polozek = seznam->count();
+    const QString zaloha = domov() + QStringLiteral("/cenik.cen");
+    skript.odpovez(zaloha);
+    cenik.prikaz(QStringLiteral("ZD"));
+    ASSERT_TRUE(QFile::exists(zaloha));
+    EXPECT_EQ(skript.titulky.last(), QStringLiteral("Uloženo.."));
+
+    uloziste().cenik().executeSqlite(QStringLiteral("DELETE FROM Cenik WHERE nazev = ?"), {Cep});
+    cenik.NaplnCenik();
+    ASSERT_EQ(seznam->count(), polozek - 1);
+
+    // a data backup is not a price list: refused, nothing replaced
+    const QString data = domov() + QStringLiteral("/data.bvk");
+    Zaloha::zalohuj(uloziste(), Schema::Soubor::Data, data);
+    skript.odpovez(data);
+    cenik.prikaz(QStringLiteral("OZ"));
+    EXPECT_EQ(skript.zpravy.last(), QStringLiteral(" Vybraný soubor neobsahuje platná data pro tento program"));
+    EXPECT_EQ(seznam->count(), polozek - 1);
+
+    skript.odpovez(zaloha);
+    skript.odpovez(Prompt::Odpoved::Ano);
+    cenik.prikaz(QStringLiteral("OZ"));
+    EXPECT_EQ(skript.zpravy.last(), QStringLiteral("Obnova zálohy byla úspěšně dokončena"));
+    EXPECT_EQ(seznam->count(), polozek);
+    EXPECT_TRUE(Cenik::nacti(uloziste().cenik(), Cep)); // the store reopened on the restored file
+    EXPECT_TRUE(QFile::exists(domov() + QStringLiteral("/Data/CenikZ.db")));
 }

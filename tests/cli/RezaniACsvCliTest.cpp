@@ -1,0 +1,131 @@
+// The command line's costing of the cutting (setting ZCR) and the cut list of a plan as CSV,
+// imported back into an assembly.
+#include "SpusteniCli.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <algorithm>
+
+namespace {
+
+const QString Kuchyne = QStringLiteral("Kuchyně Novák");
+
+class RezaniACsvCli : public SpusteniCli {
+protected:
+    void SetUp() override
+    {
+        ASSERT_EQ(spust({QStringLiteral("init")}).kod, 0);
+        ASSERT_EQ(spust({QStringLiteral("order-load"), demo()}).kod, 0);
+    }
+    QJsonObject json(const QStringList& argumenty)
+    {
+        const Vysledek v = spust(argumenty);
+        EXPECT_EQ(v.kod, 0) << v.err.toStdString();
+        return QJsonDocument::fromJson(v.out.toUtf8()).object();
+    }
+    // The rows of a costing table that price the cutting.
+    static QJsonArray rezani(const QJsonObject& o, const char* tabulka)
+    {
+        QJsonArray v;
+        for (const QJsonValue& r : o[QLatin1String(tabulka)].toArray())
+            if (r[QStringLiteral("cislo")].toInt() == 4)
+                v << r;
+        return v;
+    }
+    static double zaklad(const QJsonObject& o)
+    {
+        return o[QStringLiteral("souhrn")][QStringLiteral("zaklad")].toString().split(QLatin1Char(' ')).first().replace(
+            QLatin1Char(','), QLatin1Char('.')).toDouble();
+    }
+};
+
+// The order's boards as (length, width, bands by name) once per piece cut, sorted.
+QStringList kusy(const QJsonObject& zakazka, bool kratPocet)
+{
+    QMap<double, QString> hrany;
+    for (const QJsonValue& h : zakazka[QStringLiteral("hrany")].toArray())
+        hrany.insert(h[QStringLiteral("id")].toDouble(), h[QStringLiteral("material")].toString());
+    QStringList v;
+    for (const QJsonValue& s : zakazka[QStringLiteral("sestavy")].toArray())
+        for (const QJsonValue& d : s[QStringLiteral("desky")].toArray()) {
+            QStringList k{QString::number(d[QStringLiteral("x")].toDouble()), QString::number(d[QStringLiteral("y")].toDouble())};
+            for (const QJsonValue& h : d[QStringLiteral("hrany")].toArray())
+                k << hrany.value(h.toDouble());
+            const int n = kratPocet ? int(d[QStringLiteral("pocet")].toDouble() * s[QStringLiteral("pocet")].toDouble()) : 1;
+            for (int i = 0; i < n; ++i)
+                v << k.join(QLatin1Char('|'));
+        }
+    std::sort(v.begin(), v.end());
+    return v;
+}
+
+} // namespace
+
+TEST_F(RezaniACsvCli, CenaRezaniVKalkulaciNabidceANakupu)
+{
+    ASSERT_EQ(spust({QStringLiteral("settings"), QStringLiteral("set"), QStringLiteral("Setting2"), QStringLiteral("CRez"),
+                     QStringLiteral("8")})
+                  .kod,
+              0);
+    const QString prikazy[] = {QStringLiteral("calc"), QStringLiteral("quote"), QStringLiteral("purchase")};
+    std::map<QString, double> bez;
+    for (const QString& p : prikazy) {
+        const QJsonObject o = json({p, Kuchyne, QStringLiteral("--json")});
+        EXPECT_TRUE(rezani(o, "SoupisProKalkulaci").isEmpty()) << p.toStdString(); // off: nothing changes
+        bez[p] = zaklad(o);
+    }
+    ASSERT_EQ(spust({QStringLiteral("settings"), QStringLiteral("set"), QStringLiteral("Setting2"), QStringLiteral("ZCR"),
+                     QStringLiteral("1")})
+                  .kod,
+              0);
+    for (const QString& p : prikazy) {
+        SCOPED_TRACE(p.toStdString());
+        const QJsonObject o = json({p, Kuchyne, QStringLiteral("--json")});
+        const QJsonArray r = rezani(o, "SoupisProKalkulaci");
+        ASSERT_EQ(r.size(), 1); // one format
+        const double metru = r[0][QStringLiteral("mnozstvi")].toDouble();
+        EXPECT_GT(metru, 10);
+        EXPECT_LT(metru, 100);
+        EXPECT_EQ(r[0][QStringLiteral("JC")].toDouble(), 8);
+        EXPECT_NEAR(r[0][QStringLiteral("Cena")].toDouble(), metru * 8, 0.005);
+        EXPECT_NEAR(zaklad(o) - bez[p], r[0][QStringLiteral("Cena")].toDouble(), 0.015);
+        if (p == QLatin1String("purchase"))
+            EXPECT_TRUE(o[QStringLiteral("nakup")].toArray().last()[QStringLiteral("nakup")].toString().endsWith(QStringLiteral(" m")));
+    }
+    // a calculation of some assemblies only leaves the order's cutting out
+    const QJsonObject jedna = json({QStringLiteral("calc"), Kuchyne, QStringLiteral("--sestava"), QStringLiteral("Dřez80"),
+                                    QStringLiteral("--json")});
+    EXPECT_TRUE(rezani(jedna, "SoupisProKalkulaci").isEmpty());
+}
+
+TEST_F(RezaniACsvCli, SeznamDilcuPlanuSeNaimportujeZpet)
+{
+    const QString csv = m_dir.filePath(QStringLiteral("dilce.csv"));
+    const Vysledek plan = spust({QStringLiteral("plan"), Kuchyne, QStringLiteral("--format"), QStringLiteral("5000001"),
+                                 QStringLiteral("--mode"), QStringLiteral("kombinovane"), QStringLiteral("--csv"), csv});
+    ASSERT_EQ(plan.kod, 0) << plan.err.toStdString();
+    QFile f(csv);
+    ASSERT_TRUE(f.open(QIODevice::ReadOnly));
+    const QByteArray obsah = f.readAll();
+    EXPECT_TRUE(obsah.startsWith("\xEF\xBB\xBFTabule;N\xC3\xA1zev;Sestava;D\xC3\xA9lka;")); // UTF-8 with its BOM
+    EXPECT_TRUE(obsah.contains("\r\n"));
+
+    // an order of the same materials with an empty assembly takes the list back
+    const QJsonObject demo = json({QStringLiteral("order-dump"), Kuchyne});
+    QJsonObject kopie = demo;
+    kopie[QStringLiteral("zakazka")] = QStringLiteral("Kopie");
+    kopie[QStringLiteral("sestavy")] = QJsonArray{QJsonObject{{QStringLiteral("nazev"), QStringLiteral("Vse")}}};
+    const QString soubor = m_dir.filePath(QStringLiteral("kopie.json"));
+    QFile k(soubor);
+    ASSERT_TRUE(k.open(QIODevice::WriteOnly));
+    k.write(QJsonDocument(kopie).toJson());
+    k.close();
+    ASSERT_EQ(spust({QStringLiteral("order-load"), soubor}).kod, 0);
+    const Vysledek import = spust({QStringLiteral("import"), csv, QStringLiteral("--order"), QStringLiteral("Kopie"),
+                                   QStringLiteral("--assembly"), QStringLiteral("Vse")});
+    ASSERT_EQ(import.kod, 0) << import.err.toStdString();
+    const QJsonObject zpet = json({QStringLiteral("order-dump"), QStringLiteral("Kopie")});
+    EXPECT_EQ(kusy(zpet, false), kusy(demo, true));
+    EXPECT_EQ(zpet[QStringLiteral("hrany")].toArray().size(), demo[QStringLiteral("hrany")].toArray().size()); // no band made anew
+}
