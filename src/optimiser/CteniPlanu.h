@@ -1,10 +1,10 @@
 #pragma once
 // The finished plan as its outputs read it back from the plan database: the one reader of the
 // working tables SoupisDesek, SoupisTabuli and SoupisZbytku that PracovniTabulky writes. The
-// plan pages, the labels and costing call these instead of querying the tables themselves;
-// each call is one query whose ORDER BY is the output's order, with its values bound. Every
-// call throws Error when the store fails. (The CNC export keeps its own walk: its query order,
-// and the Part numbers it writes on the way, are its algorithm.)
+// plan pages and the labels call these instead of querying the tables themselves; each call is
+// one query whose ORDER BY is the output's order, with its values bound. Every call throws Error
+// when the store fails. (The CNC export and the offcut write-back keep their own walks: their
+// query order, and the Part numbers the export writes on the way, are their algorithm.)
 #include <QString>
 #include <optional>
 #include <vector>
