@@ -5,6 +5,7 @@
 #include "core/Error.h"
 #include "core/Nastaveni.h"
 #include "core/Soubory.h"
+#include "core/Uloziste.h"
 #include "exchange/ZakazkaJson.h"
 #include "ui/FrmOptions.h"
 #include "ui/Ikony.h"

@@ -60,6 +60,8 @@ public:
     // After a restore: the tree filled again, nothing selected.
     void poObnoveDat();
     void NactiSchema();
+    // the tree filled again and the node selected
+    void vyberUzel(QString zakazka, QString sestava); // by value: callers pass the selection itself
 
 protected:
     bool eventFilter(QObject* o, QEvent* e) override;
@@ -70,7 +72,6 @@ private:
     void ZakazEditaciSestavy();
     void PovolEditaciSestavy();
     void povol(const QStringList& nazvy, bool ano) { m_povol(nazvy, ano); }
-    void vyberUzel(QString zakazka, QString sestava); // by value: callers pass the selection itself
     void obnovZakazku();
     void obnovSestavu();
     void obnovCeny(); // panels 2 and 3: the order and one piece of the assembly, with VAT
