@@ -1,9 +1,10 @@
 #include "planoutput/SeznamDilcu.h"
 
-#include "core/Database.h"
 #include "core/Jednotky.h"
 #include "core/Recordset.h"
 #include "core/Soubory.h"
+#include "optimiser/CteniPlanu.h"
+#include "orders/RadkyZakazky.h"
 #include "exchange/Import.h"
 
 #include <QHash>
@@ -31,8 +32,7 @@ QString delka(double desetin)
 QByteArray csv(Database& k, const QString& zakazka)
 {
     QHash<double, QString> hrany;
-    for (Recordset h(k, QStringLiteral("SELECT * FROM ZakazkyMaterialy WHERE Zakazka = ? and Pouziti = 'hrana'"), {zakazka});
-         !h.eof(); h.moveNext())
+    for (Recordset h = RadkyZakazky::materialy(k, zakazka, RadkyZakazky::Pouziti::Hrany); !h.eof(); h.moveNext())
         hrany.insert(h.cislo(QStringLiteral("ID")), h.text(QStringLiteral("Material")));
     QStringList hlava{QStringLiteral("Tabule"), QStringLiteral("Název"), QStringLiteral("Sestava"), QStringLiteral("Délka"),
                       QStringLiteral("Šířka"), QStringLiteral("Počet"), QStringLiteral("X"), QStringLiteral("Y"),
@@ -40,14 +40,11 @@ QByteArray csv(Database& k, const QString& zakazka)
     for (const char* h : Import::SloupceHran)
         hlava << QString::fromUtf8(h);
     QString text = hlava.join(QLatin1Char(';')) + QStringLiteral("\r\n");
-    for (Recordset d(k, QStringLiteral("SELECT * FROM SoupisDesek  WHERE ID = True ORDER BY Tabule, YD, XD")); !d.eof();
-         d.moveNext()) {
-        QStringList r{QString::number(d.cislo(QStringLiteral("Tabule"))), pole(d.text(QStringLiteral("Oznaceni"))),
-                      pole(d.text(QStringLiteral("Sestava"))), delka(d.cislo(QStringLiteral("x"))),
-                      delka(d.cislo(QStringLiteral("y"))), QStringLiteral("1"), delka(d.cislo(QStringLiteral("XD"))),
-                      delka(d.cislo(QStringLiteral("YD"))), d.ano(QStringLiteral("OTOC")) ? QStringLiteral("ano") : QStringLiteral("ne")};
-        for (const char* h : {"IDHX1", "IDHX2", "IDHY1", "IDHY2"})
-            r << pole(hrany.value(d.cislo(QLatin1String(h))));
+    for (const CteniPlanu::Deska& d : CteniPlanu::usazeneDesky(k)) {
+        QStringList r{QString::number(d.tabule), pole(d.Oznaceni), pole(d.Sestava), delka(d.x), delka(d.y),
+                      QStringLiteral("1"), delka(d.XD), delka(d.YD), d.OTOC ? QStringLiteral("ano") : QStringLiteral("ne")};
+        for (double id : d.hrany)
+            r << pole(hrany.value(id));
         text += r.join(QLatin1Char(';')) + QStringLiteral("\r\n");
     }
     return QByteArray("\xEF\xBB\xBF") + text.toUtf8();
