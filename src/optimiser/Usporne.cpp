@@ -1,4 +1,6 @@
 #include "optimiser/Usporne.h"
+#include "optimiser/Paprsek.h"
+#include "optimiser/UsporneVzory.h"
 
 #include <algorithm>
 #include <ctime>
@@ -62,32 +64,6 @@ bool vseUsazeno(const std::vector<int>& zbyva)
     return std::none_of(zbyva.begin(), zbyva.end(), [](int n) { return n > 0; });
 }
 
-// One size of board: its copies are taken in the order of the order's list. Extents with the
-// kerf along the sheet's X and Y, unturned [0] and turned [1].
-struct Typ {
-    double sx[2], sy[2];
-    int orientaci;
-    double plocha;
-    std::vector<int> desky;
-};
-
-// A stack: pieces one over another across the strip, each as wide as the stack or trimmed.
-struct Stoh {
-    double w = 0;
-    std::vector<std::pair<int, int>> kusy; // type, orientation
-};
-struct Pas {
-    double h = 0;
-    std::vector<Stoh> stohy;
-    double hodnota = 0;
-};
-// A sheet filled in strips across direction smer: 0 strips run along the sheet's X, 1 along Y.
-struct Vyplneni {
-    int smer = 0;
-    std::vector<Pas> pasy;
-    double hodnota = 0;
-};
-
 // The knobs of one try: how much large boards weigh, how strictly a stack's first piece must
 // match the strip's height, how many strip heights are tried, and a little noise.
 struct Parametry {
@@ -126,8 +102,6 @@ private:
         m_nahoda ^= m_nahoda << 17;
         return double(m_nahoda >> 11) / double(1ull << 53);
     }
-    double lw(const Typ& t, int o, int smer) const { return smer == 0 ? t.sx[o] : t.sy[o]; }
-    double lh(const Typ& t, int o, int smer) const { return smer == 0 ? t.sy[o] : t.sx[o]; }
     double sirka(const Tabule& t) const { return t.x - m_z.okraj + m_z.srez; }
     double vyska(const Tabule& t) const { return t.y - m_z.okraj + m_z.srez; }
 
@@ -156,6 +130,7 @@ private:
     // the boards given, by type: the lists to hand out and their counts
     std::pair<std::vector<std::vector<int>>, std::vector<int>> podleTypu(const std::vector<int>& desky) const;
     int dolniMez() const;
+    std::optional<Plan> paprsek(int sirkaPaprsku, int voditko, int nejvic);
 };
 
 void Hledani::pripravTypy()
@@ -670,6 +645,35 @@ void Hledani::oprav(const Plan& plan)
             m_korekce[t] = 0.6 * m_korekce[t] + 0.4 * std::pow(soucet[t] / pocet[t], 2);
 }
 
+// The plan of a beam of the given width, of at most nejvic sheets when it finds one.
+std::optional<Plan> Hledani::paprsek(int sirkaPaprsku, int voditko, int nejvic)
+{
+    PaprsekZadani pz;
+    pz.typy = &m_typy;
+    pz.pocet = m_pocet0;
+    pz.stejneTabule = true;
+    for (const Tabule& t : m_z.tabule) {
+        pz.tabule.push_back({sirka(t), vyska(t)});
+        pz.stejneTabule = pz.stejneTabule && !t.odrezek && std::abs(t.x - m_z.tabule[0].x) < Eps &&
+                          std::abs(t.y - m_z.tabule[0].y) < Eps;
+    }
+    pz.nejvic = nejvic;
+    pz.stohy = m_z.stupne >= 3;
+    pz.sirka = sirkaPaprsku;
+    pz.voditko = voditko;
+    const auto listy = Usporne::paprsek(pz, m_prace);
+    if (!listy)
+        return std::nullopt;
+    Plan plan;
+    const auto vsechny = deskyTypu();
+    std::vector<size_t> dalsi(m_typy.size(), 0);
+    for (const ListPaprsku& l : *listy)
+        plan.tabule.push_back({l.tabule, strom(l.vyplneni, m_z.tabule[l.tabule], vsechny, dalsi)});
+    plan.neusazene = m_mimo;
+    zbytekNaKonci(plan);
+    return plan;
+}
+
 // The sheets the boards' area needs at least, when every sheet is a full one.
 int Hledani::dolniMez() const
 {
@@ -718,7 +722,20 @@ Plan Hledani::hledej(const std::vector<Plan>& vychozi, const Rizeni& r)
         const bool dost = m_prace >= limit || sekund > 4 * r.sekund + 1;
         return (r.prubeh && r.prubeh(hn.vsech, std::min(1.0, double(m_prace) / std::max<std::int64_t>(limit, 1)))) || dost;
     };
-    // half the budget for whole plans tried with other knobs, half for emptying sheets of the best
+    // a quarter of the budget for beams, each twice as wide as the last, each after a plan of a
+    // sheet fewer than the best; the rest half for whole plans tried with other knobs, half for
+    // emptying sheets of the best
+    std::int64_t posledni = 0;
+    for (int pokus = 0; !odrezky && (!nejlepsi || hn.vsech > mez); ++pokus) {
+        const std::int64_t pred = m_prace;
+        if (pred + 2 * posledni > limit / 4)
+            break;
+        if (auto plan = paprsek(1 << (pokus / 2), pokus % 2, nejlepsi ? hn.vsech - 1 : 0))
+            zkus(std::move(*plan));
+        posledni = m_prace - pred;
+        if (konec())
+            return std::move(*nejlepsi);
+    }
     for (int pokus = 0; pokus == 0 || m_prace < limit / 2; ++pokus) {
         Parametry p;
         if (pokus > 0) {

@@ -1,0 +1,33 @@
+#pragma once
+// A plan built board by board, each laid at the front of the plan: on the last stack, in a new
+// stack beside it, in a new strip, or on the next sheet once nothing more goes on this one. At
+// each board a beam keeps the partial plans that have wasted least for the boards they hold, one
+// of each kind; the sheets are filled in three stages as the other tries of the search fill them.
+#include "optimiser/UsporneVzory.h"
+
+#include <cstdint>
+#include <optional>
+
+namespace Usporne {
+
+struct PaprsekZadani {
+    const std::vector<Typ>* typy = nullptr;
+    std::vector<int> pocet;                        // copies of each type to lay
+    std::vector<std::pair<double, double>> tabule; // sheets in the order of use, with the kerf: X, Y
+    bool stejneTabule = false; // every sheet alike: the waste so far bounds the sheets a plan needs
+    int nejvic = 0;            // plans of more sheets are not wanted (0: any)
+    bool stohy = true;         // a stack may hold more pieces than one (three stages of cuts)
+    int sirka = 1;             // partial plans kept at each board
+    int voditko = 0;           // which measure of waste orders the beam
+};
+
+struct ListPaprsku {
+    int tabule; // index into PaprsekZadani::tabule
+    Vyplneni vyplneni;
+};
+
+// The plan of the fewest sheets the beam reaches with every board laid; nothing when it reaches
+// none within `nejvic` sheets. `prace` counts the steps taken, so a budget can be kept.
+std::optional<std::vector<ListPaprsku>> paprsek(const PaprsekZadani& zadani, std::int64_t& prace);
+
+}
