@@ -251,3 +251,23 @@ TEST(Usporne, ZastaveniDaNejlepsiDosud)
     EXPECT_TRUE(KontrolaPlanu::chyby(proKontrolu(z, plan)).isEmpty());
     EXPECT_EQ(proKontrolu(z, plan).desky.size() + plan.neusazene.size(), z.desky.size());
 }
+
+// Thirty boards all of other sizes, 6.5 sheets of area, no kerf: the strip-by-strip tries lay
+// them on eight sheets; the beam, laying board by board, finds the seven that hold them.
+TEST(Usporne, PaprsekUsetriTabuli)
+{
+    Usporne::Zadani z;
+    for (int i = 0; i < 30; ++i)
+        z.tabule.push_back({2500, 2500, false});
+    const double rozmery[][2] = {
+        {66, 80},   {164, 107}, {64, 184},  {121, 86},  {163, 135}, {85, 98},   {81, 102},  {103, 186},
+        {152, 106}, {176, 139}, {111, 118}, {69, 169},  {146, 133}, {112, 112}, {133, 160}, {63, 129},
+        {163, 152}, {110, 155}, {96, 136},  {92, 142},  {84, 143},  {119, 133}, {71, 71},   {146, 84},
+        {93, 86},   {89, 86},   {101, 146}, {172, 73},  {73, 169},  {99, 99}};
+    for (const auto& r : rozmery)
+        z.desky.push_back({10 * r[0], 10 * r[1], false});
+    const Usporne::Plan plan = Usporne::hledej(z, {}, Usporne::Rizeni{}); // the default budget
+    EXPECT_TRUE(KontrolaPlanu::chyby(proKontrolu(z, plan)).isEmpty());
+    EXPECT_TRUE(plan.neusazene.empty());
+    EXPECT_EQ(plan.tabule.size(), 7u);
+}
