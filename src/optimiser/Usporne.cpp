@@ -755,10 +755,12 @@ Plan Hledani::hledej(const std::vector<Plan>& vychozi, const Rizeni& r)
         if (konec())
             return std::move(*nejlepsi);
     }
+    // one plan emptied on and on: a round that frees no sheet still leaves its sheets more
+    // unevenly full, which the next round builds on
+    Plan plan = *nejlepsi;
     while (!konec()) {
-        Plan plan = *nejlepsi;
         vyprazdni(plan, std::min(limit, m_prace + limit / 20));
-        zkus(std::move(plan));
+        zkus(plan);
     }
     return std::move(*nejlepsi);
 }
