@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <tuple>
 #include <unordered_set>
 
 namespace Usporne {
@@ -17,7 +18,7 @@ enum Druh : std::int8_t { NaStoh, NovyStoh, NovyPas, NovaTabule };
 struct Krok {
     int typ = -1;
     std::int8_t o = 0, druh = NovaTabule, smer = 0;
-    int tabule = -1, listu = 0, kusu = 0;
+    int tabule = -1, listu = 0, plnych = 0, kusu = 0;
     double y0 = 0, hs = 0, x0 = 0, ws = 0, v = 0;
     double zavreno = 0; // the area of the sheets left behind
     double plocha = 0;  // the area of the boards laid
@@ -70,8 +71,8 @@ private:
 
     std::vector<std::vector<Stopa>> m_stopy; // per board laid, per node of the beam
 
-    double W(const Krok& k) const { return k.smer == 0 ? m_z.tabule[k.tabule].first : m_z.tabule[k.tabule].second; }
-    double H(const Krok& k) const { return k.smer == 0 ? m_z.tabule[k.tabule].second : m_z.tabule[k.tabule].first; }
+    double W(const Krok& k) const { return k.smer == 0 ? m_z.tabule[k.tabule].x : m_z.tabule[k.tabule].y; }
+    double H(const Krok& k) const { return k.smer == 0 ? m_z.tabule[k.tabule].y : m_z.tabule[k.tabule].x; }
     bool naTabuli(const Krok& z, int t, int o, Druh druh, Krok& k) const;
     int dalsiTabule(int od, int t) const;
     void pridej(std::vector<Kandidat>& kandidati, int uzel, const Krok& k) const;
@@ -118,9 +119,9 @@ bool Paprsek::naTabuli(const Krok& z, int t, int o, Druh druh, Krok& k) const
 int Paprsek::dalsiTabule(int od, int t) const
 {
     for (int i = od + 1; i < int(m_z.tabule.size()); ++i) {
-        const auto [X, Y] = m_z.tabule[i];
+        const Plocha& p = m_z.tabule[i];
         for (int o = 0; o < m_typy[t].orientaci; ++o)
-            if (m_typy[t].sx[o] <= X + Eps && m_typy[t].sy[o] <= Y + Eps)
+            if (m_typy[t].sx[o] <= p.x + Eps && m_typy[t].sy[o] <= p.y + Eps)
                 return i;
     }
     return -1;
@@ -129,11 +130,11 @@ int Paprsek::dalsiTabule(int od, int t) const
 void Paprsek::pridej(std::vector<Kandidat>& kandidati, int uzel, const Krok& k) const
 {
     const double odpad = k.odpad(W(k));
+    if (m_z.nejvicPlnych >= 0 && k.plnych > m_z.nejvicPlnych)
+        return;
     if (m_z.nejvic > 0) {
-        if (k.listu > m_z.nejvic)
-            return;
-        const auto [X, Y] = m_z.tabule[k.tabule];
-        if (m_z.stejneTabule && m_plochaVsech + odpad > m_z.nejvic * X * Y + Eps)
+        const Plocha& p = m_z.tabule[k.tabule];
+        if (k.listu > m_z.nejvic || (m_z.stejneTabule && m_plochaVsech + odpad > m_z.nejvic * p.x * p.y + Eps))
             return;
     }
     double g = odpad / std::max(k.plocha, 1.0);
@@ -166,14 +167,15 @@ void Paprsek::deti(const Krok& z, int i, const int* zbyva, std::vector<Kandidat>
         const int tab = zbyva[t] ? dalsiTabule(z.tabule, int(t)) : -1;
         if (tab < 0)
             continue;
-        const auto [X, Y] = m_z.tabule[tab];
+        const Plocha& p = m_z.tabule[tab];
         for (int smer : {0, 1}) {
-            if (smer == 1 && std::abs(X - Y) < Eps && m_typy[t].orientaci == 2)
+            if (smer == 1 && std::abs(p.x - p.y) < Eps && m_typy[t].orientaci == 2)
                 continue; // a square sheet turned is the same sheet
             Krok n = z;
             n.tabule = tab;
             n.smer = std::int8_t(smer);
             n.listu = z.listu + 1;
+            n.plnych = z.plnych + !p.odrezek;
             n.zavreno = z.tabule < 0 ? 0 : z.zavreno + W(z) * H(z);
             n.y0 = n.hs = n.x0 = n.ws = n.v = 0;
             for (int o = 0; o < m_typy[t].orientaci; ++o)
@@ -222,7 +224,9 @@ std::optional<std::vector<ListPaprsku>> Paprsek::hledej()
     int nej = 0;
     for (int i = 1; i < int(vrstva.size()); ++i) {
         const Krok &a = vrstva[i], &b = vrstva[nej];
-        if (a.listu < b.listu || (a.listu == b.listu && a.odpad(W(a)) < b.odpad(W(b)) - Eps))
+        if (std::tie(a.plnych, a.listu) != std::tie(b.plnych, b.listu)
+                ? std::tie(a.plnych, a.listu) < std::tie(b.plnych, b.listu)
+                : a.odpad(W(a)) < b.odpad(W(b)) - Eps)
             nej = i;
     }
     return plan(nej);

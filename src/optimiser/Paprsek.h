@@ -10,12 +10,19 @@
 
 namespace Usporne {
 
+// A sheet as the beam sees it: its usable size with the kerf.
+struct Plocha {
+    double x = 0, y = 0;
+    bool odrezek = false; // from the offcut store
+};
+
 struct PaprsekZadani {
     const std::vector<Typ>* typy = nullptr;
-    std::vector<int> pocet;                        // copies of each type to lay
-    std::vector<std::pair<double, double>> tabule; // sheets in the order of use, with the kerf: X, Y
-    bool stejneTabule = false; // every sheet alike: the waste so far bounds the sheets a plan needs
-    int nejvic = 0;            // plans of more sheets are not wanted (0: any)
+    std::vector<int> pocet;     // copies of each type to lay
+    std::vector<Plocha> tabule; // in the order of use: offcuts first, then full sheets
+    bool stejneTabule = false;  // every sheet alike: the waste so far bounds the sheets a plan needs
+    int nejvic = 0;             // plans of more sheets are not wanted (0: any)
+    int nejvicPlnych = -1;      // plans of more full sheets are not wanted (-1: any)
     bool stohy = true;         // a stack may hold more pieces than one (three stages of cuts)
     int sirka = 1;             // partial plans kept at each board
     int voditko = 0;           // which measure of waste orders the beam
@@ -26,8 +33,8 @@ struct ListPaprsku {
     Vyplneni vyplneni;
 };
 
-// The plan of the fewest sheets the beam reaches with every board laid; nothing when it reaches
-// none within `nejvic` sheets. `prace` counts the steps taken, so a budget can be kept.
+// The plan of the fewest full sheets, then the fewest sheets, the beam reaches with every board
+// laid; nothing when it reaches none within the limits. `prace` counts the steps taken, so a budget can be kept.
 std::optional<std::vector<ListPaprsku>> paprsek(const PaprsekZadani& zadani, std::int64_t& prace);
 
 }

@@ -130,7 +130,7 @@ private:
     // the boards given, by type: the lists to hand out and their counts
     std::pair<std::vector<std::vector<int>>, std::vector<int>> podleTypu(const std::vector<int>& desky) const;
     int dolniMez() const;
-    std::optional<Plan> paprsek(int sirkaPaprsku, int voditko, int nejvic);
+    std::optional<Plan> paprsek(int sirkaPaprsku, int voditko, int nejvic, int nejvicPlnych);
 };
 
 void Hledani::pripravTypy()
@@ -645,19 +645,21 @@ void Hledani::oprav(const Plan& plan)
             m_korekce[t] = 0.6 * m_korekce[t] + 0.4 * std::pow(soucet[t] / pocet[t], 2);
 }
 
-// The plan of a beam of the given width, of at most nejvic sheets when it finds one.
-std::optional<Plan> Hledani::paprsek(int sirkaPaprsku, int voditko, int nejvic)
+// The plan of a beam of the given width, of at most nejvic sheets (0: any) and nejvicPlnych full
+// sheets (-1: any) when it finds one.
+std::optional<Plan> Hledani::paprsek(int sirkaPaprsku, int voditko, int nejvic, int nejvicPlnych)
 {
     PaprsekZadani pz;
     pz.typy = &m_typy;
     pz.pocet = m_pocet0;
     pz.stejneTabule = true;
     for (const Tabule& t : m_z.tabule) {
-        pz.tabule.push_back({sirka(t), vyska(t)});
+        pz.tabule.push_back({sirka(t), vyska(t), t.odrezek});
         pz.stejneTabule = pz.stejneTabule && !t.odrezek && std::abs(t.x - m_z.tabule[0].x) < Eps &&
                           std::abs(t.y - m_z.tabule[0].y) < Eps;
     }
     pz.nejvic = nejvic;
+    pz.nejvicPlnych = nejvicPlnych;
     pz.stohy = m_z.stupne >= 3;
     pz.sirka = sirkaPaprsku;
     pz.voditko = voditko;
@@ -726,11 +728,16 @@ Plan Hledani::hledej(const std::vector<Plan>& vychozi, const Rizeni& r)
     // sheet fewer than the best; the rest half for whole plans tried with other knobs, half for
     // emptying sheets of the best
     std::int64_t posledni = 0;
-    for (int pokus = 0; !odrezky && (!nejlepsi || hn.vsech > mez); ++pokus) {
+    // (with offcuts, after a plan of no more full sheets: fewer offcuts used is better too)
+    // (as wide as a million children of a layer at most: the memory a long budget may not outgrow)
+    const int nejsirsi = int(std::max<size_t>(16, 1'000'000 / (6 * m_typy.size() + 1)));
+    for (int pokus = 0; odrezky || !nejlepsi || hn.vsech > mez; ++pokus) {
         const std::int64_t pred = m_prace;
-        if (pred + 2 * posledni > limit / 4)
+        if (pred + 2 * posledni > limit / 4 || (1 << (pokus / 2)) > nejsirsi)
             break;
-        if (auto plan = paprsek(1 << (pokus / 2), pokus % 2, nejlepsi ? hn.vsech - 1 : 0))
+        const int nejvic = !nejlepsi || odrezky ? 0 : hn.vsech - 1;
+        const int nejvicPlnych = !nejlepsi || !odrezky ? -1 : hn.plnych;
+        if (auto plan = paprsek(1 << (pokus / 2), pokus % 2, nejvic, nejvicPlnych))
             zkus(std::move(*plan));
         posledni = m_prace - pred;
         if (konec())
