@@ -400,10 +400,11 @@ TEST_F(Okno, PanelCenySestavyOtviraKalkulaciSestav)
     EXPECT_EQ(videno, QStringList({"0", "1", "Kalkulace sestav", "Kalkulace sestav", "Horní60"}));
 }
 
-// The price panels follow the selection and every edit: the demo order 5062.31 Kč with VAT,
-// one Dřez80 1195.00 Kč; a deleted board takes its price out of both at once.
+// The price panels follow the selection and every edit: the demo order 5062.31 Kč with VAT
+// (the cutting off), one Dřez80 1195.00 Kč; a deleted board takes its price out of both at once.
 TEST_F(Okno, PanelyCenPoVyberuAUprave)
 {
+    bezRezani();
     auto* panel2 = okno->findChild<QLabel*>(QStringLiteral("panel2"));
     auto* panel3 = okno->findChild<QLabel*>(QStringLiteral("panel3"));
     klik(strom->topLevelItem(0));
