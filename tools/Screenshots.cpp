@@ -4,6 +4,7 @@
 #include "core/Nastaveni.h"
 #include "core/Uloziste.h"
 #include "exchange/ZakazkaJson.h"
+#include "ui/CiselnePole.h"
 #include "ui/FrmBorovak.h"
 #include "ui/FrmImport.h"
 #include "ui/FrmNP.h"
@@ -23,6 +24,7 @@
 #include "printing/Vykresleni.h"
 #include "optimiser/PlanRun.h"
 #include "planoutput/Stitky.h"
+#include "costing/Rezani.h"
 #include "costing/Vypisy.h"
 #include "core/Database.h"
 #include "core/Recordset.h"
@@ -39,7 +41,10 @@
 #include <QTabWidget>
 #include <QTableWidget>
 #include <QTimer>
+#include <QComboBox>
 #include <QListWidget>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QTreeWidget>
 
 namespace {
@@ -109,20 +114,23 @@ QByteArray vzorekDreva()
     return jpg;
 }
 
-// Grabs whichever modal window stands next, then closes it.
-void zachytModalni(const QString& slozka, const QString& nazev)
+// Grabs whichever modal window stands next, after the step pred where one is given, then closes
+// it.
+void zachytModalni(const QString& slozka, const QString& nazev, const std::function<void(QDialog*)>& pred = {})
 {
     QTimer::singleShot(100, [=] {
         if (auto* d = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+            if (pred)
+                pred(d);
             uloz(d, slozka, nazev);
             d->reject();
         }
     });
 }
 
-// The price list with a picture, its item form, the libraries, the preview, the accessory
-// frame and the main window with the assembly's schema.
-void cenik(Uloziste& u, Prompt& prompt, FrmBorovak& okno, const QString& vystup)
+// A few price-list items, one with a picture (its IDE returned), for the windows and the entry
+// frames' drop-downs.
+int naplnCenik(Uloziste& u, Prompt& prompt)
 {
     const int ide = Knihovna::pridej(u.cenik(), prompt, Knihovna::Druh::Obrazky, QStringLiteral("dub rustikál.jpg"), vzorekDreva());
     const std::vector<Cenik::Zadani> polozky = {
@@ -132,6 +140,67 @@ void cenik(Uloziste& u, Prompt& prompt, FrmBorovak& okno, const QString& vystup)
         {QStringLiteral("Čep 8 x 35"), QStringLiteral("301"), QStringLiteral("0.60"), QStringLiteral("ks"), QStringLiteral("P"), 0, 0},
         {QStringLiteral("Úchytka oblouk 128"), QStringLiteral("302"), QStringLiteral("45.50"), QStringLiteral("pár"), QStringLiteral("P"), 0, 0}};
     Cenik::nahraj(u.cenik(), prompt, polozky);
+    return ide;
+}
+
+// Each message box as it stands, numbered after prefix, answered with its default button.
+class Zpravy {
+public:
+    Zpravy(const QString& vystup, const QString& predpona)
+    {
+        QObject::connect(&m_casovac, &QTimer::timeout, [=, this] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (!box)
+                return;
+            uloz(box, vystup, predpona + QString::number(++m_n));
+            if (box->defaultButton())
+                box->defaultButton()->click();
+            else
+                box->close();
+        });
+        m_casovac.start(50);
+    }
+
+private:
+    QTimer m_casovac;
+    int m_n = 0;
+};
+
+// The plan viewer over the demo's combined plan, drawn and handed to krok; DataK closed after.
+void prehlizec(Uloziste& u, Prompt& prompt, QWidget* rodic, const std::function<void(FrmNP&)>& krok)
+{
+    TichyPrubeh tichy;
+    PlanRun run(u, prompt, tichy);
+    run.SpustNP(QStringLiteral("Kuchyně Novák"), 5000001, ZpusobNP::Kombinovane);
+    {
+        FrmNP np(u, prompt, PlanNaStrankach::z(run), rodic);
+        np.resize(1200, 900);
+        np.vykresli();
+        krok(np);
+    }
+    u.zavriDataK();
+}
+
+// The viewer's "Sklad" pressed twice: the booking, then the question before booking again.
+void zapisDoSkladu(Uloziste& u, Prompt& prompt, FrmBorovak& okno, const QString& vystup)
+{
+    prehlizec(u, prompt, &okno, [&](FrmNP& np) {
+        Zpravy zpravy(vystup, QStringLiteral("frmNP-sklad-"));
+        for (int i = 0; i < 2; ++i)
+            np.findChild<QAction*>(QStringLiteral("Sklad"))->trigger();
+    });
+}
+
+// The price list from the menu (with its backup keys) and as a field's chooser, with a picture,
+// its item form, the libraries, the preview, the accessory frame and the main window with the
+// assembly's schema.
+void cenik(Uloziste& u, Prompt& prompt, FrmBorovak& okno, const QString& vystup, int ide)
+{
+    {
+        FrmCenik c(u, prompt, &okno);
+        c.resize(900, 560);
+        uloz(&c, vystup, QStringLiteral("frmCenik"));
+    }
     {
         Dokument d; // the printed list as a page; the script turns every PDF here into PNG
         Cenik::TiskCeniku(d, u.cenik(), Cenik::ulozenyVyber(), Cenik::ulozeneRazeni());
@@ -142,7 +211,7 @@ void cenik(Uloziste& u, Prompt& prompt, FrmBorovak& okno, const QString& vystup)
         c.resize(900, 560);
         auto* seznam = c.findChild<QListWidget*>(QStringLiteral("lstCenik"));
         seznam->setCurrentItem(seznam->findItems(QStringLiteral("DTD dub 'Rustikál' 18"), Qt::MatchExactly).value(0));
-        uloz(&c, vystup, QStringLiteral("frmCenik"));
+        uloz(&c, vystup, QStringLiteral("frmCenik-volba"));
         zachytModalni(vystup, QStringLiteral("frmPolozka"));
         c.prikaz(QStringLiteral("UPoložky"));
         FrmNahled n(Knihovna::obrazek(u.cenik(), Knihovna::Druh::Obrazky, ide), QStringLiteral("DTD dub 'Rustikál' 18"), prompt, &c);
@@ -157,6 +226,14 @@ void cenik(Uloziste& u, Prompt& prompt, FrmBorovak& okno, const QString& vystup)
     strom->setCurrentItem(strom->topLevelItem(0)->child(0));
     emit strom->itemClicked(strom->topLevelItem(0)->child(0), 0);
     zachytModalni(vystup, QStringLiteral("frmNovy-fraPris"));
+    okno.prikaz(QStringLiteral("NoveP"));
+    zachytModalni(vystup, QStringLiteral("frmNovy-fraPris-cenik"), [](QDialog* d) { // named from the drop-down
+        auto* nazev = d->findChild<QComboBox*>(QStringLiteral("txtNPrislusenstvi"));
+        nazev->setCurrentText(QStringLiteral("Úchytka oblouk 128"));
+        emit nazev->textActivated(nazev->currentText());
+        auto* pocet = d->findChild<CiselnePole*>(QStringLiteral("txtPocetPrislusenstvi"));
+        pocet->nastavCislo(QStringLiteral("2"));
+    });
     okno.prikaz(QStringLiteral("NoveP"));
     zachytModalni(vystup, QStringLiteral("frmNovy-fraTyp-schema"));
     okno.prikaz(QStringLiteral("USestava"));
@@ -174,6 +251,7 @@ int main(int argc, char** argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("truhlar"));
+    QApplication::setApplicationDisplayName(QStringLiteral("Truhlář")); // the title of the messages, as in the workbench
     const QString vystup = app.arguments().value(1, QStringLiteral("screenshots"));
     QDir().mkpath(vystup);
     QTemporaryDir dir;
@@ -186,6 +264,7 @@ int main(int argc, char** argv)
     ZakazkaJson::nacti(u.dataS(), demo.readAll());
 
     QtPrompt prompt;
+    const int ide = naplnCenik(u, prompt);
     FrmBorovak okno(u, prompt);
     okno.resize(1100, 700);
     uloz(&okno, vystup, QStringLiteral("frmBorovak"));
@@ -199,16 +278,20 @@ int main(int argc, char** argv)
     emit strom->itemClicked(zakazka->child(0), 0);
     uloz(&okno, vystup, QStringLiteral("frmBorovak-sestava"));
     moznostiAJazyk(okno, prompt, vystup);
-    for (const char* stranka : {"index", "zakazka", "plan"}) { // the manual in its window
+    for (const char* stranka : {"index", "zakazka", "plan", "kalkulace"}) { // the manual in its window
         FrmNapoveda* napoveda = Napoveda::otevri(&okno, QLatin1String(stranka) + QStringLiteral(".html"));
         uloz(napoveda, vystup, QStringLiteral("frmNapoveda-") + QLatin1String(stranka));
         napoveda->close();
     }
 
     // the entry frames, each grabbed as soon as it stands and closed again
-    auto ramec = [&](const QString& nazev, const std::function<void(FrmNovy&)>& otevri) {
-        FrmNovy d(&okno);
+    // (pred: what the joiner does in it first)
+    auto ramec = [&](const QString& nazev, const std::function<void(FrmNovy&)>& otevri,
+                     const std::function<void(FrmNovy&)>& pred = {}) {
+        FrmNovy d(&okno, u.cenik(), prompt);
         QTimer::singleShot(50, &d, [&] {
+            if (pred)
+                pred(d);
             uloz(&d, vystup, nazev);
             d.reject();
         });
@@ -231,6 +314,22 @@ int main(int argc, char** argv)
         d.material(FrmNovy::Stav::UpraveniHrany, {1, QStringLiteral("ABS bílá 2"), 0, 0, false, 12.5, 255, 2},
                    [](const Materialy::Material&) { return Po::Zavrit; });
     });
+    // a format and a band named from the drop-down: the price list's price comes with the name
+    const auto zSeznamu = [](const char* pole, const char* polozka) {
+        return [=](FrmNovy& d) {
+            auto* nazev = d.findChild<QComboBox*>(QLatin1String(pole));
+            nazev->setCurrentText(QString::fromUtf8(polozka));
+            emit nazev->textActivated(nazev->currentText());
+        };
+    };
+    ramec(
+        QStringLiteral("frmNovy-fraMaterial-cenik"),
+        [](FrmNovy& d) { d.material(FrmNovy::Stav::NovyFormat, {}, [](const Materialy::Material&) { return Po::Zavrit; }); },
+        zSeznamu("txtFormat", "DTD dub 'Rustikál' 18"));
+    ramec(
+        QStringLiteral("frmNovy-fraHrana-cenik"),
+        [](FrmNovy& d) { d.material(FrmNovy::Stav::NovaHrana, {}, [](const Materialy::Material&) { return Po::Zavrit; }); },
+        zSeznamu("cmbHrana", "ABS bílá 2 mm"));
     ramec(QStringLiteral("frmNovy-fraPlMat"), [&](FrmNovy& d) {
         const auto hrany = Materialy::hrany(u.dataS(), QStringLiteral("Kuchyně Novák"));
         FrmNovy::TextyDesky t{Materialy::textFormatu(Materialy::formaty(u.dataS(), QStringLiteral("Kuchyně Novák"))[0])};
@@ -295,13 +394,7 @@ int main(int argc, char** argv)
     });
 
     // The plan viewer over a combined plan, its whole-page view, and the labels in frmVSP.
-    TichyPrubeh tichy;
-    PlanRun run(u, prompt, tichy);
-    run.SpustNP(QStringLiteral("Kuchyně Novák"), 5000001, ZpusobNP::Kombinovane);
-    {
-        FrmNP np(u, prompt, PlanNaStrankach::z(run), &okno);
-        np.resize(1200, 900);
-        np.vykresli();
+    prehlizec(u, prompt, &okno, [&](FrmNP& np) {
         uloz(&np, vystup, QStringLiteral("frmNP"));
         np.nahled();
         uloz(&np, vystup, QStringLiteral("frmNP-nahled"));
@@ -311,8 +404,7 @@ int main(int argc, char** argv)
         vsp.obnov();
         vsp.resize(1000, 900);
         uloz(&vsp, vystup, QStringLiteral("frmVSP-stitky"));
-    }
-    u.zavriDataK();
+    });
     // The calculation dialog, and every costing report in frmVSP; the sink unit carries a drawing.
     ukazkoveSchema(u, QStringLiteral("Dřez80"));
     const QStringList sestavy = {QStringLiteral("Dřez80 ( 1 ks )"), QStringLiteral("Horní60 ( 2 ks )"),
@@ -329,10 +421,12 @@ int main(int argc, char** argv)
         {DruhVypisu::Zakazka, "frmVSP-kalkulace"},   {DruhVypisu::Sestavy, "frmVSP-kalkulace-sestav"},
         {DruhVypisu::Nakup, "frmVSP-nakup"},         {DruhVypisu::Nabidka, "frmVSP-nabidka"},
         {DruhVypisu::Dilna, "frmVSP-dilna"},         {DruhVypisu::DilnaSeSchematy, "frmVSP-dilna-schemata"}};
+    const std::vector<Rezani::Format> rezani = Rezani::zakazky(u, QStringLiteral("Kuchyně Novák")); // as the window passes it
     for (const auto& [druh, nazev] : vypisy) {
         FrmVSP vsp(prompt, &okno);
         u.ObnovPracovniDatabazi();
-        vsp.setWindowTitle(SestavVypis(druh, vsp.dokument(), u.dataK(), u.cenik(), QStringLiteral("Kuchyně Novák"), {}, sestavy).titulek);
+        vsp.setWindowTitle(
+            SestavVypis(druh, vsp.dokument(), u.dataK(), u.cenik(), QStringLiteral("Kuchyně Novák"), {}, sestavy, rezani).titulek);
         u.zavriDataK();
         vsp.obnov();
         vsp.resize(1000, 900);
@@ -360,6 +454,7 @@ int main(int argc, char** argv)
         vsp.resize(1000, 900);
         uloz(&vsp, vystup, QStringLiteral("frmVSP-sklad"));
     }
-    cenik(u, prompt, okno, vystup);
+    cenik(u, prompt, okno, vystup, ide);
+    zapisDoSkladu(u, prompt, okno, vystup);
     return 0;
 }

@@ -62,7 +62,7 @@ const Vychozi vychozi[] = {
     {"Setting", "OkrajStrankyZleva", "10"},
     {"Setting", "OkrajStrankyZprava", "10"},
     {"Setting2", "VykresleniTabule", "1"},
-    {"Setting2", "ZCR", "0"}, // off: the cutting is priced only when the joiner asks for it
+    {"Setting2", "ZCR", "1"},
     {"Setting2", "CRez", "5"},
     {"Setting2", "Srez", "4"},
     {"Setting2", "Samovani", "0"},

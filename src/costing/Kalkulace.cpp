@@ -249,7 +249,7 @@ double sDPH(double zaklad)
     return Zaokrouhli(zaklad * (Nastaveni::cislo(QStringLiteral("Setting2"), QStringLiteral("DPH")) / 100 + 1), 2);
 }
 
-Ceny ZobrazCeny(Uloziste& u, const QString& zakazka, const QString& sestava)
+Ceny ZobrazCeny(Uloziste& u, const QString& zakazka, const QString& sestava, Rezani::Pamet* delkyRezu)
 {
     const QString mena = Nastaveni::GetSetting(QStringLiteral("Setting2"), QStringLiteral("Mena"));
     auto text = [&](const QVariant& soucet) {
@@ -259,7 +259,7 @@ Ceny ZobrazCeny(Uloziste& u, const QString& zakazka, const QString& sestava)
                QLatin1Char(' ') + mena;
     };
     Ceny c;
-    const std::vector<Rezani::Format> rezani = Rezani::zakazky(u, zakazka);
+    const std::vector<Rezani::Format> rezani = Rezani::zakazky(u, zakazka, {}, delkyRezu);
     u.ObnovPracovniDatabazi();
     try {
         Database& k = u.dataK();

@@ -34,12 +34,13 @@ void NaplnKalkulaciMaterialu(Database& dataK, const QString& zakazka, const Vybe
 void NaplnSoupisProDilnu(Database& dataK, const QString& zakazka, const Vyber& sestavy = {});
 
 // The texts of panels 2 and 3: the order's price with VAT and one piece of the assembly's,
-// "1234,50 Kč" (empty number when nothing is priced). Remakes DataK and closes it again.
+// "1234,50 Kč" (empty number when nothing is priced). Remakes DataK and closes it again. The
+// cut lengths of the cutting's rows come through delkyRezu where one is given.
 struct Ceny {
     QString zakazka;
     QString sestava;
 };
-Ceny ZobrazCeny(Uloziste& u, const QString& zakazka, const QString& sestava);
+Ceny ZobrazCeny(Uloziste& u, const QString& zakazka, const QString& sestava, Rezani::Pamet* delkyRezu = nullptr);
 
 // The materials of SoupisProKalkulaci priced at 0 (each once, by name): they cost nothing, and
 // a missing price should be noticed.

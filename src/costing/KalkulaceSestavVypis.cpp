@@ -50,18 +50,31 @@ void cenyTabulka(Dokument& d, double levy, double pravy, const QList<QPair<QStri
     d.pismo.tucne = false;
 }
 
-// The cutting after the assemblies: its rows and its price, which the assembly calculation adds
-// to its base (the quotation's base sums every row anyway).
+// The quotation's rows under a price without VAT: the VAT at dph percent and the price with it.
+QList<QPair<QString, QString>> sDPH(double cena, double dph)
+{
+    return {{QStringLiteral("DPH (") + Jednotky::cislo(dph) + QStringLiteral("%):"), Vypis::castka(cena * dph / 100) + m()},
+            {QStringLiteral("celkem s DPH:"), Vypis::castka(cena * (dph / 100 + 1)) + m()}};
+}
+
+// The cutting after the assemblies: its rows (in the quotation, as an assembly there, only its
+// prices) and its price, which the assembly calculation adds to its base (the quotation's base
+// sums every row anyway).
 double rezani(Dokument& d, Database& k, bool nabidka)
 {
     const QVariant cena = k.hodnota(
         QStringLiteral("SELECT sum(cena) FROM SoupisProKalkulaciCelkem WHERE cislo = %1").arg(Kalkulace::CisloRezani));
     if (cena.isNull())
         return 0;
-    Vypis::pasSestavy(d, QStringLiteral("Řezání"), 1, QString());
-    polozkySestavy(d, k, QString(), true);
+    Vypis::pas(d, QStringLiteral("Řezání"));
     const double c = Zaokrouhli(cena.toDouble(), 2);
-    cenyTabulka(d, nabidka ? 55 : 50, nabidka ? 35 : 25, {{QStringLiteral("cena za řezání (bez DPH):"), Vypis::castka(c) + m()}});
+    const QPair<QString, QString> radek{QStringLiteral("cena za řezání (bez DPH):"), Vypis::castka(c) + m()};
+    if (nabidka)
+        cenyTabulka(d, 55, 35, QList{radek} + sDPH(c, Vypis::procentoDPH()), Barva::zVB(0xFFFFC0));
+    else {
+        polozkySestavy(d, k, QString(), true);
+        cenyTabulka(d, 50, 25, {radek});
+    }
     Vypis::zlomStranyPodPrahem(d);
     d.CurrentY += 200;
     return nabidka ? 0 : c;
@@ -101,10 +114,10 @@ VysledekSestav KalkulaceSestavVypis(Dokument& d, Database& k, Database& cenik, c
                 // the unrounded piece price goes on; each cell is rounded only in print
                 c = {sestava, pocet, p, p * pocet, p * pocet * dph / 100, p * pocet * (dph / 100 + 1)};
                 cenyTabulka(d, 55, 35,
-                            {{QStringLiteral("cena za 1 ks sestavy (bez DPH):"), Vypis::castka(c.cena1ks) + m()},
-                             {QStringLiteral("cena celkem za ") + kusu, Vypis::castka(c.cena) + m()},
-                             {QStringLiteral("DPH (") + Jednotky::cislo(dph) + QStringLiteral("%):"), Vypis::castka(c.dph) + m()},
-                             {QStringLiteral("celkem s DPH:"), Vypis::castka(c.celkem) + m()}},
+                            QList<QPair<QString, QString>>{
+                                {QStringLiteral("cena za 1 ks sestavy (bez DPH):"), Vypis::castka(c.cena1ks) + m()},
+                                {QStringLiteral("cena celkem za ") + kusu, Vypis::castka(c.cena) + m()}} +
+                                sDPH(c.cena, dph),
                             Barva::zVB(0xFFFFC0));
             } else {
                 c.cena1ks = Zaokrouhli(p, 2);

@@ -72,12 +72,16 @@ void souhrn(Dokument& d, const QStringList& bunky)
 
 void pasSestavy(Dokument& d, const QString& sestava, double pocet, const QString& popis)
 {
+    pas(d, sestava + QStringLiteral(" - ") + Jednotky::cislo(pocet) + QStringLiteral(" ks - ") + popis);
+}
+
+void pas(Dokument& d, const QString& text)
+{
     if (d.CurrentY > d.PageHeight() - d.MarginBottom - 2500 && d.CurrentY < d.PageHeight())
         d.CurrentY += 2500;
     d.pismo.velikost = 10;
     d.pismo.tucne = false;
-    RadekTabulky r{{sestava + QStringLiteral(" - ") + Jednotky::cislo(pocet) + QStringLiteral(" ks - ") + popis},
-                   Dokument::mm(7)};
+    RadekTabulky r{{text}, Dokument::mm(7)};
     r.pozadi = Barva::zVB(0xC0E0FF);
     d.AddRow(Tabulka{{d.PageWidth() - d.MarginLeft - d.MarginRight}, {}}, r);
 }

@@ -24,6 +24,7 @@ void radek(Dokument& d, const Tabulka& t, const QStringList& bunky);
 // size 10, light blue. A band that would start in the last 2500 twips of a page goes to the
 // next one, so that it never stands alone at the foot.
 void pasSestavy(Dokument& d, const QString& sestava, double pocet, const QString& popis);
+void pas(Dokument& d, const QString& text); // the same band with a caption of its own
 // The assembly's drawing (Schemata of the price list) under its table, fitted to the printable
 // width; nothing for 0, a missing IDE or a picture that does not decode. Less than 2200 twips
 // left on the page breaks it first.

@@ -36,6 +36,11 @@ CiselnePole::Tvar CiselnePole::sDesetinnymi(int mist)
     };
 }
 
+void CiselnePole::nastavCislo(const QString& cislo)
+{
+    setText(m_tvar && !hasFocus() ? m_tvar(cislo) : cislo);
+}
+
 void CiselnePole::focusInEvent(QFocusEvent* e)
 {
     QLineEdit::focusInEvent(e);

@@ -23,6 +23,9 @@ public:
     using Tvar = std::function<QString(const QString&)>;
     void nastavTvar(Tvar tvar) { m_tvar = std::move(tvar); }
     static Tvar sDesetinnymi(int mist); // "2.5" reads "2.500" with three places
+    // A number the program puts in (from the store or the price list), shown in the form as
+    // if typed and left; while the field has the focus, bare for editing.
+    void nastavCislo(const QString& cislo);
 
 protected:
     void keyPressEvent(QKeyEvent* e) override;

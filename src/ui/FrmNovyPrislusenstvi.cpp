@@ -42,7 +42,7 @@ void FrmNovy::prislusenstvi(Stav stavRamce, const QStringList& nazvy, const QStr
     radekNazvu->addWidget(nazev, 1);
     radekNazvu->addWidget(tlacitkoCeniku(QStringLiteral("EP"), [=](const QString& n, double c, const QString& j) {
         nazev->setCurrentText(n);
-        cena->setText(Jednotky::cislo(c));
+        cena->nastavCislo(Jednotky::cislo(c));
         jednotka->setCurrentText(j);
     }));
     QFormLayout* formular = r.formular;
@@ -53,9 +53,9 @@ void FrmNovy::prislusenstvi(Stav stavRamce, const QStringList& nazvy, const QStr
 
     auto vypln = [=](const Prislusenstvi::Polozka& z) {
         nazev->setCurrentText(z.oznaceni);
-        pocet->setText(z.pocet ? Jednotky::cislo(z.pocet) : QString());
+        pocet->nastavCislo(z.pocet ? Jednotky::cislo(z.pocet) : QString());
         jednotka->setCurrentText(z.jednotka);
-        cena->setText(z.oznaceni.isEmpty() && z.cena == 0 ? QString() : Jednotky::cislo(z.cena));
+        cena->nastavCislo(z.oznaceni.isEmpty() && z.cena == 0 ? QString() : Jednotky::cislo(z.cena));
         popisek->setText(Prislusenstvi::popisekCeny(z.jednotka));
     };
     vypln(p);
@@ -66,7 +66,7 @@ void FrmNovy::prislusenstvi(Stav stavRamce, const QStringList& nazvy, const QStr
     };
     connect(nazev, &QComboBox::textActivated, this, [=, this](const QString& t) {
         if (const auto z = zCeniku(t)) {
-            cena->setText(Jednotky::cislo(z->cena));
+            cena->nastavCislo(Jednotky::cislo(z->cena));
             jednotka->setCurrentText(z->jednotka);
         }
         stav();

@@ -185,7 +185,7 @@ struct PoleMaterialu {
         fx->nastavMm(z.x);
         fy->nastavMm(z.y);
         ov->setChecked(z.ov);
-        cena->setText(z.cena ? Jednotky::cislo(z.cena) : QString());
+        cena->nastavCislo(z.cena ? Jednotky::cislo(z.cena) : QString());
         presah->nastavMm(z.presah);
     }
     void ukazBarvu(const QColor& c) const
@@ -263,7 +263,7 @@ void FrmNovy::material(Stav stavRamce, const Materialy::Material& m,
     radekNazvu->addWidget(p->nazev, 1);
     const auto prevezmi = [p](const QString& n, double c, const QString&) {
         p->nazev->setCurrentText(n);
-        p->cena->setText(Jednotky::cislo(c));
+        p->cena->nastavCislo(Jednotky::cislo(c));
     };
     radekNazvu->addWidget(tlacitkoCeniku(hrana ? QStringLiteral("VH") : QStringLiteral("VF"), prevezmi));
     prevezmiZCeniku(p->nazev, prevezmi);

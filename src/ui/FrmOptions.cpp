@@ -246,7 +246,10 @@ QWidget* FrmOptions::strankaCen()
     auto* ceny = new QFormLayout;
     ceny->addRow(QStringLiteral("Měna:"), vytvorPole("Mena"));
     ceny->addRow(QStringLiteral("DPH [%]:"), vytvorPole("DPH"));
-    ceny->addRow(QStringLiteral("Cena řezu:"), vytvorPole("CRez"));
+    auto* cenaRezu = new QHBoxLayout; // priced by the metre of cut: said beside the field
+    cenaRezu->addWidget(vytvorPole("CRez"));
+    cenaRezu->addWidget(new QLabel(QStringLiteral("za 1 m řezu")), 1);
+    ceny->addRow(QStringLiteral("Cena řezu:"), cenaRezu);
     ceny->addRow(vytvorPole("ZCR"));
     auto* slevy = new QGroupBox(QStringLiteral("Slevy"));
     auto* s = new QFormLayout(slevy);

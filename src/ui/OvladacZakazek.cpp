@@ -174,6 +174,7 @@ void OvladacZakazek::vyberUzel(QString zakazka, QString sestava)
     }
     m_AktZakazka = zakazka;
     m_AktSestava = sestava;
+    m_delkyRezu.zahod(zakazka); // called after the order or its assemblies changed
     m_vyber.obnov(zakazka, sestava);
 }
 
@@ -226,7 +227,7 @@ void OvladacZakazek::obnovCeny()
     if (m_vyber.txtzakazka().isEmpty())
         return;
     try {
-        const Kalkulace::Ceny c = Kalkulace::ZobrazCeny(m_uloziste, m_vyber.txtzakazka(), m_AktSestava);
+        const Kalkulace::Ceny c = Kalkulace::ZobrazCeny(m_uloziste, m_vyber.txtzakazka(), m_AktSestava, &m_delkyRezu);
         m_panel[1]->setText(c.zakazka);
         m_panel[2]->setText(c.sestava);
     } catch (const Error& e) {
@@ -237,11 +238,18 @@ void OvladacZakazek::obnovCeny()
     m_panel[1]->setToolTip(QStringLiteral("Cena zakázky s DPH"));
 }
 
+void OvladacZakazek::poZmeneZakazky()
+{
+    m_delkyRezu.zahod(m_vyber.txtzakazka());
+    obnovCeny();
+}
+
 void OvladacZakazek::poObnoveDat()
 {
     NaplnitStrom();
     m_AktZakazka.clear();
     m_AktSestava.clear();
+    m_delkyRezu.zahod();
     m_vyber.obnov(QString(), QString()); // nothing selected, every page refreshed
 }
 

@@ -8,6 +8,7 @@
 //   OvladacZakazek.cpp         the tree, the selection, the panels, the state of the commands
 //   OvladacZakazekZaznamy.cpp        orders, assemblies, formats, bands, boards, the board import
 //   OvladacZakazekPrislusenstvi.cpp  accessories and the schema picture
+#include "costing/Rezani.h"
 #include "orders/Materialy.h"
 #include "orders/Prislusenstvi.h"
 
@@ -75,6 +76,8 @@ private:
     void obnovZakazku();
     void obnovSestavu();
     void obnovCeny(); // panels 2 and 3: the order and one piece of the assembly, with VAT
+    // The order's boards, formats or bands changed: its cut lengths go, the panels are anew.
+    void poZmeneZakazky();
     void UlozitZakazkuJako();
     void UlozitSestavuJako();
     // orders, assemblies, formats, bands and boards (OvladacZakazekZaznamy.cpp)
@@ -116,4 +119,5 @@ private:
     QTableWidget* m_GPR;
     QLabel* m_img1;
     QLabel* m_panel[3];
+    Rezani::Pamet m_delkyRezu; // of the cutting in panel 2, kept while moving around the tree
 };

@@ -162,7 +162,7 @@ void OvladacZakazek::NovyMaterial(bool hrana)
         if (!ok)
             return PoUlozeni::Odmitnuto;
         hrana ? NaplnitGridHrany(QStringLiteral("Novy zaznam")) : NaplnitGridFormaty(QStringLiteral("Novy zaznam"));
-        obnovCeny();
+        poZmeneZakazky();
         return PoUlozeni::Dalsi;
     });
 }
@@ -185,7 +185,7 @@ void OvladacZakazek::UpravitMaterial(bool hrana)
             if (!Materialy::UlozitUpravuHrany(m_uloziste.dataS(), m_vyber.txtzakazka(), z))
                 return PoUlozeni::Odmitnuto;
             NaplnitGridHrany(QStringLiteral("Upraveni zaznamu"));
-            obnovCeny();
+            poZmeneZakazky();
             return PoUlozeni::Zavrit;
         }
         const auto u = Materialy::UlozitUpravuFormatu(m_uloziste.dataS(), m_prompt, m_vyber.txtzakazka(), z);
@@ -194,7 +194,7 @@ void OvladacZakazek::UpravitMaterial(bool hrana)
         NaplnitGridFormaty(u == Materialy::Uprava::Slouceno ? QStringLiteral("Odstraneni zaznamu")
                                                             : QStringLiteral("Upraveni zaznamu"));
         NaplnitGridPM(QStringLiteral("Upravení záznamu"));
-        obnovCeny();
+        poZmeneZakazky();
         return PoUlozeni::Zavrit;
     });
 }
@@ -209,7 +209,7 @@ void OvladacZakazek::SmazatMaterial(bool hrana)
     if (!smazano)
         return;
     hrana ? NaplnitGridHrany(QStringLiteral("Odstraneni zaznamu")) : NaplnitGridFormaty(QStringLiteral("Odstraneni zaznamu"));
-    obnovCeny(); // a band may go while boards still name it: they lose its price
+    poZmeneZakazky(); // a band may go while boards still name it: they lose its price
 }
 
 void OvladacZakazek::NaplnitGridFormaty(const QString& akce)
@@ -285,7 +285,7 @@ void OvladacZakazek::NovyPM()
                         .isNull())
                     return PoUlozeni::Odmitnuto;
                 NaplnitGridPM(QStringLiteral("Novy zaznam"));
-                obnovCeny();
+                poZmeneZakazky();
                 return PoUlozeni::Dalsi;
             });
 }
@@ -317,7 +317,7 @@ void OvladacZakazek::UpravitPM()
                         .isNull())
                     return PoUlozeni::Odmitnuto;
                 NaplnitGridPM(QStringLiteral("Upravení záznamu"));
-                obnovCeny();
+                poZmeneZakazky();
                 return PoUlozeni::Zavrit;
             });
 }
@@ -329,7 +329,7 @@ void OvladacZakazek::SmazatPM()
         return;
     if (Desky::SmazatPM(m_uloziste.dataS(), m_prompt, m_vyber.txtzakazka(), m_vyber.txtSestava(), m_GPM->item(r, 0)->text())) {
         NaplnitGridPM(QStringLiteral("Odstraneni zaznamu"));
-        obnovCeny();
+        poZmeneZakazky();
     }
 }
 
@@ -341,6 +341,6 @@ void OvladacZakazek::ImportDesek()
     if (d.exec() == QDialog::Accepted) {
         NaplnitGridHrany(QStringLiteral("Novy zaznam"));
         NaplnitGridPM(QStringLiteral("Novy zaznam"));
-        obnovCeny();
+        poZmeneZakazky();
     }
 }

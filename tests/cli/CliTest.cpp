@@ -319,11 +319,12 @@ QString pdfText(const QString& pdf)
 } // namespace
 
 // A generated order of three assemblies (1, 2 and 3 pieces) and 60 boards, each with one band
-// on its first X side: calc-sestavy, quote and purchase against figures computed here from the
-// order itself, workshop by its row count; each PDF reads back its title and headings.
+// on its first X side: calc-sestavy, quote and purchase (the cutting off) against figures
+// computed here from the order itself, workshop by its row count; each PDF reads back its title and headings.
 TEST_F(CliTest, VypisySestavNakupuADilnyProtiVlastnimuVypoctu)
 {
     ASSERT_EQ(spust({"init"}).kod, 0);
+    bezRezani();
     QJsonArray sestavy;
     double zakladSestav = 0, plochaDesek = 0, metruHrany = 0;
     int deskyCelkem = 0;

@@ -1,5 +1,8 @@
 #pragma once
-// Runs truhlar-cli as a user would, in a folder and settings of the test's own.
+// Runs truhlar-cli as a user would, in a folder and settings of the test's own; the test's own
+// process shares those settings (bezRezani writes them between two runs).
+#include "DomovTest.h"
+
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -12,6 +15,7 @@ struct Vysledek {
 
 class SpusteniCli : public ::testing::Test {
 protected:
+    SpusteniCli() { qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_dir.filePath(QStringLiteral("config")))); }
     Vysledek spust(QStringList argumenty, const QProcessEnvironment& navic = {})
     {
         QProcess p;

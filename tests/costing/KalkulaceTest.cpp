@@ -1,9 +1,13 @@
-// Costing: the rounding of the old Format, the discounts, and the demo order priced by hand.
+// Costing: the rounding of the old Format, the discounts, the demo order priced by hand, and the
+// cut lengths kept for the price panels.
 #include "DomovTest.h"
+#include "catalogues/Sklad.h"
+#include "core/Database.h"
 #include "core/Nastaveni.h"
 #include "core/Recordset.h"
 #include "costing/Kalkulace.h"
 #include "costing/KalkulaceZakazkyVypis.h"
+#include "costing/Rezani.h"
 #include "core/Zaokrouhleni.h"
 #include "exchange/ZakazkaJson.h"
 
@@ -126,4 +130,42 @@ TEST_F(KalkulaceTest, PrazdnaZakazkaJenSouhrnDane)
     EXPECT_FALSE(t.contains(QStringLiteral("Příslušenství:")));
     EXPECT_EQ(t.count(QStringLiteral("0.00 Kč")), 3);
     uloziste().zavriDataK();
+}
+
+namespace {
+
+// The demo kitchen's metres of cut (one format), measured now or taken from pamet.
+double metru(Uloziste& u, Rezani::Pamet* pamet)
+{
+    const auto v = Rezani::zakazky(u, QStringLiteral("Kuchyně Novák"), {}, pamet);
+    EXPECT_EQ(v.size(), 1u);
+    return v.empty() ? 0 : v[0].metru;
+}
+
+} // namespace
+
+// The first-run settings price the cutting. A kept length stands until the order's lengths are
+// dropped; a change of the trim or of the offcuts a plan takes measures again by itself.
+TEST_F(KalkulaceTest, DelkaRezuPlatiDokudSeZakazkaANastaveniNezmeni)
+{
+    Rezani::Pamet pamet;
+    const double puvodne = metru(uloziste(), &pamet);
+    EXPECT_GT(puvodne, 0);
+    // behind the cache's back, as another window or the command line would
+    uloziste().dataS().executeSqlite(QStringLiteral("UPDATE Zakazky SET Pocet = 4 WHERE Oznaceni = 'sokl'"));
+    const double nove = metru(uloziste(), nullptr);
+    ASSERT_NE(nove, puvodne);
+    EXPECT_EQ(metru(uloziste(), &pamet), puvodne);
+    pamet.zahod(QStringLiteral("KUCHYNĚ NOVÁK")); // order names compare case-blind
+    EXPECT_EQ(metru(uloziste(), &pamet), nove);
+
+    Nastaveni::SaveSetting(QStringLiteral("Setting2"), QStringLiteral("Samovani"), QStringLiteral("10"));
+    const double seSamovanim = metru(uloziste(), nullptr);
+    ASSERT_NE(seSamovanim, nove); // a narrower sheet, another plan
+    EXPECT_EQ(metru(uloziste(), &pamet), seSamovanim);
+    Nastaveni::SaveSetting(QStringLiteral("Setting2"), QStringLiteral("POdrezky"), QStringLiteral("1"));
+    EXPECT_EQ(metru(uloziste(), &pamet), seSamovanim); // no offcuts stored: the same plan
+    Sklad::pridej(uloziste().dataS(), {{QStringLiteral("DTD bílá 18"), 1300, 800, 1}});
+    EXPECT_EQ(metru(uloziste(), &pamet), metru(uloziste(), nullptr));
+    EXPECT_NE(metru(uloziste(), &pamet), seSamovanim);
 }

@@ -18,6 +18,7 @@
 #include "costing/Kalkulace.h"
 #include "costing/KalkulaceSestavVypis.h"
 #include "costing/SoupisProDilnuVypis.h"
+#include "costing/Rezani.h"
 #include "costing/Vypisy.h"
 #include "exchange/ZakazkaJson.h"
 
@@ -71,10 +72,11 @@ protected:
     Database& k() { return uloziste().dataK(); }
 
     // DataK is remade from the data at every report, as the window does
-    VysledekVypisu vypis(DruhVypisu druh, Dokument& d, const QStringList& nazvy = {})
+    VysledekVypisu vypis(DruhVypisu druh, Dokument& d, const QStringList& nazvy = {},
+                         const std::vector<Rezani::Format>& rezani = {})
     {
         uloziste().ObnovPracovniDatabazi();
-        return SestavVypis(druh, d, k(), uloziste().cenik(), Jelen, nazvy, nazvy);
+        return SestavVypis(druh, d, k(), uloziste().cenik(), Jelen, nazvy, nazvy, rezani);
     }
 
     void schema(int ide)
@@ -150,6 +152,28 @@ TEST_F(VypisyTest, KalkulaceSestavANabidka)
     EXPECT_TRUE(tn.contains(QStringLiteral("307.64 Kč"))); // 258.52 x 1.19 = 307.6388
     EXPECT_FALSE(tn.contains(QStringLiteral("Lamino dub (2800 mm x 2070 mm)"))); // no detail rows
     EXPECT_EQ(Vypis::castka(q.dan->celkem), QStringLiteral("973.92"));
+}
+
+// The cutting (10 m at the first-run 5 Kč) after the assemblies: in the assembly calculation its
+// row and price, added to the base; in the quotation a block like an assembly's, its price, VAT
+// and price with VAT, without the row of metres.
+TEST_F(VypisyTest, RezaniVKalkulaciSestavANabidce)
+{
+    const std::vector<Rezani::Format> rezani{{QStringLiteral("Řezání Lamino dub (2800 mm x 2070 mm)"), 10}};
+    for (DruhVypisu druh : {DruhVypisu::Sestavy, DruhVypisu::Nabidka}) {
+        SCOPED_TRACE(int(druh));
+        Dokument d;
+        const VysledekVypisu v = vypis(druh, d, {}, rezani);
+        EXPECT_EQ(Vypis::castka(v.dan->zaklad), QStringLiteral("868.42")); // 818.42 + 50.00
+        const QStringList t = texty(d);
+        EXPECT_TRUE(t.contains(QStringLiteral("Řezání")));
+        EXPECT_TRUE(t.contains(QStringLiteral("cena za řezání (bez DPH):")));
+        EXPECT_TRUE(t.contains(QStringLiteral("50.00 Kč")));
+        const bool nabidka = druh == DruhVypisu::Nabidka;
+        EXPECT_EQ(t.contains(rezani[0].material), !nabidka);
+        EXPECT_EQ(t.contains(QStringLiteral("9.50 Kč")), nabidka);
+        EXPECT_EQ(t.contains(QStringLiteral("59.50 Kč")), nabidka);
+    }
 }
 
 // The purchase list: "ABS dub 2" and "abs dub 2" are one material; 7.000 m of band buys 8 m;

@@ -4,6 +4,7 @@
 
 #include "core/Aplikace.h"
 #include "core/Error.h"
+#include "core/Nastaveni.h"
 #include "core/Razitko.h"
 
 #include <QDir>
@@ -50,4 +51,9 @@ QByteArray demoJson()
     QFile f(QStringLiteral(TRUHLAR_SHARE "/demo/kuchyne.json"));
     EXPECT_TRUE(f.open(QIODevice::ReadOnly));
     return f.readAll();
+}
+
+void bezRezani()
+{
+    Nastaveni::SaveSetting(QStringLiteral("Setting2"), QStringLiteral("ZCR"), QStringLiteral("0"));
 }

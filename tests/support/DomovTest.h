@@ -25,5 +25,9 @@ private:
 // The demo kitchen order (share/demo/kuchyne.json) as exchange JSON.
 QByteArray demoJson();
 
+// The costing without the cutting (ZCR 0; the first-run settings have it on), for figures worked
+// out from the order's materials alone. Writes the settings file that XDG_CONFIG_HOME names.
+void bezRezani();
+
 // The store's error number that f throws, 0 when it throws none.
 int cisloChyby(const std::function<void()>& f);

@@ -7,6 +7,7 @@
 #include "catalogues/Cenik.h"
 #include "catalogues/Knihovna.h"
 #include "exchange/Zaloha.h"
+#include "ui/CiselnePole.h"
 #include "ui/FrmCenik.h"
 #include "ui/FrmNovy.h"
 #include "ui/FrmObr.h"
@@ -27,6 +28,12 @@ namespace {
 QString text(QWidget* okno, const char* pole)
 {
     return okno->findChild<QLineEdit*>(QLatin1String(pole))->text();
+}
+
+// The number a frame's number field holds, whatever form it shows.
+double hodnota(QWidget* okno, const char* pole)
+{
+    return okno->findChild<CiselnePole*>(QLatin1String(pole))->hodnota();
 }
 
 void napis(QWidget* okno, const char* pole, const QString& t)
@@ -252,7 +259,9 @@ TEST_F(CenikOkno, KlavesyVolbyPredajiPolozkuPolimZaznamu)
     for (const Pripad& p : pripady) {
         SCOPED_TRACE(p.prikaz);
         klik(p.sestava ? strom->topLevelItem(0)->child(0) : strom->topLevelItem(0));
-        QStringList zapnute, nazevACena;
+        QStringList zapnute;
+        QString nazev;
+        double cena = 0;
         Kroky k({[&](QWidget* w) {
                      auto* d = qobject_cast<FrmNovy*>(w);
                      if (!d || !d->findChild<QPushButton*>(QLatin1String(p.tlacitko)))
@@ -278,7 +287,8 @@ TEST_F(CenikOkno, KlavesyVolbyPredajiPolozkuPolimZaznamu)
                      auto* d = qobject_cast<FrmNovy*>(w);
                      if (!d)
                          return false;
-                     nazevACena << d->findChild<QComboBox*>(QLatin1String(p.poleNazvu))->currentText() << text(d, p.poleCeny).replace(QLatin1Char(','), QLatin1Char('.'));
+                     nazev = d->findChild<QComboBox*>(QLatin1String(p.poleNazvu))->currentText();
+                     cena = hodnota(d, p.poleCeny);
                      d->reject();
                      return true;
                  }});
@@ -287,21 +297,23 @@ TEST_F(CenikOkno, KlavesyVolbyPredajiPolozkuPolimZaznamu)
         EXPECT_TRUE(k.zpravy.isEmpty()) << k.zpravy.join(QLatin1Char('|')).toStdString();
         const QString vlastni = QString::fromLatin1(p.tlacitko).mid(3);
         EXPECT_EQ(zapnute, vlastni == QLatin1String("VM") ? QStringList{vlastni} : QStringList({QStringLiteral("VM"), vlastni}));
-        ASSERT_EQ(nazevACena.size(), 2);
-        EXPECT_EQ(nazevACena[0], p.polozka);
-        EXPECT_DOUBLE_EQ(nazevACena[1].toDouble(), Cenik::nacti(uloziste().cenik(), p.polozka)->cena);
+        EXPECT_EQ(nazev, p.polozka);
+        EXPECT_DOUBLE_EQ(cena, Cenik::nacti(uloziste().cenik(), p.polozka)->cena);
     }
 }
 
 // A name chosen from the drop-down of the format and edge frames brings its price from the
-// price list, as "Z ceníku..." does; a name typed by hand brings nothing.
+// price list, as "Z ceníku..." does, shown as a price left by the joiner is; a name typed by
+// hand brings nothing.
 TEST_F(CenikOkno, VolbaZeSeznamuPrinasiCenu)
 {
     klik(strom->topLevelItem(0));
-    for (auto [prikaz, nazev, cena, polozka] : {std::tuple{"NF", "txtFormat", "txtFCena", Dub},
-                                               std::tuple{"NH", "cmbHrana", "txtCenaHrany", Hrana}}) {
+    for (auto [prikaz, nazev, cena, polozka, tvar] :
+         {std::tuple{"NF", "txtFormat", "txtFCena", Dub, "412.50 Kč/m2"},
+          std::tuple{"NH", "cmbHrana", "txtCenaHrany", Hrana, "14.90 Kč/m"}}) {
         SCOPED_TRACE(prikaz);
         QString vybrana, napsana;
+        double cenaVybrane = 0;
         Kroky k({[&](QWidget* w) {
             auto* d = qobject_cast<FrmNovy*>(w);
             if (!d)
@@ -312,14 +324,16 @@ TEST_F(CenikOkno, VolbaZeSeznamuPrinasiCenu)
             napsana = text(d, cena);
             seznam->setCurrentIndex(seznam->findText(polozka));
             emit seznam->textActivated(polozka); // as a click in the drop-down list
-            vybrana = text(d, cena).replace(QLatin1Char(','), QLatin1Char('.'));
+            vybrana = text(d, cena);
+            cenaVybrane = hodnota(d, cena);
             d->reject();
             return true;
         }});
         okno->prikaz(QLatin1String(prikaz));
         EXPECT_TRUE(k.hotovo());
         EXPECT_EQ(napsana, QString());
-        EXPECT_DOUBLE_EQ(vybrana.toDouble(), Cenik::nacti(uloziste().cenik(), polozka)->cena);
+        EXPECT_EQ(vybrana, QString::fromUtf8(tvar));
+        EXPECT_DOUBLE_EQ(cenaVybrane, Cenik::nacti(uloziste().cenik(), polozka)->cena);
     }
 }
 

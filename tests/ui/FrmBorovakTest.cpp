@@ -187,11 +187,14 @@ TEST_F(Okno, StornoZastaviBeh)
 }
 
 // The import from the assembly page: a refused line keeps the window open with the caret on it;
-// a good list fills the grid.
+// a good list fills the grid, and its boards are priced in both panels at once.
 TEST_F(Okno, ImportZeStrankySestavyAChybnyRadek)
 {
     klik(strom->topLevelItem(0));
     klik(strom->topLevelItem(0)->child(3)); // Zásuv50
+    auto* panel2 = okno->findChild<QLabel*>(QStringLiteral("panel2"));
+    auto* panel3 = okno->findChild<QLabel*>(QStringLiteral("panel3"));
+    const QString zakazka = panel2->text(), sestava = panel3->text();
     ASSERT_TRUE(okno->findChild<QPushButton*>(QStringLiteral("cmdImport"))->isEnabled());
     int pokus = 0;
     int radekKurzoru = -1;
@@ -224,6 +227,8 @@ TEST_F(Okno, ImportZeStrankySestavyAChybnyRadek)
     okno->prikaz(QStringLiteral("cmdImport"));
     EXPECT_EQ(radekKurzoru, 1);
     EXPECT_EQ(okno->findChild<QTableWidget*>(QStringLiteral("GPM"))->rowCount(), 7);
+    EXPECT_NE(panel2->text(), zakazka);
+    EXPECT_NE(panel3->text(), sestava);
 }
 
 // After a restore the tree is refilled and nothing is selected; the dialogs are answered by
@@ -400,10 +405,11 @@ TEST_F(Okno, PanelCenySestavyOtviraKalkulaciSestav)
     EXPECT_EQ(videno, QStringList({"0", "1", "Kalkulace sestav", "Kalkulace sestav", "Horní60"}));
 }
 
-// The price panels follow the selection and every edit: the demo order 5062.31 Kč with VAT,
-// one Dřez80 1195.00 Kč; a deleted board takes its price out of both at once.
+// The price panels follow the selection and every edit: the demo order 5062.31 Kč with VAT
+// (the cutting off), one Dřez80 1195.00 Kč; a deleted board takes its price out of both at once.
 TEST_F(Okno, PanelyCenPoVyberuAUprave)
 {
+    bezRezani();
     auto* panel2 = okno->findChild<QLabel*>(QStringLiteral("panel2"));
     auto* panel3 = okno->findChild<QLabel*>(QStringLiteral("panel3"));
     klik(strom->topLevelItem(0));

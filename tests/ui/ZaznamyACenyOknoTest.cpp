@@ -7,6 +7,7 @@
 #include "SkriptovanyPrompt.h"
 #include "catalogues/Sklad.h"
 #include "core/Jednotky.h"
+#include "costing/Kalkulace.h"
 #include "optimiser/PlanRun.h"
 #include "orders/Zakazky.h"
 #include "ui/FrmNP.h"
@@ -75,6 +76,36 @@ TEST_F(ZaznamyOkno, PanelyCenPoUpraveFormatuASmazaniHrany)
     okno->prikaz(QStringLiteral("SH"));
     EXPECT_EQ(smazat.zpravy.size(), 1);
     EXPECT_NE(panel2->text(), poUprave);
+}
+
+// With the cutting priced (the first-run settings), the order's panel keeps its cut lengths while
+// the joiner moves around the tree, and an edited board drops them: the panel is what a fresh
+// costing gives, cutting included, before and after.
+TEST_F(ZaznamyOkno, PanelZakazkySRezanimPoUpraveDesky)
+{
+    auto* panel2 = okno->findChild<QLabel*>(QStringLiteral("panel2"));
+    auto cerstva = [&] { return Kalkulace::ZobrazCeny(uloziste(), Kuchyne, QString()).zakazka; };
+    QTreeWidgetItem* sokl = strom->topLevelItem(0)->child(2);
+    ASSERT_EQ(sokl->data(0, Qt::UserRole + 1).toString(), QStringLiteral("Sokl")); // the tree sorts by name
+    klik(strom->topLevelItem(0));
+    const QString puvodne = panel2->text();
+    EXPECT_EQ(puvodne, cerstva());
+    klik(sokl);
+    EXPECT_EQ(panel2->text(), puvodne);
+    const double metru = Rezani::zakazky(uloziste(), Kuchyne)[0].metru;
+
+    okno->findChild<QTableWidget*>(QStringLiteral("GPM"))->setCurrentCell(0, 0); // sokl, 2 pieces
+    Kroky upravit({vRamci("fraPlMat", [](FrmNovy* d) {
+        d->findChild<QLineEdit*>(QStringLiteral("txtPocetMaterial"))->setText(QStringLiteral("4"));
+        klikni(d, "cmdUPM");
+    })});
+    okno->prikaz(QStringLiteral("UpraveniPM"));
+    ASSERT_TRUE(upravit.hotovo());
+    ASSERT_NE(Rezani::zakazky(uloziste(), Kuchyne)[0].metru, metru); // the plan cuts more
+    EXPECT_NE(panel2->text(), puvodne);
+    EXPECT_EQ(panel2->text(), cerstva());
+    klik(strom->topLevelItem(0));
+    EXPECT_EQ(panel2->text(), cerstva());
 }
 
 TEST_F(ZaznamyOkno, CiselnaPoleFiltrujiAUkazujiTvar)
