@@ -43,10 +43,12 @@ const Kandidat kandidati[] = {
     {1, true, {0, 1}, true, true},
 };
 
-// "SELECT * FROM SoupisZbytku WHERE ID = true and Oznaceni = 'KZ' and Rada = {CisloRady} ..."
-bool jeKZ(const ZbytekNP& z, int rada)
+// "SELECT * FROM SoupisZbytku WHERE ID = true and Oznaceni = 'KZ' and CT = {CisloTabule} and Rada =
+// {CisloRady} ...": the end remnants of this sheet only; those of an earlier sheet with the same
+// row number lie where this sheet has boards
+bool jeKZ(const ZbytekNP& z, int tabule, int rada)
 {
-    return !z.smazany && z.ID && z.Oznaceni == DruhZbytku::KZ && z.Rada == rada;
+    return !z.smazany && z.ID && z.Oznaceni == DruhZbytku::KZ && z.CT == tabule && z.Rada == rada;
 }
 
 } // namespace
@@ -108,8 +110,8 @@ void Umisteni::DalsiZbytekRadyKomb()
 // Stacks of end remnants that stand on one another with exactly one kerf between them become
 // one taller strip of the row, when a waiting board fits the largest such block. With kerf 0
 // a remnant of height 0 lies on itself: a walk that comes back to a row it has seen ends there
-// and the run carries a warning. The end remnants of every sheet with this row number take
-// part: the queries have no test of the sheet.
+// and the run carries a warning. Only the end remnants of this sheet take part: stacked with
+// those of an earlier sheet, a block would reach over boards of this one.
 bool Umisteni::sloucitKoncoveZbytky()
 {
     const double k = s.SrezNP;
@@ -119,7 +121,7 @@ bool Umisteni::sloucitKoncoveZbytky()
     std::vector<int> zaklady;
     std::unordered_map<double, std::vector<int>> podleYDP;
     for (int i = 0; i < int(zbytky.size()); ++i)
-        if (jeKZ(zbytky[i], rada)) {
+        if (jeKZ(zbytky[i], s.CisloTabule, rada)) {
             zaklady.push_back(i);
             podleYDP[zbytky[i].YDP].push_back(i);
         }
@@ -131,7 +133,7 @@ bool Umisteni::sloucitKoncoveZbytky()
         int nejlepsi = -1;
         if (it != podleYDP.end())
             for (int i : it->second)
-                if (jeKZ(zbytky[i], rada) && zbytky[i].XDP <= Dotaz::jakoVDotazu(xdp) &&
+                if (jeKZ(zbytky[i], s.CisloTabule, rada) && zbytky[i].XDP <= Dotaz::jakoVDotazu(xdp) &&
                     (nejlepsi < 0 || zbytky[i].XDP > zbytky[nejlepsi].XDP))
                     nejlepsi = i;
         return nejlepsi;

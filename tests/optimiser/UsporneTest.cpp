@@ -179,9 +179,17 @@ class UsporneBeh : public PlanTest {};
 TEST_F(UsporneBeh, CtyriZpusobyProjdouKontrolouAUsporneNeniHorsi)
 {
     nastav("CasUsporne", qEnvironmentVariableIsSet("TRUHLAR_CAS") ? qgetenv("TRUHLAR_CAS").constData() : "0.05");
-    const int pripadu = pocetPripadu(12, 400);
-    const int jen = qEnvironmentVariableIntValue("TRUHLAR_PRIPAD");
-    for (int i = jen; i < (jen ? jen + 1 : pripadu); ++i) {
+    std::vector<int> pripady;
+    for (int i = 0; i < pocetPripadu(12, 400); ++i)
+        pripady.push_back(i);
+    // kerf 0: in 21 a row's first board filled the sheet's remainder exactly and the remainder was
+    // laid again; in 294 end remnants of an earlier sheet were stacked on this one's
+    for (int i : {21, 294})
+        if (i >= int(pripady.size()))
+            pripady.push_back(i);
+    if (const int jen = qEnvironmentVariableIntValue("TRUHLAR_PRIPAD"))
+        pripady = {jen};
+    for (int i : pripady) {
         QRandomGenerator n(quint32(i) * 7919u + 3);
         const char* srez = n.bounded(2) ? "4" : "0";
         nastav("Srez", srez);

@@ -35,11 +35,11 @@ const Kandidat kandidati[] = {
 };
 
 const char* const KZZakladna =
-    "SELECT * FROM SoupisZbytku WHERE ID = true and Oznaceni = 'KZ' and Rada = {CisloRady} Order by XDP desc";
+    "SELECT * FROM SoupisZbytku WHERE ID = true and Oznaceni = 'KZ' and CT = {CisloTabule} and Rada = {CisloRady} Order by XDP desc";
 const char* const KZNad =
-    "SELECT * FROM SoupisZbytku WHERE ID = true and Oznaceni = 'KZ' and XDP <= {XDP} and YDP = {YDP} and Rada = {CisloRady} Order by XDP desc";
+    "SELECT * FROM SoupisZbytku WHERE ID = true and Oznaceni = 'KZ' and XDP <= {XDP} and YDP = {YDP} and CT = {CisloTabule} and Rada = {CisloRady} Order by XDP desc";
 const char* const KZNejvetsi =
-    "SELECT * FROM SoupisZbytku WHERE ID = true and Oznaceni = 'KZ' and Rada = {CisloRady} and plocha <> 0  Order by plocha desc";
+    "SELECT * FROM SoupisZbytku WHERE ID = true and Oznaceni = 'KZ' and CT = {CisloTabule} and Rada = {CisloRady} and plocha <> 0  Order by plocha desc";
 const char* const DeskaDoBloku =
     "SELECT * FROM SoupisDesek WHERE ID = False  and OTOC = False and y <= {celkemY} and x <= {XZP} ORDER BY y DESC, x DESC;";
 

@@ -134,8 +134,12 @@ void Umisteni::poloz(Volani& v, Druh druh, int smer, Recordset& rs, bool otoceno
         r.m_rezy[s.CisloTabule] += (druh != Druh::Schod && prvniVRade) ? 2 : 1;
 
     switch (druh) {
-    case Druh::Presne:
-        return; // PoradiDesky stays where it is
+    case Druh::Presne: // PoradiDesky stays where it is
+        // a row's first board that fills the rectangle fills the sheet's remainder: the remainder
+        // must not wait on to be laid again (with the kerf 0 this happens on ordinary orders)
+        if (prvniVRade)
+            SmazZT();
+        return;
     case Druh::Napric: // the board spans the rest across: the space beyond it stays open
         s.Zbyva[b] -= R[b] + k;
         s.Pozice[b] += R[b] + k;
