@@ -140,8 +140,7 @@ bool Umisteni::sloucitKoncoveZbytky()
     };
     for (int b : zaklady) {
         ZbytekNP& zaklad = zbytky[b];
-        double sp = zaklad.YDP, h = zaklad.YZP;
-        double t = h;
+        double sp = zaklad.YDP, h = zaklad.YZP, t = h;
         std::set<int> videne{b};
         for (int n; (n = nad(zaklad.XDP, sp + h + k)) >= 0;) {
             if (!videne.insert(n).second) {
@@ -169,8 +168,7 @@ bool Umisteni::sloucitKoncoveZbytky()
     const double vyska = Dotaz::jakoVDotazu(celkemY), sirka = Dotaz::jakoVDotazu(B.XZP);
     if (!existuje([&](const DeskaNP& d) { return !d.OTOC && d.y <= vyska && d.x <= sirka; }))
         return false; // plocha and celkemY stay as they are
-    double sp = B.YDP, h = B.YZP;
-    double t = h, w = B.XZP;
+    double sp = B.YDP, h = B.YZP, t = h, w = B.XZP;
     B.YZP = celkemY;
     B.ID = false;
     B.Oznaceni = DruhZbytku::ZR;

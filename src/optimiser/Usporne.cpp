@@ -123,6 +123,7 @@ private:
     Plan sestav(const Parametry& p);
     void zbytekNaKonci(Plan& plan);
     void vyprazdni(Plan& plan, std::int64_t limit);
+    void seradTabule(Plan& plan, const std::vector<double>& plochy, const std::vector<bool>& smazana) const;
     std::optional<Plan> prerezej(const Plan& plan);
     void oprav(const Plan& plan);
     std::vector<int> deskyNa(const Kus& k) const;
@@ -579,7 +580,14 @@ void Hledani::vyprazdni(Plan& plan, std::int64_t limit)
             plochy[a] = plochaDesek(plan.tabule[a].strom);
         }
     }
-    // full sheets are alike: the fullest take the first of them, the least full goes last
+    seradTabule(plan, plochy, smazana);
+    zbytekNaKonci(plan);
+}
+
+// Full sheets are alike: of those left (not smazana), the fullest take the first of them and the
+// least full goes last, after the offcuts as they stand.
+void Hledani::seradTabule(Plan& plan, const std::vector<double>& plochy, const std::vector<bool>& smazana) const
+{
     std::vector<TabulePlanu> odrezky, plneTabule;
     std::vector<std::pair<double, int>> poradi;
     int prvniPlna = 0;
@@ -602,7 +610,6 @@ void Hledani::vyprazdni(Plan& plan, std::int64_t limit)
     plan.tabule = std::move(odrezky);
     for (TabulePlanu& t : plneTabule)
         plan.tabule.push_back(std::move(t));
-    zbytekNaKonci(plan);
 }
 
 std::vector<std::vector<int>> Hledani::deskyTypu() const
