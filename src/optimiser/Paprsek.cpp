@@ -191,7 +191,13 @@ std::optional<std::vector<ListPaprsku>> Paprsek::hledej()
     std::vector<Krok> vrstva(1);
     std::vector<int> pocty = m_z.pocet; // the boards still to lay, per node of the layer
     std::vector<Kandidat> kandidati;
+    std::int64_t zeptano = m_prace;
     for (int hloubka = 0; hloubka < m_desek; ++hloubka) {
+        if (m_z.zastavit && m_prace - zeptano > 1'000'000) {
+            zeptano = m_prace;
+            if (m_z.zastavit())
+                return std::nullopt;
+        }
         kandidati.clear();
         for (int i = 0; i < int(vrstva.size()); ++i)
             deti(vrstva[i], i, &pocty[i * T], kandidati);

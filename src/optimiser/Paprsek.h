@@ -6,6 +6,7 @@
 #include "optimiser/UsporneVzory.h"
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 
 namespace Usporne {
@@ -26,6 +27,9 @@ struct PaprsekZadani {
     bool stohy = true;         // a stack may hold more pieces than one (three stages of cuts)
     int sirka = 1;             // partial plans kept at each board
     int voditko = 0;           // which measure of waste orders the beam
+    // Asked now and then (about every million steps): true ends the beam with no plan, for the
+    // user's Storno or a spent budget to be heard within a long beam.
+    std::function<bool()> zastavit;
 };
 
 struct ListPaprsku {

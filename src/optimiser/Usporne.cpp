@@ -131,7 +131,8 @@ private:
     // the boards given, by type: the lists to hand out and their counts
     std::pair<std::vector<std::vector<int>>, std::vector<int>> podleTypu(const std::vector<int>& desky) const;
     int dolniMez() const;
-    std::optional<Plan> paprsek(int sirkaPaprsku, int voditko, int nejvic, int nejvicPlnych);
+    std::optional<Plan> paprsek(int sirkaPaprsku, int voditko, int nejvic, int nejvicPlnych,
+                                const std::function<bool()>& zastavit);
 };
 
 void Hledani::pripravTypy()
@@ -654,7 +655,8 @@ void Hledani::oprav(const Plan& plan)
 
 // The plan of a beam of the given width, of at most nejvic sheets (0: any) and nejvicPlnych full
 // sheets (-1: any) when it finds one.
-std::optional<Plan> Hledani::paprsek(int sirkaPaprsku, int voditko, int nejvic, int nejvicPlnych)
+std::optional<Plan> Hledani::paprsek(int sirkaPaprsku, int voditko, int nejvic, int nejvicPlnych,
+                                     const std::function<bool()>& zastavit)
 {
     PaprsekZadani pz;
     pz.typy = &m_typy;
@@ -670,6 +672,7 @@ std::optional<Plan> Hledani::paprsek(int sirkaPaprsku, int voditko, int nejvic, 
     pz.stohy = m_z.stupne >= 3;
     pz.sirka = sirkaPaprsku;
     pz.voditko = voditko;
+    pz.zastavit = zastavit;
     const auto listy = Usporne::paprsek(pz, m_prace);
     if (!listy)
         return std::nullopt;
@@ -744,10 +747,12 @@ Plan Hledani::hledej(const std::vector<Plan>& vychozi, const Rizeni& r)
             break;
         const int nejvic = !nejlepsi || odrezky ? 0 : hn.vsech - 1;
         const int nejvicPlnych = !nejlepsi || !odrezky ? -1 : hn.plnych;
-        if (auto plan = paprsek(1 << (pokus / 2), pokus % 2, nejvic, nejvicPlnych))
+        // (the first beam runs whole: a stop needs a plan to keep)
+        const auto zastavit = nejlepsi ? std::function<bool()>(konec) : std::function<bool()>();
+        if (auto plan = paprsek(1 << (pokus / 2), pokus % 2, nejvic, nejvicPlnych, zastavit))
             zkus(std::move(*plan));
         posledni = m_prace - pred;
-        if (konec())
+        if (konec() && nejlepsi) // without a plan yet, the strip-by-strip try below makes one
             return std::move(*nejlepsi);
     }
     for (int pokus = 0; pokus == 0 || m_prace < limit / 2; ++pokus) {
