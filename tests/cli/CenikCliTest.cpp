@@ -49,7 +49,7 @@ TEST_F(CenikCliTest, ObrazkyBajtZaBajtemPoskozenyNeuloziNic)
     EXPECT_EQ(spust({"picture-add", soubor(QStringLiteral("s.wmf"), vzorekWmf())}).out.trimmed(), QStringLiteral("2"));
     const QString zpet = m_dir.filePath(QStringLiteral("zpet.jpg"));
     ASSERT_EQ(spust({"picture-get", "1", zpet}).kod, 0);
-    EXPECT_EQ(obsah(zpet), jpg);
+    EXPECT_EQ(obsahSouboru(zpet), jpg);
 
     const Vysledek poskozeny = spust({"picture-add", soubor(QStringLiteral("zlom.jpg"), jpg.left(jpg.size() / 2))});
     EXPECT_EQ(poskozeny.kod, 3);

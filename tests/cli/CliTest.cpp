@@ -77,11 +77,7 @@ TEST_F(CliTest, DrzeneUlozisteACiziSouborVratiKod4)
     EXPECT_EQ(drzeno.kod, 4);
     EXPECT_TRUE(drzeno.err.contains(QStringLiteral("používána jiným programem")));
     ::close(fd);
-    {
-        QFile cizi(domov() + QStringLiteral("/Data/DataS.db"));
-        ASSERT_TRUE(cizi.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        cizi.write(QByteArray(4096, 'x'));
-    }
+    zapisSoubor(domov() + QStringLiteral("/Data/DataS.db"), QByteArray(4096, 'x'));
     EXPECT_EQ(spust({"order-list"}).kod, 4);
 }
 
@@ -325,7 +321,7 @@ TEST_F(CliTest, OdrezkyZapisZpetAVpf)
     const Vysledek v = spust(plan("kombinovane") << "--vpf" << vpf << "--write-back");
     ASSERT_EQ(v.kod, 0) << v.err.toStdString();
     EXPECT_TRUE(v.err.contains(QStringLiteral("CNC kód byl uložen")));
-    const QByteArray vpfObsah = obsah(vpf);
+    const QByteArray vpfObsah = obsahSouboru(vpf);
     EXPECT_TRUE(vpfObsah.startsWith("[COMMON]\r\nOrderNote="));
     EXPECT_TRUE(vpfObsah.contains("\r\n[SHEET1]\r\nSheet=1;10000;8000;1;1;0\r\n")); // an offcut sheet comes first
     const QJsonArray sklad = json({"offcuts-list"}).array();

@@ -91,7 +91,7 @@ TEST_F(RezaniACsvCli, SeznamDilcuPlanuSeNaimportujeZpet)
     const QString csv = m_dir.filePath(QStringLiteral("dilce.csv"));
     const Vysledek v = spust(plan("kombinovane") << "--csv" << csv);
     ASSERT_EQ(v.kod, 0) << v.err.toStdString();
-    const QByteArray dilce = obsah(csv);
+    const QByteArray dilce = obsahSouboru(csv);
     EXPECT_TRUE(dilce.startsWith("\xEF\xBB\xBFTabule;N\xC3\xA1zev;Sestava;D\xC3\xA9lka;")); // UTF-8 with its BOM
     EXPECT_TRUE(dilce.contains("\r\n"));
 

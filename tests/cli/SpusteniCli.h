@@ -63,15 +63,8 @@ protected:
     QString soubor(const QString& nazev, const QByteArray& obsah)
     {
         const QString cesta = m_dir.filePath(nazev);
-        QFile f(cesta);
-        EXPECT_TRUE(f.open(QIODevice::WriteOnly));
-        f.write(obsah);
+        zapisSoubor(cesta, obsah);
         return cesta;
-    }
-    static QByteArray obsah(const QString& cesta)
-    {
-        QFile f(cesta);
-        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
     }
 
     QTemporaryDir m_dir;

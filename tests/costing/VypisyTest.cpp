@@ -11,6 +11,7 @@
 //               7.00 = 49.00; úchytka 2 x 45 = 90.00; one piece 559.90.
 //   Base 818.42, with VAT 973.9198 -> 973.92, tax 155.50.
 #include "DomovTest.h"
+#include "VzorkyObrazku.h"
 #include "core/Database.h"
 #include "core/Error.h"
 #include "core/Nastaveni.h"
@@ -22,9 +23,7 @@
 #include "costing/Vypisy.h"
 #include "exchange/ZakazkaJson.h"
 
-#include <QBuffer>
 #include <QFile>
-#include <QImage>
 
 namespace {
 
@@ -59,9 +58,7 @@ protected:
     {
         DomovTest::SetUp();
         Nastaveni::ZapisVychoziNastaveni(0, 0, 1, 1);
-        QFile f(QStringLiteral(TRUHLAR_TESTDATA "/jelen.json"));
-        ASSERT_TRUE(f.open(QIODevice::ReadOnly));
-        ZakazkaJson::nacti(uloziste().dataS(), f.readAll());
+        ZakazkaJson::nacti(uloziste().dataS(), obsahSouboru(QStringLiteral(TRUHLAR_TESTDATA "/jelen.json")));
         uloziste().ObnovPracovniDatabazi();
     }
     void TearDown() override
@@ -81,16 +78,10 @@ protected:
 
     void schema(int ide)
     {
-        QImage obr(60, 40, QImage::Format_RGB32);
-        obr.fill(Qt::gray);
-        QByteArray png;
-        QBuffer b(&png);
-        b.open(QIODevice::WriteOnly);
-        obr.save(&b, "PNG");
         Recordset r(uloziste().cenik(), QStringLiteral("Schemata"), Recordset::Rozsah::Prvni);
         r.addNew();
         r.set(QStringLiteral("IDE"), ide);
-        r.set(QStringLiteral("OBR"), png);
+        r.set(QStringLiteral("OBR"), vzorek("png", {60, 40}, Qt::gray));
         r.update();
     }
 };

@@ -13,25 +13,9 @@
 
 namespace {
 
-QByteArray demo()
-{
-    return demoJson();
-}
-
 int radku(Database& db, const char* tabulka)
 {
     return db.hodnota(QStringLiteral("SELECT count(*) FROM ") + QLatin1String(tabulka)).toInt();
-}
-
-QString chyba(const std::function<void()>& f)
-{
-    try {
-        f();
-    } catch (const Error& e) {
-        EXPECT_EQ(e.cislo(), Chyba::NeplatnyVstup);
-        return e.text();
-    }
-    return QString();
 }
 
 } // namespace
@@ -41,8 +25,8 @@ class ZakazkaJsonTest : public DomovTest {};
 TEST_F(ZakazkaJsonTest, DemoSeNacteAVypiseStejne)
 {
     Database& db = uloziste().dataS();
-    EXPECT_EQ(ZakazkaJson::nacti(db, demo()), QStringLiteral("Kuchyně Novák"));
-    EXPECT_EQ(ZakazkaJson::vypis(db, QStringLiteral("Kuchyně Novák")), QJsonDocument::fromJson(demo()).object());
+    EXPECT_EQ(ZakazkaJson::nacti(db, demoJson()), QStringLiteral("Kuchyně Novák"));
+    EXPECT_EQ(ZakazkaJson::vypis(db, QStringLiteral("Kuchyně Novák")), QJsonDocument::fromJson(demoJson()).object());
     EXPECT_EQ(radku(db, "ZakazkyMaterialy"), 3);
     // every board and accessory is one row; the first row carries the order's header fields
     Recordset rs(db, QStringLiteral("SELECT * FROM Zakazky WHERE Sestava = 'Dřez80' ORDER BY cas"));
@@ -86,7 +70,7 @@ TEST_F(ZakazkaJsonTest, HlavickoveRadkyZakazkyASestavyBezPolozek)
 TEST_F(ZakazkaJsonTest, ApostrofACeskaPismenaVNazvech)
 {
     Database& db = uloziste().dataS();
-    QByteArray json = demo();
+    QByteArray json = demoJson();
     json.replace("Kuchyně Novák", "Novák's kuchyň");
     json.replace("\"bok\"", "\"bok 'L'\"");
     ZakazkaJson::nacti(db, json);
@@ -108,7 +92,7 @@ TEST_F(ZakazkaJsonTest, ChybejiciCisloMaterialuDostaneRazitko)
 TEST_F(ZakazkaJsonTest, RadkyNesouPoleJakoZDialogu)
 {
     Database& db = uloziste().dataS();
-    ZakazkaJson::nacti(db, demo());
+    ZakazkaJson::nacti(db, demoJson());
     // one datum and one note on every row; cas rises in list order, boards before accessories
     EXPECT_EQ(db.hodnota(QStringLiteral("SELECT count(DISTINCT datum) FROM Zakazky")).toInt(), 1);
     EXPECT_EQ(db.hodnota(QStringLiteral("SELECT count(*) FROM Zakazky WHERE Poznamka <> 'Kuchyňská linka 2,4 m, bílá, úchytky nerez'")).toInt(), 0);
@@ -120,7 +104,7 @@ TEST_F(ZakazkaJsonTest, RadkyNesouPoleJakoZDialogu)
     }
     EXPECT_TRUE(std::is_sorted(casy.begin(), casy.end()) && std::adjacent_find(casy.begin(), casy.end()) == casy.end());
     QStringList ocekavane;
-    for (const QJsonValue& sestava : QJsonDocument::fromJson(demo())["sestavy"].toArray())
+    for (const QJsonValue& sestava : QJsonDocument::fromJson(demoJson())["sestavy"].toArray())
         for (const char* seznam : {"desky", "prislusenstvi"})
             for (const QJsonValue& p : sestava[seznam].toArray())
                 ocekavane << sestava["nazev"].toString() + QLatin1Char('/') + p["oznaceni"].toString();
@@ -146,9 +130,7 @@ TEST_F(ZakazkaJsonTest, KazdaZakazkaLavicesSeVratiStejna)
         GTEST_SKIP() << "složka s objednávkami lavice chybí";
     Database& db = uloziste().dataS();
     for (const QString& s : soubory) {
-        QFile f(slozka.filePath(s));
-        ASSERT_TRUE(f.open(QIODevice::ReadOnly));
-        const QJsonObject o = QJsonDocument::fromJson(f.readAll()).object();
+        const QJsonObject o = QJsonDocument::fromJson(obsahSouboru(slozka.filePath(s))).object();
         const QString nazev = ZakazkaJson::nacti(db, QJsonDocument(o).toJson());
         EXPECT_EQ(ZakazkaJson::vypis(db, nazev), o) << s.toStdString();
     }
@@ -176,7 +158,7 @@ TEST_F(ZakazkaJsonTest, TextyZustavajiJakStojiABezejmennaDeskaDostaneJmeno)
 TEST_F(ZakazkaJsonTest, OdmitnutyVstupNicNezapise)
 {
     Database& db = uloziste().dataS();
-    ZakazkaJson::nacti(db, demo());
+    ZakazkaJson::nacti(db, demoJson());
     // a small valid order, each case spoils one thing in it
     const QByteArray zaklad = R"({"zakazka": "Jiná", "formaty": [{"id": 11, "material": "DTD", "x": 2800, "y": 2070, "ov": false}],
         "hrany": [{"id": 21, "material": "ABS"}, {"id": 22, "material": "ABS 2"}],
@@ -185,7 +167,7 @@ TEST_F(ZakazkaJsonTest, OdmitnutyVstupNicNezapise)
     ZakazkaJson::vypis(db, ZakazkaJson::nacti(db, QByteArray(zaklad).replace("Jiná", "Platná")));
     const int zakazky = radku(db, "Zakazky"), materialy = radku(db, "ZakazkyMaterialy");
     auto jina = [&](const char* z, const char* na) { return QByteArray(zaklad).replace(z, na); };
-    QByteArray kopie = demo();
+    QByteArray kopie = demoJson();
     kopie.replace("Kuchyně Novák", "kuchyně NOVÁK");
     const std::pair<QByteArray, QString> pripady[] = {
         {kopie, QStringLiteral("Zakazka pod tímhle názvem již existuje, zadejte jiný nazev !!!")},
@@ -212,22 +194,22 @@ TEST_F(ZakazkaJsonTest, OdmitnutyVstupNicNezapise)
         {jina("\"sestavy\"", "\"sestava\""), QStringLiteral("Zakázka: neznámý údaj „sestava“")},
     };
     for (const auto& [json, zprava] : pripady)
-        EXPECT_TRUE(chyba([&] { ZakazkaJson::nacti(db, json); }).contains(zprava)) << zprava.toStdString();
+        EXPECT_TRUE(textChyby([&] { ZakazkaJson::nacti(db, json); }).contains(zprava)) << zprava.toStdString();
     EXPECT_EQ(radku(db, "Zakazky"), zakazky);
     EXPECT_EQ(radku(db, "ZakazkyMaterialy"), materialy);
-    EXPECT_EQ(chyba([&] { ZakazkaJson::vypis(db, QStringLiteral("Neni")); }), QStringLiteral("Zakázka „Neni“ neexistuje."));
+    EXPECT_EQ(textChyby([&] { ZakazkaJson::vypis(db, QStringLiteral("Neni")); }), QStringLiteral("Zakázka „Neni“ neexistuje."));
 }
 
 TEST_F(ZakazkaJsonTest, OdrezkyVseNeboNic)
 {
     Database& db = uloziste().dataS();
     EXPECT_EQ(SkladJson::nacti(db, R"([{"material": "DTD", "x": 500, "y": 300, "pocet": 2}])"), 1);
-    EXPECT_TRUE(chyba([&] {
+    EXPECT_TRUE(textChyby([&] {
         SkladJson::nacti(db, R"([{"material": "DTD", "x": 500, "y": 300, "pocet": 1}, {"material": "", "x": 1, "y": 1, "pocet": 1}])");
     }).contains(QStringLiteral("Odřezek č. 2")));
-    EXPECT_TRUE(chyba([&] { SkladJson::nacti(db, R"([{"material": "DTD", "x": 500, "y": 300, "ks": 1}])"); })
+    EXPECT_TRUE(textChyby([&] { SkladJson::nacti(db, R"([{"material": "DTD", "x": 500, "y": 300, "ks": 1}])"); })
                     .contains(QStringLiteral("neznámý údaj „ks“")));
-    EXPECT_TRUE(chyba([&] { SkladJson::nacti(db, R"({"material": "DTD"})"); }).contains(QStringLiteral("seznam odřezků")));
+    EXPECT_TRUE(textChyby([&] { SkladJson::nacti(db, R"({"material": "DTD"})"); }).contains(QStringLiteral("seznam odřezků")));
     EXPECT_EQ(radku(db, "SkladOdrezku"), 1);
     Recordset rs(db, QStringLiteral("SkladOdrezku"));
     EXPECT_EQ(rs.text(QStringLiteral("Material")), QStringLiteral("DTD"));

@@ -3,6 +3,7 @@
 #include "DomovTest.h"
 #include "PoruchaSouboru.h"
 #include "SkriptovanyPrompt.h"
+#include "VzorkyObrazku.h"
 #include "core/Error.h"
 #include "core/Nastaveni.h"
 #include "core/Recordset.h"
@@ -15,7 +16,6 @@
 #include "printing/UlozeniPdf.h"
 #include "printing/Vykresleni.h"
 
-#include <QBuffer>
 #include <QDir>
 #include <QFile>
 #include <gtest/gtest.h>
@@ -134,13 +134,8 @@ TEST_F(Stranky, DlouhaTabuleDrobneDeskyDlouheJmeno)
         {"oznaceni": "lišta s velmi dlouhým pojmenováním, které se nikam nevejde", "x": 4800, "y": 40, "pocet": 3, "format": 7},
         {"oznaceni": "klínek", "x": 12, "y": 9, "pocet": 20, "format": 7}]}]})";
     ZakazkaJson::nacti(uloziste().dataS(), json);
-    QImage vzor(40, 20, QImage::Format_RGB32);
-    vzor.fill(Qt::darkYellow);
-    QByteArray png;
-    QBuffer b(&png);
-    b.open(QIODevice::WriteOnly);
-    vzor.save(&b, "PNG");
-    uloziste().cenik().executeSqlite(QStringLiteral("INSERT INTO Obrazky (IDE, nazev, OBR) VALUES (3, 'buk', ?)"), {png});
+    uloziste().cenik().executeSqlite(QStringLiteral("INSERT INTO Obrazky (IDE, nazev, OBR) VALUES (3, 'buk', ?)"),
+                                     {vzorek("png", {40, 20}, Qt::darkYellow)});
     uloziste().cenik().executeSqlite(
         QStringLiteral("INSERT INTO Cenik (kod, nazev, Cena, skupina, obr1) VALUES (1, 'Spárovka buk 5000', 90, 'PM', 3)"));
 
@@ -211,17 +206,12 @@ TEST_F(Stranky, PdfCeleNeboNic)
     ASSERT_TRUE(StrankyNP(d, uloziste(), plan, 1));
     const QString cesta = QDir(domov()).filePath(QStringLiteral("plán.pdf"));
     Vykresleni::pdf(d, cesta);
-    QFile f(cesta);
-    ASSERT_TRUE(f.open(QIODevice::ReadOnly));
-    const QByteArray puvodni = f.readAll();
+    const QByteArray puvodni = obsahSouboru(cesta);
     EXPECT_TRUE(puvodni.startsWith("%PDF"));
-    f.close();
 
     // A failing disk: the old file stays, no temporary file is left.
     ocekavejPoruchySouboru(cesta, [&] { Vykresleni::pdf(d, cesta); });
-    ASSERT_TRUE(f.open(QIODevice::ReadOnly));
-    EXPECT_EQ(f.readAll(), puvodni);
-    f.close();
+    EXPECT_EQ(obsahSouboru(cesta), puvodni);
 
     // Saving from the viewer: the proposed name, the question, the messages of the table.
     prompt.odpovez(cesta);

@@ -46,6 +46,30 @@ int cisloChyby(const std::function<void()>& f)
     return 0;
 }
 
+QByteArray obsahSouboru(const QString& cesta)
+{
+    QFile f(cesta);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}
+
+void zapisSoubor(const QString& cesta, const QByteArray& obsah)
+{
+    QFile f(cesta);
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly | QIODevice::Truncate)) << cesta.toStdString();
+    f.write(obsah);
+}
+
+QString textChyby(const std::function<void()>& f)
+{
+    try {
+        f();
+    } catch (const Error& e) {
+        EXPECT_EQ(e.cislo(), Chyba::NeplatnyVstup) << e.text().toStdString();
+        return e.text();
+    }
+    return QString();
+}
+
 QByteArray demoJson()
 {
     QFile f(QStringLiteral(TRUHLAR_SHARE "/demo/kuchyne.json"));

@@ -29,5 +29,11 @@ QByteArray demoJson();
 // out from the order's materials alone. Writes the settings file that XDG_CONFIG_HOME names.
 void bezRezani();
 
+// A file's bytes, empty when it cannot be read; a file written whole with the given bytes.
+QByteArray obsahSouboru(const QString& cesta);
+void zapisSoubor(const QString& cesta, const QByteArray& obsah);
+
 // The store's error number that f throws, 0 when it throws none.
 int cisloChyby(const std::function<void()>& f);
+// The text of the store's error that f throws, which must be a refused input; empty when none.
+QString textChyby(const std::function<void()>& f);

@@ -4,6 +4,7 @@
 #include "Kroky.h"
 #include "OknoTest.h"
 #include "SkriptovanyPrompt.h"
+#include "VzorkyObrazku.h"
 #include "catalogues/Cenik.h"
 #include "catalogues/Knihovna.h"
 #include "exchange/Zaloha.h"
@@ -13,7 +14,6 @@
 #include "ui/FrmObr.h"
 #include "ui/FrmPolozka.h"
 
-#include <QBuffer>
 #include <QFile>
 #include <QComboBox>
 #include <QGroupBox>
@@ -56,17 +56,6 @@ Kroky::Krok vyberVKnihovne(QString& znacka, int zaznam)
     };
 }
 
-QByteArray png(QSize rozmer, Qt::GlobalColor barva)
-{
-    QImage obr(rozmer, QImage::Format_RGB32);
-    obr.fill(barva);
-    QByteArray bajty;
-    QBuffer b(&bajty);
-    b.open(QIODevice::WriteOnly);
-    obr.save(&b, "PNG");
-    return bajty;
-}
-
 const QString Dub = QStringLiteral("DTD dub 'Rustikál' 18");
 const QString Hrana = QStringLiteral("ABS bílá 2 mm");
 const QString Cep = QStringLiteral("Čep 8 x 35");
@@ -79,7 +68,7 @@ protected:
         Nastaveni::SaveSetting(QStringLiteral("Setting2"), QStringLiteral("DPH"), QStringLiteral("21"));
         SkriptovanyPrompt tichy;
         for (const char* nazev : {"dub.png", "buk.png"})
-            ide << Knihovna::pridej(uloziste().cenik(), tichy, Knihovna::Druh::Obrazky, QLatin1String(nazev), png({40, 30}, Qt::darkYellow));
+            ide << Knihovna::pridej(uloziste().cenik(), tichy, Knihovna::Druh::Obrazky, QLatin1String(nazev), vzorek("png", {40, 30}, Qt::darkYellow));
         ASSERT_EQ(Cenik::nahraj(uloziste().cenik(), tichy,
                                 {{Dub, QStringLiteral("101"), QStringLiteral("412.50"), QStringLiteral("m2"), QStringLiteral("PM"), ide[0], 0},
                                  {Hrana, QStringLiteral("201"), QStringLiteral("14.90"), QStringLiteral("bm"), QStringLiteral("H"), 0, 0},
@@ -200,7 +189,7 @@ TEST_F(CenikOkno, ObrazekSmazanyZFormulareSeDoPolozkyNeulozi)
     EXPECT_EQ(k.zpravy, QStringList{QStringLiteral("Chcete opravdu obrázek smazat z databáze? ")});
     EXPECT_EQ(popisek, QStringLiteral("bez obrázku"));
     SkriptovanyPrompt tichy;
-    EXPECT_EQ(Knihovna::pridej(uloziste().cenik(), tichy, Knihovna::Druh::Obrazky, QStringLiteral("novy.png"), png({10, 10}, Qt::red)), ide[1]);
+    EXPECT_EQ(Knihovna::pridej(uloziste().cenik(), tichy, Knihovna::Druh::Obrazky, QStringLiteral("novy.png"), vzorek("png")), ide[1]);
     EXPECT_EQ(Cenik::nacti(uloziste().cenik(), Dub)->obr1, 0);
 }
 

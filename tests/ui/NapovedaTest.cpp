@@ -109,10 +109,7 @@ TEST_F(NapovedaOkno, SouborZakazkySeNacteAVybereDruhyJeOdmitnut)
     QJsonObject z = QJsonDocument::fromJson(demoJson()).object();
     z[QStringLiteral("zakazka")] = QStringLiteral("Skříň Dvořák");
     const QString soubor = domov() + QStringLiteral("/Skříň Dvořák.zakazka.json");
-    QFile f(soubor);
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-    f.write(QJsonDocument(z).toJson());
-    f.close();
+    zapisSoubor(soubor, QJsonDocument(z).toJson());
 
     okno->otevriSoubor(soubor);
     EXPECT_EQ(okno->txtzakazka(), QStringLiteral("Skříň Dvořák"));
