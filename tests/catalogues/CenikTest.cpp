@@ -1,6 +1,7 @@
 // The price list: the checks in their order and bounds, the Czech order, the search, an edit
 // keeping its own name, VAT rounding, the printed list; the picture and schema libraries.
 #include "catalogues/Cenik.h"
+#include "CteniDokumentu.h"
 #include "DomovTest.h"
 #include "SkriptovanyPrompt.h"
 #include "VzorkyObrazku.h"
@@ -31,15 +32,6 @@ protected:
     }
     SkriptovanyPrompt prompt;
 };
-
-// The first text written on the first page.
-QString texty1(const Dokument& d)
-{
-    for (const Operace& op : d.strana(1).operace)
-        if (const auto* t = std::get_if<OpText>(&op))
-            return t->text;
-    return {};
-}
 
 } // namespace
 
@@ -178,7 +170,7 @@ TEST_F(CenikTest, TiskCenikuRadekNaPolozkuAPatickaNaKazdeStrane)
         EXPECT_TRUE(texty.contains(QStringLiteral("Strana  %1 / 3").arg(s))) << s;
         EXPECT_TRUE(texty.join(QLatin1Char('|')).contains(QStringLiteral("Výpis z ceníku borováckých materiálů - "))) << s;
     }
-    EXPECT_EQ(texty1(d), QStringLiteral("V Ý P I S   Z   C E N Í K U"));
+    EXPECT_EQ(texty<OpText>(d, 1).value(0), QStringLiteral("V Ý P I S   Z   C E N Í K U"));
     EXPECT_EQ(radku, 110);
     EXPECT_EQ(hlavicek, 3);
     EXPECT_EQ(zlutych, 3 * 6);

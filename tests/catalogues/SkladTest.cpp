@@ -1,5 +1,6 @@
 // The offcut store: entry checks, the merge question, edits and deletion, the printed list.
 #include "catalogues/Sklad.h"
+#include "CteniDokumentu.h"
 #include "DomovTest.h"
 #include "SkriptovanyPrompt.h"
 #include "core/Nastaveni.h"
@@ -72,12 +73,7 @@ TEST_F(SkladTest, VypisSkladuJednohoMaterialu)
         ASSERT_TRUE(Sklad::UlozitNovyOdrezek(db(), prompt, {QString::fromLatin1(m), x, 200, 1}));
     Dokument d;
     Sklad::VypisSkladu(d, db(), QStringLiteral("DTD"));
-    QStringList t;
-    for (const Operace& op : d.strana(1).operace)
-        if (const auto* b = std::get_if<OpTextBox>(&op))
-            t << b->text;
-        else if (const auto* o = std::get_if<OpText>(&op))
-            t << o->text;
+    const QStringList t = texty<OpTextBox, OpText>(d, 1);
     EXPECT_TRUE(t.contains(QStringLiteral("VÝPIS ZE SKLADU ODŘEZKŮ")));
     EXPECT_TRUE(t.contains(QStringLiteral("Strana  1 / 1")));
     EXPECT_FALSE(t.contains(QStringLiteral("MDF")));

@@ -1,6 +1,7 @@
 // The drawing primitives read through what they record: where band marks stand on a board as
 // placed and as turned, which form of text a board of each shape gets, and what a remnant and
 // a label write.
+#include "CteniDokumentu.h"
 #include "DomovTest.h"
 #include "core/Nastaveni.h"
 #include "planoutput/KresleniNP.h"
@@ -8,24 +9,6 @@
 #include <gtest/gtest.h>
 
 namespace {
-
-template <class T>
-std::vector<T> operace(const Dokument& d, int strana = 1)
-{
-    std::vector<T> v;
-    for (const Operace& op : d.strana(strana).operace)
-        if (const T* t = std::get_if<T>(&op))
-            v.push_back(*t);
-    return v;
-}
-
-QStringList texty(const Dokument& d, int strana = 1)
-{
-    QStringList t;
-    for (const OpText& op : operace<OpText>(d, strana))
-        t << op.text;
-    return t;
-}
 
 class Kresleni : public DomovTest {
 protected:
@@ -140,7 +123,7 @@ TEST_F(Kresleni, TextyNepresahujiDesku)
 TEST_F(Kresleni, OdrezekPiseJenRozmery)
 {
     EXPECT_EQ(KresliOdrezek(d, 0, 0, 0, 0, 8000, 4000, 0.25, QStringLiteral("KZ"), 0, StylNP::odrezku()), 1);
-    const QStringList t = texty(d);
+    const QStringList t = texty<OpText>(d);
     EXPECT_EQ(t, QStringList({"800 mm", "400 mm"}));
     EXPECT_FALSE(t.contains(QStringLiteral("ZZZ")));
     EXPECT_EQ(operace<OpObdelnik>(d)[0].stetec.barva, QColor(0xc0, 0xc0, 0xc0));
@@ -166,7 +149,7 @@ TEST_F(Kresleni, StitekSeZnamenimVzoru)
     const auto ramec = operace<OpObdelnik>(d)[0];
     EXPECT_TRUE(ramec.stetec.pruhledny); // the label stock stays white
     EXPECT_EQ(ramec.ramec, QRectF(500, 700, 3118, 1247));
-    EXPECT_TRUE(texty(d).contains(QStringLiteral("bok (Skříň)")));
+    EXPECT_TRUE(texty<OpText>(d).contains(QStringLiteral("bok (Skříň)")));
 }
 
 } // namespace
