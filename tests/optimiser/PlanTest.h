@@ -27,6 +27,11 @@ protected:
     void nastav(const char* klic, const char* hodnota); // a key of Setting2
     void odrezek(double x, double y, int pocet, const QString& material = QStringLiteral("DTD")); // into the store
     QJsonObject spust(ZpusobNP zpusob, int volba = 0, const QString& nazev = QStringLiteral("Z"));
+    // Row i of a working table in the output of spust.
+    static QJsonObject radek(const QJsonObject& plan, const char* tabulka, int i)
+    {
+        return plan.value(QLatin1String(tabulka)).toArray().at(i).toObject();
+    }
 
     SkriptovanyPrompt prompt;
 };

@@ -13,11 +13,6 @@ struct Smer {
     const char* X(const char* rada, const char* sloupec) const { return pricne ? sloupec : rada; }
 };
 
-QJsonObject radek(const QJsonObject& plan, const char* tabulka, int i)
-{
-    return plan.value(QLatin1String(tabulka)).toArray().at(i).toObject();
-}
-
 } // namespace
 
 class RadySloupceTest : public PlanTest, public ::testing::WithParamInterface<Smer> {};
