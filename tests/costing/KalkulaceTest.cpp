@@ -96,22 +96,6 @@ TEST_F(KalkulaceTest, VypisKalkulaceZakazky)
     uloziste().zavriDataK();
 }
 
-TEST_F(KalkulaceTest, PrazdnaZakazkaJenSouhrnDane)
-{
-    ZakazkaJson::nacti(uloziste().dataS(), R"({"zakazka": "Prázdná 'ta'", "sestavy": [{"nazev": "nic"}]})");
-    uloziste().ObnovPracovniDatabazi();
-    Database& k = uloziste().dataK();
-    Kalkulace::NaplnKalkulaciZakazky(k, QStringLiteral("Prázdná 'ta'"));
-    Dokument d;
-    const Vypis::Dan dan = KalkulaceZakazkyVypis(d, k, QStringLiteral("Prázdná 'ta'"), {});
-    EXPECT_EQ(dan.celkem, 0);
-    EXPECT_EQ(d.PageCount(), 1);
-    const QStringList t = texty<OpTextBox>(d);
-    EXPECT_FALSE(t.contains(QStringLiteral("Příslušenství:")));
-    EXPECT_EQ(t.count(QStringLiteral("0.00 Kč")), 3);
-    uloziste().zavriDataK();
-}
-
 namespace {
 
 // The demo kitchen's metres of cut (one format), measured now or taken from pamet.

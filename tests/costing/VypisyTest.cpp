@@ -240,18 +240,24 @@ TEST(PasSestavy, NaKonciStranyJdeNaDalsi)
 // 0.00, no band and no section.
 TEST_F(VypisyTest, PrazdnaZakazkaVeVsechVypisech)
 {
-    ZakazkaJson::nacti(uloziste().dataS(), R"({"zakazka": "Prázdná", "sestavy": [{"nazev": "nic"}]})");
+    ZakazkaJson::nacti(uloziste().dataS(), R"({"zakazka": "Prázdná 'ta'", "sestavy": [{"nazev": "nic"}]})");
     uloziste().ObnovPracovniDatabazi();
     for (DruhVypisu druh : {DruhVypisu::Zakazka, DruhVypisu::Sestavy, DruhVypisu::Nakup, DruhVypisu::Nabidka, DruhVypisu::Dilna,
                             DruhVypisu::DilnaSeSchematy}) {
+        SCOPED_TRACE(int(druh));
         Dokument d;
-        const VysledekVypisu v = SestavVypis(druh, d, k(), uloziste().cenik(), QStringLiteral("Prázdná"), {}, {});
+        const VysledekVypisu v = SestavVypis(druh, d, k(), uloziste().cenik(), QStringLiteral("Prázdná 'ta'"), {}, {});
         EXPECT_EQ(d.PageCount(), 1);
+        const QStringList t = texty<OpTextBox>(d);
         if (v.dan) {
             EXPECT_EQ(v.dan->celkem, 0);
-            EXPECT_TRUE(texty<OpTextBox>(d).contains(QStringLiteral("0.00 Kč")));
+            EXPECT_TRUE(t.contains(QStringLiteral("0.00 Kč")));
         }
-        EXPECT_FALSE(texty<OpTextBox>(d).join(QLatin1Char('|')).contains(QStringLiteral(" ks - ")));
+        if (druh == DruhVypisu::Zakazka) { // base, tax and total; no accessory block
+            EXPECT_EQ(t.count(QStringLiteral("0.00 Kč")), 3);
+            EXPECT_FALSE(t.contains(QStringLiteral("Příslušenství:")));
+        }
+        EXPECT_FALSE(t.join(QLatin1Char('|')).contains(QStringLiteral(" ks - ")));
     }
 }
 
