@@ -19,9 +19,10 @@ namespace {
 
 class Okno : public OknoTest {
 protected:
-    // Starts a plan from the window, answering as a user would: Pokračuj in the plan start, then
-    // Storno in the progress frame if asked, OK under any message. Returns the messages.
-    QStringList spustPlan(bool storno)
+    // Starts a plan from the window, answering as a user would: Pokračuj in the plan start once
+    // predPokracovanim agrees, then Storno in the progress frame if asked, OK under any message.
+    // Returns the messages.
+    QStringList spustPlan(bool storno, std::function<bool(FrmNovy*)> predPokracovanim = {})
     {
         QTimer ruka;
         QStringList zpravy;
@@ -29,8 +30,10 @@ protected:
             if (auto* d = qobject_cast<FrmNovy*>(QApplication::activeModalWidget())) {
                 auto* ok = d->findChild<QPushButton*>(QStringLiteral("cmdOKNP"));
                 auto* zastav = d->findChild<QPushButton*>(QStringLiteral("cmdStornoNP"));
-                if (ok && ok->isVisible())
-                    ok->click();
+                if (ok && ok->isVisible()) {
+                    if (!predPokracovanim || predPokracovanim(d))
+                        ok->click();
+                }
                 else if (storno && zastav && zastav->isVisible())
                     zastav->click();
             } else if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
@@ -155,6 +158,28 @@ TEST_F(Okno, ZakazkaZadanaRucneOdZakazkyPoDesku)
     EXPECT_EQ(gpm->item(0, 0)->text(), QStringLiteral("deska 1"));
     EXPECT_EQ(gpm->item(0, 4)->text(), QStringLiteral("DTD dub 18 (2800 mm x 2070 mm)"));
     EXPECT_EQ(strom->topLevelItemCount(), 2);
+}
+
+// The plan start compares the four ways before the joiner chooses: the three quick ones and
+// "úsporně" fill their rows, and "úsporně" chosen there ends in its own plan in the viewer.
+TEST_F(Okno, PlanSeCtyrmiZpusobyVedleSebe)
+{
+    Nastaveni::SaveSetting(QStringLiteral("Setting2"), QStringLiteral("CasUsporne"), QStringLiteral("0.1"));
+    klik(strom->topLevelItem(0));
+    QStringList radky;
+    spustPlan(false, [&](FrmNovy* d) {
+        auto* tabulka = d->findChild<QTableWidget*>(QStringLiteral("tblSrovnani"));
+        if (tabulka->item(3, 0)->text().startsWith(QStringLiteral("počítá")))
+            return false;
+        for (int r = 0; r < 4; ++r)
+            radky << tabulka->verticalHeaderItem(r)->text() + QLatin1Char(' ') + tabulka->item(r, 0)->text();
+        d->findChild<QComboBox*>(QStringLiteral("cmbZpusobRezani"))->setCurrentIndex(3);
+        return true;
+    });
+    EXPECT_EQ(radky, QStringList({"kombinovaně 2", "podélné řezy 2", "příčné řezy 2", "úsporně 2"}));
+    ASSERT_FALSE(prohlizec.isEmpty());
+    EXPECT_EQ(prohlizec[0].toString(), QStringLiteral("Nářezový plán - úsporně"));
+    EXPECT_FALSE(uloziste().maDataK());
 }
 
 // Storno in the progress frame stops the run at its next look at the flag: no plan message.

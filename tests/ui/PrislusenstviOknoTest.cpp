@@ -111,13 +111,3 @@ TEST_F(PrislusenstviOkno, DruhaStejnaPolozkaJeOdmitnutaAUlozisteZustane)
     ASSERT_EQ(radky.size(), 1u);
     EXPECT_DOUBLE_EQ(radky[0].pocet, 4);
 }
-
-TEST_F(PrislusenstviOkno, NulaKusuNeniUlozena)
-{
-    const int predtim = gpr->rowCount();
-    const QStringList zpravy = zadejZCeniku(QStringLiteral("0"));
-    ASSERT_EQ(zpravy.size(), 1);
-    EXPECT_EQ(zpravy[0], QStringLiteral("Zadejte množství a cenu číslem."));
-    EXPECT_EQ(gpr->rowCount(), predtim);
-    EXPECT_TRUE(ulozene().empty());
-}
