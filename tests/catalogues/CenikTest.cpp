@@ -13,13 +13,8 @@
 
 namespace {
 
-class CenikTest : public DomovTest {
+class CenikTest : public NastavenyDomov {
 protected:
-    void SetUp() override
-    {
-        DomovTest::SetUp();
-        Nastaveni::ZapisVychoziNastaveni(0, 0, 1, 1);
-    }
     Database& db() { return uloziste().cenik(); }
     bool uloz(const QString& nazev, const QString& kod, const QString& cena, const QString& skupina = QStringLiteral("P"),
               const QString& stary = {})

@@ -6,13 +6,8 @@
 #include "core/Nastaveni.h"
 #include "printing/Dokument.h"
 
-class SkladTest : public DomovTest {
+class SkladTest : public NastavenyDomov {
 protected:
-    void SetUp() override
-    {
-        DomovTest::SetUp();
-        Nastaveni::ZapisVychoziNastaveni(0, 0, 1, 1);
-    }
     Database& db() { return uloziste().dataS(); }
     std::vector<Sklad::Odrezek> vse() { return Sklad::nacti(db(), {}, QStringLiteral("material")); }
     SkriptovanyPrompt prompt;

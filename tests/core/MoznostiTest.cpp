@@ -12,12 +12,11 @@ using Nastaveni::GetSetting;
 
 namespace {
 
-class Moznosti_ : public DomovTest {
+class Moznosti_ : public NastavenyDomov {
 protected:
     void SetUp() override
     {
-        DomovTest::SetUp();
-        Nastaveni::ZapisVychoziNastaveni(0, 0, 1, 1);
+        NastavenyDomov::SetUp();
         QLocale::setDefault(QLocale(QLocale::Czech, QLocale::Czechia));
     }
     void TearDown() override

@@ -27,12 +27,11 @@ TEST(Zaokrouhleni, PolovinaOdNulyZPatnactiCifer)
     EXPECT_EQ(Sleva(QString()), 0);
 }
 
-class KalkulaceTest : public DomovTest {
+class KalkulaceTest : public NastavenyDomov {
 protected:
     void SetUp() override
     {
-        DomovTest::SetUp();
-        Nastaveni::ZapisVychoziNastaveni(0, 0, 1, 1);
+        NastavenyDomov::SetUp();
         ZakazkaJson::nacti(uloziste().dataS(), demoJson());
     }
 };

@@ -32,12 +32,11 @@ const QString Jelen = QStringLiteral("Skříně 'U Jelena'");
 
 } // namespace
 
-class VypisyTest : public DomovTest {
+class VypisyTest : public NastavenyDomov {
 protected:
     void SetUp() override
     {
-        DomovTest::SetUp();
-        Nastaveni::ZapisVychoziNastaveni(0, 0, 1, 1);
+        NastavenyDomov::SetUp();
         ZakazkaJson::nacti(uloziste().dataS(), obsahSouboru(QStringLiteral(TRUHLAR_TESTDATA "/jelen.json")));
         uloziste().ObnovPracovniDatabazi();
     }

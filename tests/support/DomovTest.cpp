@@ -24,6 +24,12 @@ void DomovTest::TearDown()
     Aplikace::nastavDomov({});
 }
 
+void NastavenyDomov::SetUp()
+{
+    DomovTest::SetUp();
+    Nastaveni::ZapisVychoziNastaveni(0, 0, 1, 1);
+}
+
 QString DomovTest::domov() const
 {
     return m_dir.filePath(QStringLiteral("home"));

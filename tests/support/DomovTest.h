@@ -22,6 +22,12 @@ private:
     std::unique_ptr<Uloziste> m_uloziste;
 };
 
+// DomovTest after the first run's settings were written, as most of the program meets them.
+class NastavenyDomov : public DomovTest {
+protected:
+    void SetUp() override;
+};
+
 // The demo kitchen order (share/demo/kuchyne.json) as exchange JSON.
 QByteArray demoJson();
 

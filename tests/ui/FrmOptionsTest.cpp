@@ -17,12 +17,11 @@ using Nastaveni::GetSetting;
 
 namespace {
 
-class Moznosti : public DomovTest {
+class Moznosti : public NastavenyDomov {
 protected:
     void SetUp() override
     {
-        DomovTest::SetUp();
-        Nastaveni::ZapisVychoziNastaveni(0, 0, 1, 1);
+        NastavenyDomov::SetUp();
         QLocale::setDefault(QLocale(QLocale::Czech, QLocale::Czechia));
         okno = std::make_unique<FrmOptions>(prompt, [this] { ++obnoveni; }, nullptr);
         pouzit = okno->findChild<QPushButton*>(QStringLiteral("cmdPouzit"));
