@@ -111,12 +111,8 @@ TEST_F(Kresleni, TextyNepresahujiDesku)
         d.StartDoc();
         deska(r[0], r[1]);
         const QRectF deskaR = operace<OpObdelnik>(d)[0].ramec.adjusted(-1, -1, 1, 1);
-        for (const OpText& t : operace<OpText>(d)) {
-            d.pismo = t.pismo;
-            const double w = d.TextWidth(t.text), h = d.TextHeight(t.text);
-            const QRectF ramec = t.uhel == 900 ? QRectF(t.x, t.y - w, h, w) : QRectF(t.x, t.y, w, h);
-            EXPECT_TRUE(deskaR.contains(ramec)) << r[0] << " x " << r[1] << ": " << t.text.toStdString();
-        }
+        for (const OpText& t : operace<OpText>(d))
+            EXPECT_TRUE(deskaR.contains(ramecTextu(d, t))) << r[0] << " x " << r[1] << ": " << t.text.toStdString();
     }
 }
 

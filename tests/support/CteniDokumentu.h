@@ -1,8 +1,10 @@
 #pragma once
 // What a document recorded, read back by kind: the operations of one page, or of every page
-// when strana is 0, and the texts of the text operations of the kinds named, in drawing order.
+// when strana is 0, and the texts of the text operations of the kinds named, in drawing order;
+// where a text's letters stand.
 #include "printing/Dokument.h"
 
+#include <QRectF>
 #include <QStringList>
 #include <vector>
 
@@ -28,4 +30,12 @@ QStringList texty(const Dokument& d, int strana = 0)
                     t << o->text;
             }());
     return t;
+}
+
+// The rectangle a text operation's letters cover, written across or upward (uhel 900).
+inline QRectF ramecTextu(Dokument& d, const OpText& t)
+{
+    d.pismo = t.pismo;
+    const double w = d.TextWidth(t.text), h = d.TextHeight(t.text);
+    return t.uhel == 900 ? QRectF(t.x, t.y - w, h, w) : QRectF(t.x, t.y, w, h);
 }
