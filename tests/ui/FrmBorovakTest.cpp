@@ -10,7 +10,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QTableWidget>
 #include <QTest>
@@ -59,13 +58,8 @@ protected:
 
 TEST_F(Okno, NabidkaAStromPoSpusteni)
 {
+    // the menus' captions are the language file's, compared line by line with the language tests
     EXPECT_EQ(okno->windowTitle(), QStringLiteral("Truhlář V ") + Nastaveni::verze());
-    QStringList hlavni;
-    for (QAction* a : okno->menuBar()->actions())
-        hlavni << a->text();
-    EXPECT_EQ(hlavni, QStringList({"&Zakázky", "&Doplňky", "&Data", "&Výpisy", "&Jazyk", "&O programu"}));
-    EXPECT_EQ(okno->akce(QStringLiteral("UpraveniZakazky"))->text(), QStringLiteral("U&pravení zakázky"));
-    EXPECT_EQ(okno->akce(QStringLiteral("tbODZ"))->toolTip(), QStringLiteral("Vložení zálohovaných dat"));
     ASSERT_EQ(strom->topLevelItemCount(), 1);
     EXPECT_EQ(strom->topLevelItem(0)->child(1)->text(0), QStringLiteral("Horní60 ( 2 ks )"));
     // nothing selected: no plan, no backup, but restore
