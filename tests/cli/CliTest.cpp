@@ -77,15 +77,6 @@ TEST_F(CliTest, DrzeneUlozisteACiziSouborVratiKod4)
     EXPECT_EQ(spust({"order-list"}).kod, 4);
 }
 
-TEST_F(CliTest, NastaveniSeCteAZapisuje)
-{
-    spust({"init"});
-    EXPECT_EQ(spust({"settings", "get", "Setting2", "Srez"}).out, QStringLiteral("4\n"));
-    EXPECT_EQ(spust({"settings", "set", "Setting2", "Srez", "3.2"}).kod, 0);
-    EXPECT_EQ(spust({"settings", "get", "Setting2", "Srez"}).out, QStringLiteral("3.2\n"));
-    EXPECT_EQ(spust({"settings", "get"}).kod, 2);
-}
-
 // A restore or a backup killed (SIGKILL) at growing delays: the data are the old or the new,
 // the backup file is whole, and the next start clears what the killed one left.
 TEST_F(CliTest, ZabitaObnovaAZalohaNechajiStaraNeboNovaData)
