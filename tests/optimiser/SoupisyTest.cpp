@@ -11,11 +11,8 @@ TEST_F(Soupisy, KopieDeskyNesouStejneCDeskyAFormatBezVzoruRusiOV)
     const QJsonObject plan = spust(ZpusobNP::PodelneRezy);
     const QJsonArray desky = plan["SoupisDesek"].toArray();
     ASSERT_EQ(desky.size(), 7);
-    for (int i = 0; i < 6; ++i) {
-        EXPECT_EQ(desky[i].toObject()["CDesky"].toInt(), 1);
-        EXPECT_EQ(desky[i].toObject()["OV"].toInt(), 0);
-        EXPECT_EQ(desky[i].toObject()["x"].toDouble(), 7200);
-    }
+    for (int i = 0; i < 6; ++i)
+        EXPECT_EQ(pole(desky[i].toObject(), {"CDesky", "OV", "x"}), (QJsonObject{{"CDesky", 1}, {"OV", 0}, {"x", 7200}})) << i;
     EXPECT_EQ(desky[6].toObject()["CDesky"].toInt(), 2);
 }
 
