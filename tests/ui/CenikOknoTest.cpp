@@ -45,15 +45,11 @@ void napis(QWidget* okno, const char* pole, const QString& t)
 // for it ("N" or "D") and chooses the record at `zaznam` (0 the first).
 Kroky::Krok vyberVKnihovne(QString& znacka, int zaznam)
 {
-    return [&znacka, zaznam](QWidget* w) {
-        auto* o = qobject_cast<FrmObr*>(w);
-        if (!o)
-            return false;
+    return vOkne<FrmObr>([&znacka, zaznam](FrmObr* o) {
         znacka = o->parentWidget()->findChild<QGroupBox*>(QStringLiteral("fraNCenik"))->property("Tag").toString();
         o->findChild<QScrollBar*>(QStringLiteral("HScroll1"))->setValue(zaznam);
         o->findChild<QPushButton*>(QStringLiteral("cmdV"))->click();
-        return true;
-    };
+    });
 }
 
 const QString Dub = QStringLiteral("DTD dub 'Rustikál' 18");
