@@ -209,15 +209,8 @@ TEST_F(Odolnost, SlozkaJenProCteniSeCteAZapisOdmitne)
 {
     // the application folder mounted read-only, in a mount namespace of the command's own
     const auto jenProCteni = [&](const QStringList& argumenty) {
-        QProcess p;
-        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-        env.insert(QStringLiteral("XDG_CONFIG_HOME"), m_dir.filePath(QStringLiteral("config")));
-        p.setProcessEnvironment(env);
-        p.start(QStringLiteral("unshare"), QStringList{"-m", "sh", "-c",
-                    R"(mount --bind "$0" "$0" && mount -o remount,bind,ro "$0" "$0" && exec "$@")", domov(),
-                    QStringLiteral(TRUHLAR_CLI), "--home", domov()} + argumenty);
-        EXPECT_TRUE(p.waitForFinished(60000));
-        return Vysledek{p.exitCode(), QString::fromUtf8(p.readAllStandardOutput()), QString::fromUtf8(p.readAllStandardError())};
+        return spust(argumenty, {}, {"unshare", "-m", "sh", "-c",
+                                     R"(mount --bind "$0" "$0" && mount -o remount,bind,ro "$0" "$0" && exec "$@")", domov()});
     };
     if (jenProCteni({"order-list"}).err.contains(QStringLiteral("mount")))
         GTEST_SKIP() << "no mount namespace here";

@@ -21,8 +21,10 @@ class SpusteniCli : public ::testing::Test {
 protected:
     SpusteniCli() { qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_dir.filePath(QStringLiteral("config")))); }
     // Starts the command over koren/home and koren/config (the test's folder when empty), without
-    // waiting: for the tests that kill it or run several at once.
-    void startuj(QProcess& p, const QStringList& argumenty, const QProcessEnvironment& navic = {}, QString koren = {})
+    // waiting: for the tests that kill it or run several at once. Under obal, that program runs
+    // it, given the command line after its own arguments.
+    void startuj(QProcess& p, const QStringList& argumenty, const QProcessEnvironment& navic = {}, QString koren = {},
+                 const QStringList& obal = {})
     {
         if (koren.isEmpty())
             koren = m_dir.path();
@@ -30,12 +32,14 @@ protected:
         env.insert(QStringLiteral("XDG_CONFIG_HOME"), koren + QStringLiteral("/config"));
         env.insert(navic);
         p.setProcessEnvironment(env);
-        p.start(QStringLiteral(TRUHLAR_CLI), QStringList{QStringLiteral("--home"), koren + QStringLiteral("/home")} + argumenty);
+        const QStringList prikaz = obal + QStringList{QStringLiteral(TRUHLAR_CLI), QStringLiteral("--home"),
+                                                      koren + QStringLiteral("/home")} + argumenty;
+        p.start(prikaz.first(), prikaz.mid(1));
     }
-    Vysledek spust(const QStringList& argumenty, const QProcessEnvironment& navic = {})
+    Vysledek spust(const QStringList& argumenty, const QProcessEnvironment& navic = {}, const QStringList& obal = {})
     {
         QProcess p;
-        startuj(p, argumenty, navic);
+        startuj(p, argumenty, navic, {}, obal);
         EXPECT_TRUE(p.waitForFinished(60000));
         return {p.exitCode(), QString::fromUtf8(p.readAllStandardOutput()), QString::fromUtf8(p.readAllStandardError())};
     }
