@@ -149,21 +149,16 @@ TEST_F(CenikTest, TiskCenikuRadekNaPolozkuAPatickaNaKazdeStrane)
     int radku = 0, hlavicek = 0, zlutych = 0;
     QStringList prvni;
     for (int s = 1; s <= 3; ++s) {
-        QStringList texty;
-        for (const Operace& op : d.strana(s).operace) {
-            if (const auto* t = std::get_if<OpTextBox>(&op))
-                texty << t->text;
-            else if (const auto* o = std::get_if<OpObdelnik>(&op);
-                     o && !o->stetec.pruhledny && o->stetec.barva == QColor(255, 255, 0))
-                ++zlutych;
-        }
-        hlavicek += int(texty.count(QStringLiteral("Kód")));
-        for (const QString& t : texty)
-            radku += t.startsWith(QStringLiteral("Položka ")) || t == QStringLiteral("Dub 'Rustikál'");
+        const QStringList t = texty<OpTextBox>(d, s);
+        for (const OpObdelnik& o : operace<OpObdelnik>(d, s))
+            zlutych += !o.stetec.pruhledny && o.stetec.barva == QColor(255, 255, 0);
+        hlavicek += int(t.count(QStringLiteral("Kód")));
+        for (const QString& r : t)
+            radku += r.startsWith(QStringLiteral("Položka ")) || r == QStringLiteral("Dub 'Rustikál'");
         if (s == 1)
-            prvni = texty.mid(texty.indexOf(QStringLiteral("Dub 'Rustikál'")) - 1, 6);
-        EXPECT_TRUE(texty.contains(QStringLiteral("Strana  %1 / 3").arg(s))) << s;
-        EXPECT_TRUE(texty.join(QLatin1Char('|')).contains(QStringLiteral("Výpis z ceníku borováckých materiálů - "))) << s;
+            prvni = t.mid(t.indexOf(QStringLiteral("Dub 'Rustikál'")) - 1, 6);
+        EXPECT_TRUE(t.contains(QStringLiteral("Strana  %1 / 3").arg(s))) << s;
+        EXPECT_TRUE(t.join(QLatin1Char('|')).contains(QStringLiteral("Výpis z ceníku borováckých materiálů - "))) << s;
     }
     EXPECT_EQ(texty<OpText>(d, 1).value(0), QStringLiteral("V Ý P I S   Z   C E N Í K U"));
     EXPECT_EQ(radku, 110);
