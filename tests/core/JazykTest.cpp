@@ -87,12 +87,8 @@ TEST_F(Jazyk_, PoskozenyAChybejiciSoubor)
     radky = vestavene(Jazyk::Soubor::Anglictina);
     radky[Jazyk::NezobrazenyRadek - 1].clear();
     EXPECT_EQ(chyba(radky.join(QLatin1Char('\n')).toUtf8()), 0);
-    try {
-        Jazyk::nacti(QDir(domov()).filePath(QStringLiteral("neni.txt")));
-        FAIL();
-    } catch (const Error& e) {
-        EXPECT_EQ(e.text(), QStringLiteral("Soubor jazykové verze neexistuje!!!"));
-    }
+    EXPECT_EQ(chybaZ([&] { Jazyk::nacti(QDir(domov()).filePath(QStringLiteral("neni.txt"))); }).text(),
+              QStringLiteral("Soubor jazykové verze neexistuje!!!"));
 }
 
 TEST_F(Jazyk_, AkceleratoryJsouJedinecneVKazdemMenu)

@@ -42,14 +42,19 @@ Uloziste& DomovTest::uloziste()
     return *m_uloziste;
 }
 
-int cisloChyby(const std::function<void()>& f)
+Error chybaZ(const std::function<void()>& f)
 {
     try {
         f();
     } catch (const Error& e) {
-        return e.cislo();
+        return e;
     }
-    return 0;
+    return Error(0, QString());
+}
+
+int cisloChyby(const std::function<void()>& f)
+{
+    return chybaZ(f).cislo();
 }
 
 QByteArray obsahSouboru(const QString& cesta)
@@ -67,13 +72,10 @@ void zapisSoubor(const QString& cesta, const QByteArray& obsah)
 
 QString textChyby(const std::function<void()>& f)
 {
-    try {
-        f();
-    } catch (const Error& e) {
+    const Error e = chybaZ(f);
+    if (e.cislo())
         EXPECT_EQ(e.cislo(), Chyba::NeplatnyVstup) << e.text().toStdString();
-        return e.text();
-    }
-    return QString();
+    return e.text();
 }
 
 QByteArray demoJson()

@@ -1,6 +1,7 @@
 #pragma once
 // A fixture with its own application folder and settings file, thrown away afterwards, and a
 // fixed clock for stamps. domov() is the folder; uloziste() opens (and creates) the store.
+#include "core/Error.h"
 #include "core/Uloziste.h"
 
 #include <QTemporaryDir>
@@ -39,7 +40,8 @@ void bezRezani();
 QByteArray obsahSouboru(const QString& cesta);
 void zapisSoubor(const QString& cesta, const QByteArray& obsah);
 
-// The store's error number that f throws, 0 when it throws none.
+// The store's error that f throws (number 0 when it throws none), and its number.
+Error chybaZ(const std::function<void()>& f);
 int cisloChyby(const std::function<void()>& f);
 // The text of the store's error that f throws, which must be a refused input; empty when none.
 QString textChyby(const std::function<void()>& f);
