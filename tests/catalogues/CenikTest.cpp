@@ -1,6 +1,7 @@
 // The price list: the checks in their order and bounds, the Czech order, the search, an edit
 // keeping its own name, VAT rounding, the printed list; the picture and schema libraries.
 #include "catalogues/Cenik.h"
+#include "CteniDokumentu.h"
 #include "DomovTest.h"
 #include "SkriptovanyPrompt.h"
 #include "VzorkyObrazku.h"
@@ -12,13 +13,8 @@
 
 namespace {
 
-class CenikTest : public DomovTest {
+class CenikTest : public NastavenyDomov {
 protected:
-    void SetUp() override
-    {
-        DomovTest::SetUp();
-        Nastaveni::ZapisVychoziNastaveni(0, 0, 1, 1);
-    }
     Database& db() { return uloziste().cenik(); }
     bool uloz(const QString& nazev, const QString& kod, const QString& cena, const QString& skupina = QStringLiteral("P"),
               const QString& stary = {})
@@ -31,15 +27,6 @@ protected:
     }
     SkriptovanyPrompt prompt;
 };
-
-// The first text written on the first page.
-QString texty1(const Dokument& d)
-{
-    for (const Operace& op : d.strana(1).operace)
-        if (const auto* t = std::get_if<OpText>(&op))
-            return t->text;
-    return {};
-}
 
 } // namespace
 
@@ -162,23 +149,18 @@ TEST_F(CenikTest, TiskCenikuRadekNaPolozkuAPatickaNaKazdeStrane)
     int radku = 0, hlavicek = 0, zlutych = 0;
     QStringList prvni;
     for (int s = 1; s <= 3; ++s) {
-        QStringList texty;
-        for (const Operace& op : d.strana(s).operace) {
-            if (const auto* t = std::get_if<OpTextBox>(&op))
-                texty << t->text;
-            else if (const auto* o = std::get_if<OpObdelnik>(&op);
-                     o && !o->stetec.pruhledny && o->stetec.barva == QColor(255, 255, 0))
-                ++zlutych;
-        }
-        hlavicek += int(texty.count(QStringLiteral("Kód")));
-        for (const QString& t : texty)
-            radku += t.startsWith(QStringLiteral("Položka ")) || t == QStringLiteral("Dub 'Rustikál'");
+        const QStringList t = texty<OpTextBox>(d, s);
+        for (const OpObdelnik& o : operace<OpObdelnik>(d, s))
+            zlutych += !o.stetec.pruhledny && o.stetec.barva == QColor(255, 255, 0);
+        hlavicek += int(t.count(QStringLiteral("Kód")));
+        for (const QString& r : t)
+            radku += r.startsWith(QStringLiteral("Položka ")) || r == QStringLiteral("Dub 'Rustikál'");
         if (s == 1)
-            prvni = texty.mid(texty.indexOf(QStringLiteral("Dub 'Rustikál'")) - 1, 6);
-        EXPECT_TRUE(texty.contains(QStringLiteral("Strana  %1 / 3").arg(s))) << s;
-        EXPECT_TRUE(texty.join(QLatin1Char('|')).contains(QStringLiteral("Výpis z ceníku borováckých materiálů - "))) << s;
+            prvni = t.mid(t.indexOf(QStringLiteral("Dub 'Rustikál'")) - 1, 6);
+        EXPECT_TRUE(t.contains(QStringLiteral("Strana  %1 / 3").arg(s))) << s;
+        EXPECT_TRUE(t.join(QLatin1Char('|')).contains(QStringLiteral("Výpis z ceníku borováckých materiálů - "))) << s;
     }
-    EXPECT_EQ(texty1(d), QStringLiteral("V Ý P I S   Z   C E N Í K U"));
+    EXPECT_EQ(texty<OpText>(d, 1).value(0), QStringLiteral("V Ý P I S   Z   C E N Í K U"));
     EXPECT_EQ(radku, 110);
     EXPECT_EQ(hlavicek, 3);
     EXPECT_EQ(zlutych, 3 * 6);

@@ -1,17 +1,13 @@
 // The offcut store: entry checks, the merge question, edits and deletion, the printed list.
 #include "catalogues/Sklad.h"
+#include "CteniDokumentu.h"
 #include "DomovTest.h"
 #include "SkriptovanyPrompt.h"
 #include "core/Nastaveni.h"
 #include "printing/Dokument.h"
 
-class SkladTest : public DomovTest {
+class SkladTest : public NastavenyDomov {
 protected:
-    void SetUp() override
-    {
-        DomovTest::SetUp();
-        Nastaveni::ZapisVychoziNastaveni(0, 0, 1, 1);
-    }
     Database& db() { return uloziste().dataS(); }
     std::vector<Sklad::Odrezek> vse() { return Sklad::nacti(db(), {}, QStringLiteral("material")); }
     SkriptovanyPrompt prompt;
@@ -72,12 +68,7 @@ TEST_F(SkladTest, VypisSkladuJednohoMaterialu)
         ASSERT_TRUE(Sklad::UlozitNovyOdrezek(db(), prompt, {QString::fromLatin1(m), x, 200, 1}));
     Dokument d;
     Sklad::VypisSkladu(d, db(), QStringLiteral("DTD"));
-    QStringList t;
-    for (const Operace& op : d.strana(1).operace)
-        if (const auto* b = std::get_if<OpTextBox>(&op))
-            t << b->text;
-        else if (const auto* o = std::get_if<OpText>(&op))
-            t << o->text;
+    const QStringList t = texty<OpTextBox, OpText>(d, 1);
     EXPECT_TRUE(t.contains(QStringLiteral("VÝPIS ZE SKLADU ODŘEZKŮ")));
     EXPECT_TRUE(t.contains(QStringLiteral("Strana  1 / 1")));
     EXPECT_FALSE(t.contains(QStringLiteral("MDF")));

@@ -1,16 +1,9 @@
 // The price list, the libraries and the accessories on the command line.
-#include "VzorkyObrazku.h"
-#include "core/Database.h"
-
 #include "SpusteniCli.h"
-#include <QFile>
+#include "VzorkyObrazku.h"
+
+#include <QDir>
 #include <QImage>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QProcess>
-#include <QTemporaryDir>
-#include <gtest/gtest.h>
 
 namespace {
 
@@ -31,12 +24,9 @@ TEST_F(CenikCliTest, CenikTamAZpetVsechnoNeboNic)
 {
     const Vysledek nahrani = spust({"pricelist-load", soubor(QStringLiteral("c.json"), polozky)});
     ASSERT_EQ(nahrani.kod, 0) << nahrani.err.toStdString();
-    const Vysledek vypis = spust({"pricelist-dump", "--razeni", "Kod"});
-    ASSERT_EQ(vypis.kod, 0);
-    QJsonArray cekano = QJsonDocument::fromJson(polozky).array();
-    EXPECT_EQ(QJsonDocument::fromJson(vypis.out.toUtf8()).array(), QJsonArray({cekano[1], cekano[2], cekano[0]}));
-    const Vysledek podleNazvu = spust({"pricelist-dump"});
-    EXPECT_EQ(QJsonDocument::fromJson(podleNazvu.out.toUtf8()).array(), QJsonArray({cekano[1], cekano[0], cekano[2]}));
+    const QJsonArray cekano = QJsonDocument::fromJson(polozky).array();
+    EXPECT_EQ(json({"pricelist-dump", "--razeni", "Kod"}).array(), QJsonArray({cekano[1], cekano[2], cekano[0]}));
+    EXPECT_EQ(json({"pricelist-dump"}).array(), QJsonArray({cekano[1], cekano[0], cekano[2]}));
 
     const Vysledek dvojnik =
         spust({"pricelist-load", soubor(QStringLiteral("d.json"),
@@ -44,7 +34,7 @@ TEST_F(CenikCliTest, CenikTamAZpetVsechnoNeboNic)
             {"kod": 8, "nazev": "DUB 'rustikál'", "cena": 1, "jednotka": "ks", "skupina": "P"}])")});
     EXPECT_EQ(dvojnik.kod, 3);
     EXPECT_TRUE(dvojnik.err.contains(QStringLiteral("Položka pod tímhle názvem již existuje"))) << dvojnik.err.toStdString();
-    EXPECT_EQ(QJsonDocument::fromJson(spust({"pricelist-dump"}).out.toUtf8()).array().size(), 3);
+    EXPECT_EQ(json({"pricelist-dump"}).array().size(), 3);
     const QString pdf = m_dir.filePath(QStringLiteral("cenik.pdf"));
     EXPECT_EQ(spust({"pricelist-pdf", pdf}).kod, 0);
     EXPECT_TRUE(QFile(pdf).size() > 1000);
@@ -59,15 +49,13 @@ TEST_F(CenikCliTest, ObrazkyBajtZaBajtemPoskozenyNeuloziNic)
     EXPECT_EQ(spust({"picture-add", soubor(QStringLiteral("s.wmf"), vzorekWmf())}).out.trimmed(), QStringLiteral("2"));
     const QString zpet = m_dir.filePath(QStringLiteral("zpet.jpg"));
     ASSERT_EQ(spust({"picture-get", "1", zpet}).kod, 0);
-    QFile f(zpet);
-    f.open(QIODevice::ReadOnly);
-    EXPECT_EQ(f.readAll(), jpg);
+    EXPECT_EQ(obsahSouboru(zpet), jpg);
 
     const Vysledek poskozeny = spust({"picture-add", soubor(QStringLiteral("zlom.jpg"), jpg.left(jpg.size() / 2))});
     EXPECT_EQ(poskozeny.kod, 3);
     EXPECT_TRUE(
         poskozeny.err.contains(QStringLiteral("Soubor „zlom.jpg“ není obrázek JPG, PNG, BMP, GIF ani WMF, nebo je poškozený.")));
-    const QJsonArray seznam = QJsonDocument::fromJson(spust({"picture-list"}).out.toUtf8()).array();
+    const QJsonArray seznam = json({"picture-list"}).array();
     ASSERT_EQ(seznam.size(), 2);
     EXPECT_EQ(seznam[0][QStringLiteral("nazev")].toString(), QStringLiteral("dub.jpg"));
     EXPECT_EQ(seznam[0][QStringLiteral("format")].toString(), QStringLiteral("jpeg"));
@@ -96,34 +84,24 @@ TEST_F(CenikCliTest, ObrazkyBajtZaBajtemPoskozenyNeuloziNic)
 TEST_F(CenikCliTest, PrislusenstviZCenikuVKalkulaci)
 {
     ASSERT_EQ(spust({"pricelist-load", soubor(QStringLiteral("c.json"), polozky)}).kod, 0);
-    ASSERT_EQ(
-        spust({"order-load", soubor(QStringLiteral("z.json"), R"({"zakazka": "Z", "sestavy": [{"nazev": "S", "pocet": 1}]})")})
-            .kod,
-        0);
+    ASSERT_EQ(spust({"order-load", soubor(QStringLiteral("z.json"), R"({"zakazka": "Z", "sestavy": [{"nazev": "S", "pocet": 1}]})")}).kod, 0);
     ASSERT_EQ(spust({"settings", "set", "Setting", "SlevaPris", "10"}).kod, 0);
     const Vysledek pridani = spust({"accessory-add", "Z", "S", "Čep", "2.125"});
     ASSERT_EQ(pridani.kod, 0) << pridani.err.toStdString();
     EXPECT_EQ(spust({"accessory-add", "Z", "S", "pant", "0", "--price", "5"}).kod, 3);
-    const QJsonObject z = QJsonDocument::fromJson(spust({"order-dump", "Z"}).out.toUtf8()).object();
-    const QJsonArray pr = z[QStringLiteral("sestavy")][0][QStringLiteral("prislusenstvi")].toArray();
+    const QJsonArray pr = json({"order-dump", "Z"})[QStringLiteral("sestavy")][0][QStringLiteral("prislusenstvi")].toArray();
     ASSERT_EQ(pr.size(), 1);
     EXPECT_EQ(pr[0][QStringLiteral("mnozstvi")].toDouble(), 2.125);
     EXPECT_EQ(pr[0][QStringLiteral("jednotka")].toString(), QStringLiteral("ks"));
     EXPECT_EQ(pr[0][QStringLiteral("cena")].toDouble(), 2.125);
-    const Vysledek calc = spust({"calc", "Z", "--json"});
-    ASSERT_EQ(calc.kod, 0) << calc.err.toStdString();
-    const QJsonArray radky = QJsonDocument::fromJson(calc.out.toUtf8()).object()[QStringLiteral("SoupisProKalkulaci")].toArray();
+    const QJsonArray radky = json({"calc", "Z", "--json"})[QStringLiteral("SoupisProKalkulaci")].toArray();
     ASSERT_EQ(radky.size(), 1);
     EXPECT_DOUBLE_EQ(radky[0][QStringLiteral("JC")].toDouble(), 1.91); // 2.125 less 10 %, rounded
     EXPECT_EQ(spust({"accessory-delete", "Z", "S", "Čep"}).kod, 0);
-    const QJsonObject po = QJsonDocument::fromJson(spust({"order-dump", "Z"}).out.toUtf8()).object();
-    EXPECT_TRUE(po[QStringLiteral("sestavy")][0][QStringLiteral("prislusenstvi")].toArray().isEmpty());
+    EXPECT_TRUE(json({"order-dump", "Z"})[QStringLiteral("sestavy")][0][QStringLiteral("prislusenstvi")].toArray().isEmpty());
 
-    const Vysledek nula = spust(
-        {"order-load",
-         soubor(
-             QStringLiteral("n.json"),
-             R"({"zakazka": "N", "sestavy": [{"nazev": "S", "prislusenstvi": [{"oznaceni": "pant", "mnozstvi": 0, "cena": 1}]}]})")});
+    const Vysledek nula = spust({"order-load", soubor(QStringLiteral("n.json"),
+        R"({"zakazka": "N", "sestavy": [{"nazev": "S", "prislusenstvi": [{"oznaceni": "pant", "mnozstvi": 0, "cena": 1}]}]})")});
     EXPECT_EQ(nula.kod, 3);
     EXPECT_TRUE(nula.err.contains(QStringLiteral("Zadejte množství a cenu číslem.")));
 }

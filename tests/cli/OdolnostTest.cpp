@@ -18,17 +18,8 @@ namespace {
 
 class Odolnost : public SpusteniCli {
 protected:
-    void SetUp() override
-    {
-        ASSERT_EQ(spust({"init"}).kod, 0);
-        ASSERT_EQ(spust({"order-load", demo()}).kod, 0);
-    }
+    void SetUp() override { zalozDemo(); }
     QString data(const QString& nazev) const { return domov() + QStringLiteral("/Data/") + nazev; }
-    QByteArray obsah(const QString& cesta) const
-    {
-        QFile f(cesta);
-        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-    }
 };
 
 } // namespace
@@ -40,7 +31,6 @@ TEST_F(Odolnost, VystupDoSlozkyDatJeOdmitnutADataZustanou)
     ASSERT_TRUE(QFile::link(data(QStringLiteral("DataS.db")), m_dir.filePath(QStringLiteral("odkaz.bvk"))));
     ASSERT_EQ(::link(QFile::encodeName(data(QStringLiteral("Cenik.db"))).constData(),
                      QFile::encodeName(m_dir.filePath(QStringLiteral("tvrdy.cen"))).constData()), 0);
-    const QString plan[] = {"plan", "Kuchyně Novák", "--format", "5000001", "--mode", "kombinovane"};
     const QList<QStringList> prikazy = {
         {"pricelist-backup", data(QStringLiteral("DataS.db"))},
         {"backup", data(QStringLiteral("Cenik.db"))},
@@ -50,9 +40,9 @@ TEST_F(Odolnost, VystupDoSlozkyDatJeOdmitnutADataZustanou)
         {"backup", domov() + QStringLiteral("/Data/../Data/DataS.db")},
         {"pricelist-backup", m_dir.filePath(QStringLiteral("odkaz.bvk"))},
         {"backup", m_dir.filePath(QStringLiteral("tvrdy.cen"))},
-        QStringList(std::begin(plan), std::end(plan)) << "--pdf" << data(QStringLiteral("DataS.db")),
-        QStringList(std::begin(plan), std::end(plan)) << "--vpf" << data(QStringLiteral("Cenik.db")),
-        QStringList(std::begin(plan), std::end(plan)) << "--labels-pdf" << data(QStringLiteral("DataS.db")),
+        plan("kombinovane") << "--pdf" << data(QStringLiteral("DataS.db")),
+        plan("kombinovane") << "--vpf" << data(QStringLiteral("Cenik.db")),
+        plan("kombinovane") << "--labels-pdf" << data(QStringLiteral("DataS.db")),
         {"calc", "Kuchyně Novák", "--pdf", data(QStringLiteral("DataS.db"))},
         {"pricelist-pdf", data(QStringLiteral("Cenik.db"))},
     };
@@ -79,11 +69,10 @@ TEST_F(Odolnost, VystupyNaPlnemDiskuNezanechajiNic)
     QProcessEnvironment env;
     env.insert(QStringLiteral("LD_PRELOAD"), QStringLiteral(ZABITI_PRI_SYNCU));
     env.insert(QStringLiteral("TRUHLAR_PLNY_DISK"), plny);
-    const QStringList plan = {"plan", "Kuchyně Novák", "--format", "5000001", "--mode", "kombinovane"};
     const QList<QStringList> prikazy = {
-        plan + QStringList{"--pdf", plny + QStringLiteral("/plan.pdf")},
-        plan + QStringList{"--labels-pdf", plny + QStringLiteral("/stitky.pdf")},
-        plan + QStringList{"--vpf", plny + QStringLiteral("/OUT00000.VPF")},
+        plan("kombinovane") << "--pdf" << plny + QStringLiteral("/plan.pdf"),
+        plan("kombinovane") << "--labels-pdf" << plny + QStringLiteral("/stitky.pdf"),
+        plan("kombinovane") << "--vpf" << plny + QStringLiteral("/OUT00000.VPF"),
         {"calc", "Kuchyně Novák", "--pdf", plny + QStringLiteral("/kalkulace.pdf")},
         {"pricelist-pdf", plny + QStringLiteral("/cenik.pdf")},
         {"picture-get", "1", plny + QStringLiteral("/o.png")},
@@ -106,7 +95,7 @@ TEST_F(Odolnost, DvaPlanyAObnovaNaraz)
     const QString zaloha = m_dir.filePath(QStringLiteral("z.bvk"));
     ASSERT_EQ(spust({"backup", zaloha}).kod, 0);
     const QList<QStringList> prikazy = {
-        {"plan", "Kuchyně Novák", "--format", "5000001", "--mode", "kombinovane", "--dump"},
+        plan("kombinovane") << "--dump",
         {"plan", "Druhá", "--format", "5000001", "--mode", "podelne", "--dump"},
         {"restore", zaloha},
     };
@@ -119,25 +108,19 @@ TEST_F(Odolnost, DvaPlanyAObnovaNaraz)
     }
     ASSERT_NE(samotne[0], samotne[1]);
 
-    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-    env.insert(QStringLiteral("XDG_CONFIG_HOME"), m_dir.filePath(QStringLiteral("config")));
     int hotovo = 0;
     for (int kolo = 0; kolo < 4; ++kolo) {
         std::vector<std::unique_ptr<QProcess>> procesy;
-        for (const QStringList& p : prikazy) {
-            procesy.push_back(std::make_unique<QProcess>());
-            procesy.back()->setProcessEnvironment(env);
-            procesy.back()->start(QStringLiteral(TRUHLAR_CLI), QStringList{QStringLiteral("--home"), domov()} + p);
-        }
+        for (const QStringList& p : prikazy)
+            startuj(*procesy.emplace_back(std::make_unique<QProcess>()), p);
         for (size_t i = 0; i < procesy.size(); ++i) {
             QProcess& p = *procesy[i];
             ASSERT_TRUE(p.waitForFinished(60000));
             const QString err = QString::fromUtf8(p.readAllStandardError());
             if (p.exitCode() == 0) {
                 ++hotovo;
-                if (i < 2) {
+                if (i < 2)
                     EXPECT_EQ(QString::fromUtf8(p.readAllStandardOutput()), samotne[int(i)]) << kolo; // its own order only
-                }
                 continue;
             }
             // busy beyond a short wait: said in the program's words, and nothing else
@@ -226,26 +209,19 @@ TEST_F(Odolnost, SlozkaJenProCteniSeCteAZapisOdmitne)
 {
     // the application folder mounted read-only, in a mount namespace of the command's own
     const auto jenProCteni = [&](const QStringList& argumenty) {
-        QProcess p;
-        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-        env.insert(QStringLiteral("XDG_CONFIG_HOME"), m_dir.filePath(QStringLiteral("config")));
-        p.setProcessEnvironment(env);
-        p.start(QStringLiteral("unshare"), QStringList{"-m", "sh", "-c",
-                    R"(mount --bind "$0" "$0" && mount -o remount,bind,ro "$0" "$0" && exec "$@")", domov(),
-                    QStringLiteral(TRUHLAR_CLI), "--home", domov()} + argumenty);
-        EXPECT_TRUE(p.waitForFinished(60000));
-        return Vysledek{p.exitCode(), QString::fromUtf8(p.readAllStandardOutput()), QString::fromUtf8(p.readAllStandardError())};
+        return spust(argumenty, {}, {"unshare", "-m", "sh", "-c",
+                                     R"(mount --bind "$0" "$0" && mount -o remount,bind,ro "$0" "$0" && exec "$@")", domov()});
     };
     if (jenProCteni({"order-list"}).err.contains(QStringLiteral("mount")))
         GTEST_SKIP() << "no mount namespace here";
-    const QStringList plan = {"plan", "Kuchyně Novák", "--format", "5000001", "--mode", "kombinovane", "--dump"};
-    const QString planVPoradku = spust(plan).out;
+    const QStringList kombinovane = plan("kombinovane") << "--dump";
+    const QString planVPoradku = spust(kombinovane).out;
     ::unlink(QFile::encodeName(data(QStringLiteral(".lock"))).constData()); // as a folder copied to a CD would be
 
     EXPECT_EQ(jenProCteni({"order-list"}).out, QStringLiteral("Kuchyně Novák\n"));
     EXPECT_EQ(jenProCteni({"order-dump", "Kuchyně Novák"}).out, spust({"order-dump", "Kuchyně Novák"}).out);
     EXPECT_EQ(jenProCteni({"check"}).kod, 0);
-    const Vysledek v = jenProCteni(plan);
+    const Vysledek v = jenProCteni(kombinovane);
     EXPECT_EQ(v.kod, 0) << v.err.toStdString();
     EXPECT_EQ(v.out, planVPoradku);
     EXPECT_EQ(jenProCteni({"calc", "Kuchyně Novák", "--json"}).kod, 0);
@@ -267,5 +243,5 @@ TEST_F(Odolnost, PolozkaCenikuSRidicimZnakemNevstoupi)
             {"kod": 9, "nazev": "Úchyt\u0000ka", "cena": 40, "jednotka": "ks", "skupina": "P"}])")});
     EXPECT_EQ(v.kod, 3) << v.err.toStdString();
     EXPECT_TRUE(v.err.contains(QStringLiteral("„Název“"))) << v.err.toStdString();
-    EXPECT_TRUE(QJsonDocument::fromJson(spust({"pricelist-dump"}).out.toUtf8()).array().isEmpty());
+    EXPECT_TRUE(json({"pricelist-dump"}).array().isEmpty());
 }

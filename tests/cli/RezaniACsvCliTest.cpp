@@ -2,9 +2,6 @@
 // imported back into an assembly.
 #include "SpusteniCli.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <algorithm>
 
 namespace {
@@ -13,17 +10,7 @@ const QString Kuchyne = QStringLiteral("Kuchyně Novák");
 
 class RezaniACsvCli : public SpusteniCli {
 protected:
-    void SetUp() override
-    {
-        ASSERT_EQ(spust({QStringLiteral("init")}).kod, 0);
-        ASSERT_EQ(spust({QStringLiteral("order-load"), demo()}).kod, 0);
-    }
-    QJsonObject json(const QStringList& argumenty)
-    {
-        const Vysledek v = spust(argumenty);
-        EXPECT_EQ(v.kod, 0) << v.err.toStdString();
-        return QJsonDocument::fromJson(v.out.toUtf8()).object();
-    }
+    void SetUp() override { zalozDemo(); }
     // The rows of a costing table that price the cutting.
     static QJsonArray rezani(const QJsonObject& o, const char* tabulka)
     {
@@ -67,15 +54,12 @@ QStringList kusy(const QJsonObject& zakazka, bool kratPocet)
 // falls by just that row.
 TEST_F(RezaniACsvCli, CenaRezaniVKalkulaciNabidceANakupu)
 {
-    ASSERT_EQ(spust({QStringLiteral("settings"), QStringLiteral("set"), QStringLiteral("Setting2"), QStringLiteral("CRez"),
-                     QStringLiteral("8")})
-                  .kod,
-              0);
+    ASSERT_EQ(spust({"settings", "set", "Setting2", "CRez", "8"}).kod, 0);
     const QString prikazy[] = {QStringLiteral("calc"), QStringLiteral("quote"), QStringLiteral("purchase")};
     std::map<QString, double> cenaRezani, sRezanim;
     for (const QString& p : prikazy) {
         SCOPED_TRACE(p.toStdString());
-        const QJsonObject o = json({p, Kuchyne, QStringLiteral("--json")});
+        const QJsonObject o = json({p, Kuchyne, "--json"}).object();
         const QJsonArray r = rezani(o, "SoupisProKalkulaci");
         ASSERT_EQ(r.size(), 1); // one format
         const double metru = r[0][QStringLiteral("mnozstvi")].toDouble();
@@ -90,17 +74,13 @@ TEST_F(RezaniACsvCli, CenaRezaniVKalkulaciNabidceANakupu)
         }
     }
     // a calculation of some assemblies only leaves the order's cutting out
-    const QJsonObject jedna = json({QStringLiteral("calc"), Kuchyne, QStringLiteral("--sestava"), QStringLiteral("Dřez80"),
-                                    QStringLiteral("--json")});
+    const QJsonObject jedna = json({"calc", Kuchyne, "--sestava", "Dřez80", "--json"}).object();
     EXPECT_TRUE(rezani(jedna, "SoupisProKalkulaci").isEmpty());
 
-    ASSERT_EQ(spust({QStringLiteral("settings"), QStringLiteral("set"), QStringLiteral("Setting2"), QStringLiteral("ZCR"),
-                     QStringLiteral("0")})
-                  .kod,
-              0);
+    ASSERT_EQ(spust({"settings", "set", "Setting2", "ZCR", "0"}).kod, 0);
     for (const QString& p : prikazy) {
         SCOPED_TRACE(p.toStdString());
-        const QJsonObject o = json({p, Kuchyne, QStringLiteral("--json")});
+        const QJsonObject o = json({p, Kuchyne, "--json"}).object();
         EXPECT_TRUE(rezani(o, "SoupisProKalkulaci").isEmpty());
         EXPECT_NEAR(sRezanim[p] - zaklad(o), cenaRezani[p], 0.015);
     }
@@ -109,30 +89,21 @@ TEST_F(RezaniACsvCli, CenaRezaniVKalkulaciNabidceANakupu)
 TEST_F(RezaniACsvCli, SeznamDilcuPlanuSeNaimportujeZpet)
 {
     const QString csv = m_dir.filePath(QStringLiteral("dilce.csv"));
-    const Vysledek plan = spust({QStringLiteral("plan"), Kuchyne, QStringLiteral("--format"), QStringLiteral("5000001"),
-                                 QStringLiteral("--mode"), QStringLiteral("kombinovane"), QStringLiteral("--csv"), csv});
-    ASSERT_EQ(plan.kod, 0) << plan.err.toStdString();
-    QFile f(csv);
-    ASSERT_TRUE(f.open(QIODevice::ReadOnly));
-    const QByteArray obsah = f.readAll();
-    EXPECT_TRUE(obsah.startsWith("\xEF\xBB\xBFTabule;N\xC3\xA1zev;Sestava;D\xC3\xA9lka;")); // UTF-8 with its BOM
-    EXPECT_TRUE(obsah.contains("\r\n"));
+    const Vysledek v = spust(plan("kombinovane") << "--csv" << csv);
+    ASSERT_EQ(v.kod, 0) << v.err.toStdString();
+    const QByteArray dilce = obsahSouboru(csv);
+    EXPECT_TRUE(dilce.startsWith("\xEF\xBB\xBFTabule;N\xC3\xA1zev;Sestava;D\xC3\xA9lka;")); // UTF-8 with its BOM
+    EXPECT_TRUE(dilce.contains("\r\n"));
 
     // an order of the same materials with an empty assembly takes the list back
-    const QJsonObject demo = json({QStringLiteral("order-dump"), Kuchyne});
+    const QJsonObject demo = json({"order-dump", Kuchyne}).object();
     QJsonObject kopie = demo;
     kopie[QStringLiteral("zakazka")] = QStringLiteral("Kopie");
     kopie[QStringLiteral("sestavy")] = QJsonArray{QJsonObject{{QStringLiteral("nazev"), QStringLiteral("Vse")}}};
-    const QString soubor = m_dir.filePath(QStringLiteral("kopie.json"));
-    QFile k(soubor);
-    ASSERT_TRUE(k.open(QIODevice::WriteOnly));
-    k.write(QJsonDocument(kopie).toJson());
-    k.close();
-    ASSERT_EQ(spust({QStringLiteral("order-load"), soubor}).kod, 0);
-    const Vysledek import = spust({QStringLiteral("import"), csv, QStringLiteral("--order"), QStringLiteral("Kopie"),
-                                   QStringLiteral("--assembly"), QStringLiteral("Vse")});
+    ASSERT_EQ(spust({"order-load", soubor(QStringLiteral("kopie.json"), QJsonDocument(kopie).toJson())}).kod, 0);
+    const Vysledek import = spust({"import", csv, "--order", "Kopie", "--assembly", "Vse"});
     ASSERT_EQ(import.kod, 0) << import.err.toStdString();
-    const QJsonObject zpet = json({QStringLiteral("order-dump"), QStringLiteral("Kopie")});
+    const QJsonObject zpet = json({"order-dump", "Kopie"}).object();
     EXPECT_EQ(kusy(zpet, false), kusy(demo, true));
     EXPECT_EQ(zpet[QStringLiteral("hrany")].toArray().size(), demo[QStringLiteral("hrany")].toArray().size()); // no band made anew
 }

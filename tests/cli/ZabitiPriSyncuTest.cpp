@@ -16,8 +16,7 @@ protected:
     // differ from what is stored.
     void SetUp() override
     {
-        ASSERT_EQ(spust({"init"}).kod, 0);
-        ASSERT_EQ(spust({"order-load", demo()}).kod, 0);
+        zalozDemo();
         ASSERT_EQ(spust({"backup", zaloha()}).kod, 0);
         ASSERT_EQ(spust({"pricelist-backup", m_dir.filePath(QStringLiteral("c.cen"))}).kod, 0);
         ASSERT_EQ(spust({"pricelist-load", soubor(QStringLiteral("c.json"),
@@ -55,13 +54,11 @@ protected:
     // Runs the command on the attempt's folder, killed at sync n (0: never); true when it was.
     bool spustSZabitim(const QStringList& argumenty, int n)
     {
-        QProcess p;
-        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-        env.insert(QStringLiteral("XDG_CONFIG_HOME"), pokus() + QStringLiteral("/config"));
+        QProcessEnvironment env;
         env.insert(QStringLiteral("LD_PRELOAD"), QStringLiteral(ZABITI_PRI_SYNCU));
         env.insert(QStringLiteral("TRUHLAR_ZABIJ_PRI_SYNCU"), QString::number(n));
-        p.setProcessEnvironment(env);
-        p.start(QStringLiteral(TRUHLAR_CLI), QStringList{QStringLiteral("--home"), pokus() + QStringLiteral("/home")} + argumenty);
+        QProcess p;
+        startuj(p, argumenty, env, pokus());
         EXPECT_TRUE(p.waitForFinished(60000));
         if (p.exitStatus() == QProcess::CrashExit)
             return true;
@@ -106,7 +103,7 @@ TEST_F(ZabitiPriSyncu, KazdyZapisujiciPrikazVseNeboNic)
         {"offcuts-load", m_dir.filePath(QStringLiteral("o.json"))},
         {"order-copy", "Kuchyně Novák", "Kopie"},
         {"assembly-copy", "Kuchyně Novák", "Dřez80", "Kuchyně Novák", "Dřez81"},
-        {"plan", "Kuchyně Novák", "--format", "5000001", "--mode", "kombinovane", "--write-back"},
+        plan("kombinovane") << "--write-back",
         {"restore", zaloha()},
         {"pricelist-restore", m_dir.filePath(QStringLiteral("c.cen"))},
         {"options", "apply", "Srez=3", "XZ=150", "DPH=15"},

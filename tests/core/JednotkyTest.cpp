@@ -5,13 +5,8 @@
 
 using namespace Jednotky;
 
-class JednotkyTest : public DomovTest {
+class JednotkyTest : public NastavenyDomov {
 protected:
-    void SetUp() override
-    {
-        DomovTest::SetUp();
-        Nastaveni::ZapisVychoziNastaveni(0, 0, 1, 1);
-    }
     void jednotka(int j) { Nastaveni::SaveSetting("Setting", "Jednotky", QString::number(j)); }
 };
 

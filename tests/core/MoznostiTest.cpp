@@ -12,12 +12,11 @@ using Nastaveni::GetSetting;
 
 namespace {
 
-class Moznosti_ : public DomovTest {
+class Moznosti_ : public NastavenyDomov {
 protected:
     void SetUp() override
     {
-        DomovTest::SetUp();
-        Nastaveni::ZapisVychoziNastaveni(0, 0, 1, 1);
+        NastavenyDomov::SetUp();
         QLocale::setDefault(QLocale(QLocale::Czech, QLocale::Czechia));
     }
     void TearDown() override
@@ -25,16 +24,7 @@ protected:
         QLocale::setDefault(QLocale::c());
         DomovTest::TearDown();
     }
-    static QString odmitnuti(const Moznosti::Hodnoty& h)
-    {
-        try {
-            Moznosti::uloz(h);
-        } catch (const Error& e) {
-            EXPECT_EQ(e.cislo(), Chyba::NeplatnyVstup);
-            return e.text();
-        }
-        return QString();
-    }
+    static QString odmitnuti(const Moznosti::Hodnoty& h) { return textChyby([&] { Moznosti::uloz(h); }); }
 };
 
 } // namespace

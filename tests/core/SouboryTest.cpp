@@ -9,16 +9,6 @@
 #include <QFile>
 #include <cerrno>
 
-namespace {
-
-QByteArray precti(const QString& cesta)
-{
-    QFile f(cesta);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
-
-} // namespace
-
 TEST(Chyba, CisloProErrno)
 {
     EXPECT_EQ(Chyba::cisloProErrno(ENOSPC), Chyba::DiskPlny);
@@ -36,12 +26,12 @@ TEST_F(CelySoubor, NahrazujeVcelkuAPriPoruseNechavaStary)
     const QString cil = QDir(domov()).filePath(QStringLiteral("výstup.bin"));
     Soubory::zapis(cil, QByteArray("starý"));
     Soubory::zapis(cil, QByteArray("nový obsah"));
-    EXPECT_EQ(precti(cil), QByteArray("nový obsah"));
+    EXPECT_EQ(obsahSouboru(cil), QByteArray("nový obsah"));
 
     ocekavejPoruchySouboru(cil, [&] { Soubory::zapis(cil, QByteArray(100000, 'x')); });
     ocekavejPoruchySouboru(cil, [&] { Soubory::zapis(cil, [](QIODevice& d) { return d.write("z", 1) == 1; }); });
     EXPECT_EQ(cisloChyby([&] { Soubory::zapis(cil, [](QIODevice&) { return false; }); }), Chyba::PristupKSouboru);
-    EXPECT_EQ(precti(cil), QByteArray("nový obsah"));
+    EXPECT_EQ(obsahSouboru(cil), QByteArray("nový obsah"));
 
     // a folder that is not there
     EXPECT_EQ(cisloChyby([&] { Soubory::zapis(QDir(domov()).filePath(QStringLiteral("není/x")), QByteArray("a")); }),

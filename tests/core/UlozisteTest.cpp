@@ -146,11 +146,7 @@ TEST_F(Uloziste_, CiziNeboNovejsiSouborJeOdmitnut)
     uloziste();
     zavri();
     const QString cizi = domov() + QStringLiteral("/cizi.db");
-    {
-        QFile f(cizi);
-        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-        f.write("toto neni databaze, jen text, ktery je dost dlouhy na hlavicku souboru........");
-    }
+    zapisSoubor(cizi, "toto neni databaze, jen text, ktery je dost dlouhy na hlavicku souboru........");
     EXPECT_EQ(cisloChyby([&] { Database d(cizi); d.hodnota(QStringLiteral("SELECT 1")); }), Chyba::TabulkaChybi);
     EXPECT_EQ(cisloChyby([&] { Database d(domov() + QStringLiteral("/chybi.db")); }), Chyba::PristupKSouboru);
     {
@@ -175,10 +171,8 @@ TEST_F(Uloziste_, PracovniKopieMaDataAZbytekPoPaduZmizi)
     // the store, a start removes nothing, so a live process never loses its plan copy.
     const QStringList ciziSoubory = {QStringLiteral("Data/DataK-p99-beef.db"), QStringLiteral("Data/DataK-p99-beef.db-journal"),
                                      QStringLiteral("Data/DataK.db"), QStringLiteral("Data/DataS.db.tmp-zaloha-p99-beef-1234")};
-    for (const QString& s : ciziSoubory) {
-        QFile f(Aplikace::cesta(s));
-        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-    }
+    for (const QString& s : ciziSoubory)
+        zapisSoubor(Aplikace::cesta(s), {});
     {
         Uloziste druhy(false);
         EXPECT_TRUE(QFile::exists(Aplikace::dataK()));

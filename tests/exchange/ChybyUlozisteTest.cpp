@@ -9,40 +9,24 @@
 #include <QFile>
 #include <sqlite3.h>
 
-namespace {
-
 using ChybyUloziste = DomovTest;
-
-// The error f throws; fails the test when it throws none.
-Error chyba(const std::function<void()>& f)
-{
-    try {
-        f();
-    } catch (const Error& e) {
-        return e;
-    }
-    ADD_FAILURE() << "no error";
-    return Error(0, QString());
-}
-
-} // namespace
 
 TEST_F(ChybyUloziste, PlnyChranenyADrzenyDiskCeskyAPravouPricinou)
 {
     SelhavajiciVfs vfs;
     Uloziste& u = uloziste();
     vfs.selhej(QStringLiteral("DataS.db"), SelhavajiciVfs::Porucha::DiskPlny);
-    Error e = chyba([&] { ZakazkaJson::nacti(u.dataS(), demoJson()); });
+    Error e = chybaZ([&] { ZakazkaJson::nacti(u.dataS(), demoJson()); });
     EXPECT_EQ(e.text(), QStringLiteral("Na disku není dostatek místa!!!"));
     EXPECT_FALSE(e.podrobnosti().isEmpty());
 
     vfs.selhej(QStringLiteral("DataS.db"), SelhavajiciVfs::Porucha::JenProCteni);
-    e = chyba([&] { ZakazkaJson::nacti(u.dataS(), demoJson()); });
+    e = chybaZ([&] { ZakazkaJson::nacti(u.dataS(), demoJson()); });
     EXPECT_EQ(e.text(), QStringLiteral("Disk je chráněn proti zápisu!!!"));
 
     // a plan copy that does not fit on the disk is no store "used by another program"
     vfs.selhej(QStringLiteral("DataK"), SelhavajiciVfs::Porucha::DiskPlny);
-    e = chyba([&] { u.ObnovPracovniDatabazi(); });
+    e = chybaZ([&] { u.ObnovPracovniDatabazi(); });
     EXPECT_EQ(ZpravaChyby::pracovniDatabaze(e), QStringLiteral("Na disku není dostatek místa!!!"));
     EXPECT_FALSE(e.text().contains(QStringLiteral("VACUUM")));
     vfs.oprav();
@@ -51,7 +35,7 @@ TEST_F(ChybyUloziste, PlnyChranenyADrzenyDiskCeskyAPravouPricinou)
     sqlite3* cizi = nullptr;
     ASSERT_EQ(sqlite3_open(QFile::encodeName(u.dataS().soubor()).constData(), &cizi), SQLITE_OK);
     ASSERT_EQ(sqlite3_exec(cizi, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr), SQLITE_OK);
-    e = chyba([&] { ZakazkaJson::nacti(u.dataS(), demoJson()); });
+    e = chybaZ([&] { ZakazkaJson::nacti(u.dataS(), demoJson()); });
     EXPECT_EQ(e.cislo(), Chyba::DatabazePouzivana);
     EXPECT_EQ(e.text(), QStringLiteral("Databáze programu je používána jiným programem!\rUkončete toto používání!!!"));
     EXPECT_TRUE(e.podrobnosti().contains(QStringLiteral("locked"))) << e.podrobnosti().toStdString();

@@ -29,12 +29,11 @@ QJsonArray desky(Database& db, const QString& sestava = QStringLiteral("S"))
 
 } // namespace
 
-class ImportTest : public DomovTest {
+class ImportTest : public NastavenyDomov {
 protected:
     void SetUp() override
     {
-        DomovTest::SetUp();
-        Nastaveni::ZapisVychoziNastaveni(0, 0, 1, 1);
+        NastavenyDomov::SetUp();
         ZakazkaJson::nacti(db(), R"({"zakazka": "Z", "formaty": [{"id": 5000001, "material": "DTD", "x": 2800, "y": 2070}],
                                      "sestavy": [{"nazev": "S"}, {"nazev": "T0"}, {"nazev": "T1"}, {"nazev": "T2"}, {"nazev": "T3"}]})");
     }

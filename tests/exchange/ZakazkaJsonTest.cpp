@@ -13,39 +13,25 @@
 
 namespace {
 
-QByteArray demo()
-{
-    return demoJson();
-}
-
 int radku(Database& db, const char* tabulka)
 {
     return db.hodnota(QStringLiteral("SELECT count(*) FROM ") + QLatin1String(tabulka)).toInt();
 }
 
-QString chyba(const std::function<void()>& f)
-{
-    try {
-        f();
-    } catch (const Error& e) {
-        EXPECT_EQ(e.cislo(), Chyba::NeplatnyVstup);
-        return e.text();
-    }
-    return QString();
-}
-
 } // namespace
 
-class ZakazkaJsonTest : public DomovTest {};
+class ZakazkaJsonTest : public DomovTest {
+protected:
+    Database& db() { return uloziste().dataS(); }
+};
 
 TEST_F(ZakazkaJsonTest, DemoSeNacteAVypiseStejne)
 {
-    Database& db = uloziste().dataS();
-    EXPECT_EQ(ZakazkaJson::nacti(db, demo()), QStringLiteral("Kuchyně Novák"));
-    EXPECT_EQ(ZakazkaJson::vypis(db, QStringLiteral("Kuchyně Novák")), QJsonDocument::fromJson(demo()).object());
-    EXPECT_EQ(radku(db, "ZakazkyMaterialy"), 3);
+    EXPECT_EQ(ZakazkaJson::nacti(db(), demoJson()), QStringLiteral("Kuchyně Novák"));
+    EXPECT_EQ(ZakazkaJson::vypis(db(), QStringLiteral("Kuchyně Novák")), QJsonDocument::fromJson(demoJson()).object());
+    EXPECT_EQ(radku(db(), "ZakazkyMaterialy"), 3);
     // every board and accessory is one row; the first row carries the order's header fields
-    Recordset rs(db, QStringLiteral("SELECT * FROM Zakazky WHERE Sestava = 'Dřez80' ORDER BY cas"));
+    Recordset rs(db(), QStringLiteral("SELECT * FROM Zakazky WHERE Sestava = 'Dřez80' ORDER BY cas"));
     EXPECT_EQ(rs.recordCount(), 7);
     EXPECT_EQ(rs.text(QStringLiteral("Oznaceni")), QStringLiteral("bok"));
     EXPECT_EQ(rs.cislo(QStringLiteral("IDFormat")), 5000001);
@@ -59,46 +45,43 @@ TEST_F(ZakazkaJsonTest, DemoSeNacteAVypiseStejne)
 
 TEST_F(ZakazkaJsonTest, HlavickoveRadkyZakazkyASestavyBezPolozek)
 {
-    Database& db = uloziste().dataS();
     const QByteArray prazdna = R"({"zakazka": "Prázdná", "poznamka": "", "formaty": [], "hrany": [], "sestavy": []})";
-    ZakazkaJson::nacti(db, prazdna);
-    Recordset z(db, QStringLiteral("SELECT * FROM Zakazky WHERE Zakazka = 'prázdná'"));
+    ZakazkaJson::nacti(db(), prazdna);
+    Recordset z(db(), QStringLiteral("SELECT * FROM Zakazky WHERE Zakazka = 'prázdná'"));
     ASSERT_EQ(z.recordCount(), 1);
     EXPECT_EQ(z.text(QStringLiteral("Sestava")), QString());
     EXPECT_EQ(z.text(QStringLiteral("Oznaceni")), QString());
     EXPECT_TRUE(z.value(QStringLiteral("IDFormat")).isNull());
     // "" rather than NULL: the queries of the tree and the dialogs test Sestava = '' and Oznaceni = ''
-    EXPECT_EQ(db.hodnota(QStringLiteral("SELECT count(*) FROM Zakazky WHERE Sestava = '' and Oznaceni = ''")).toInt(), 1);
+    EXPECT_EQ(db().hodnota(QStringLiteral("SELECT count(*) FROM Zakazky WHERE Sestava = '' and Oznaceni = ''")).toInt(), 1);
 
     const QByteArray sestava = R"({"zakazka": "S", "poznamka": "", "formaty": [], "hrany": [],
         "sestavy": [{"nazev": "Skříň", "popis": "p", "pocet": 2, "schema": 0, "desky": [], "prislusenstvi": []}]})";
-    ZakazkaJson::nacti(db, sestava);
-    Recordset s(db, QStringLiteral("SELECT * FROM Zakazky WHERE Zakazka = 'S'"));
+    ZakazkaJson::nacti(db(), sestava);
+    Recordset s(db(), QStringLiteral("SELECT * FROM Zakazky WHERE Zakazka = 'S'"));
     ASSERT_EQ(s.recordCount(), 1);
     EXPECT_EQ(s.text(QStringLiteral("Sestava")), QStringLiteral("Skříň"));
     EXPECT_EQ(s.cislo(QStringLiteral("pocetelementuVsestave")), 2);
     EXPECT_EQ(s.text(QStringLiteral("popis")), QStringLiteral("p"));
     EXPECT_EQ(s.value(QStringLiteral("Oznaceni")), QVariant(QStringLiteral("")));
-    EXPECT_EQ(ZakazkaJson::vypis(db, QStringLiteral("S")), QJsonDocument::fromJson(sestava).object());
-    EXPECT_EQ(ZakazkaJson::seznam(db), QStringList({"Prázdná", "S"}));
+    EXPECT_EQ(ZakazkaJson::vypis(db(), QStringLiteral("S")), QJsonDocument::fromJson(sestava).object());
+    EXPECT_EQ(ZakazkaJson::seznam(db()), QStringList({"Prázdná", "S"}));
 }
 
 TEST_F(ZakazkaJsonTest, ApostrofACeskaPismenaVNazvech)
 {
-    Database& db = uloziste().dataS();
-    QByteArray json = demo();
+    QByteArray json = demoJson();
     json.replace("Kuchyně Novák", "Novák's kuchyň");
     json.replace("\"bok\"", "\"bok 'L'\"");
-    ZakazkaJson::nacti(db, json);
-    EXPECT_EQ(ZakazkaJson::vypis(db, QStringLiteral("Novák's kuchyň")), QJsonDocument::fromJson(json).object());
+    ZakazkaJson::nacti(db(), json);
+    EXPECT_EQ(ZakazkaJson::vypis(db(), QStringLiteral("Novák's kuchyň")), QJsonDocument::fromJson(json).object());
 }
 
 TEST_F(ZakazkaJsonTest, ChybejiciCisloMaterialuDostaneRazitko)
 {
-    Database& db = uloziste().dataS();
-    ZakazkaJson::nacti(db, R"({"zakazka": "R", "formaty": [{"material": "A", "x": 100, "y": 100},
+    ZakazkaJson::nacti(db(), R"({"zakazka": "R", "formaty": [{"material": "A", "x": 100, "y": 100},
                                                      {"material": "B", "x": 100, "y": 100}]})");
-    Recordset rs(db, QStringLiteral("ZakazkyMaterialy"));
+    Recordset rs(db(), QStringLiteral("ZakazkyMaterialy"));
     const double stamp = 46086.0 * 86400 + 10 * 3600; // 2026-03-05 10:00 of the test clock
     EXPECT_EQ(rs.cislo(QStringLiteral("ID")), stamp);
     rs.moveNext();
@@ -107,33 +90,32 @@ TEST_F(ZakazkaJsonTest, ChybejiciCisloMaterialuDostaneRazitko)
 
 TEST_F(ZakazkaJsonTest, RadkyNesouPoleJakoZDialogu)
 {
-    Database& db = uloziste().dataS();
-    ZakazkaJson::nacti(db, demo());
+    ZakazkaJson::nacti(db(), demoJson());
     // one datum and one note on every row; cas rises in list order, boards before accessories
-    EXPECT_EQ(db.hodnota(QStringLiteral("SELECT count(DISTINCT datum) FROM Zakazky")).toInt(), 1);
-    EXPECT_EQ(db.hodnota(QStringLiteral("SELECT count(*) FROM Zakazky WHERE Poznamka <> 'Kuchyňská linka 2,4 m, bílá, úchytky nerez'")).toInt(), 0);
+    EXPECT_EQ(db().hodnota(QStringLiteral("SELECT count(DISTINCT datum) FROM Zakazky")).toInt(), 1);
+    EXPECT_EQ(db().hodnota(QStringLiteral("SELECT count(*) FROM Zakazky WHERE Poznamka <> 'Kuchyňská linka 2,4 m, bílá, úchytky nerez'")).toInt(), 0);
     std::vector<double> casy;
     QStringList poradi;
-    for (Recordset rs(db, QStringLiteral("Zakazky")); !rs.eof(); rs.moveNext()) {
+    for (Recordset rs(db(), QStringLiteral("Zakazky")); !rs.eof(); rs.moveNext()) {
         casy.push_back(rs.cislo(QStringLiteral("cas")));
         poradi << rs.text(QStringLiteral("Sestava")) + QLatin1Char('/') + rs.text(QStringLiteral("Oznaceni"));
     }
     EXPECT_TRUE(std::is_sorted(casy.begin(), casy.end()) && std::adjacent_find(casy.begin(), casy.end()) == casy.end());
     QStringList ocekavane;
-    for (const QJsonValue& sestava : QJsonDocument::fromJson(demo())["sestavy"].toArray())
+    for (const QJsonValue& sestava : QJsonDocument::fromJson(demoJson())["sestavy"].toArray())
         for (const char* seznam : {"desky", "prislusenstvi"})
             for (const QJsonValue& p : sestava[seznam].toArray())
                 ocekavane << sestava["nazev"].toString() + QLatin1Char('/') + p["oznaceni"].toString();
     EXPECT_EQ(poradi, ocekavane);
     // a board leaves the accessory's fields unset and the other way round
-    Recordset deska(db, QStringLiteral("SELECT * FROM Zakazky WHERE IDFormat > 1"));
+    Recordset deska(db(), QStringLiteral("SELECT * FROM Zakazky WHERE IDFormat > 1"));
     EXPECT_TRUE(deska.value(QStringLiteral("Cena")).isNull());
     EXPECT_TRUE(deska.value(QStringLiteral("jednotka")).isNull());
-    Recordset prislusenstvi(db, QStringLiteral("SELECT * FROM Zakazky WHERE IDFormat = 1"));
+    Recordset prislusenstvi(db(), QStringLiteral("SELECT * FROM Zakazky WHERE IDFormat = 1"));
     EXPECT_TRUE(prislusenstvi.value(QStringLiteral("x")).isNull());
     EXPECT_TRUE(prislusenstvi.value(QStringLiteral("IDHX1")).isNull());
     EXPECT_EQ(prislusenstvi.cislo(QStringLiteral("OV")), 0);
-    Recordset material(db, QStringLiteral("SELECT * FROM ZakazkyMaterialy WHERE Pouziti = 'hrana'"));
+    Recordset material(db(), QStringLiteral("SELECT * FROM ZakazkyMaterialy WHERE Pouziti = 'hrana'"));
     EXPECT_TRUE(material.value(QStringLiteral("RozmerX")).isNull());
     EXPECT_EQ(material.cislo(QStringLiteral("BarvaVNP")), 255);
 }
@@ -144,27 +126,23 @@ TEST_F(ZakazkaJsonTest, KazdaZakazkaLavicesSeVratiStejna)
     const QStringList soubory = slozka.entryList({QStringLiteral("*.json")}, QDir::Files, QDir::Name);
     if (soubory.isEmpty())
         GTEST_SKIP() << "složka s objednávkami lavice chybí";
-    Database& db = uloziste().dataS();
     for (const QString& s : soubory) {
-        QFile f(slozka.filePath(s));
-        ASSERT_TRUE(f.open(QIODevice::ReadOnly));
-        const QJsonObject o = QJsonDocument::fromJson(f.readAll()).object();
-        const QString nazev = ZakazkaJson::nacti(db, QJsonDocument(o).toJson());
-        EXPECT_EQ(ZakazkaJson::vypis(db, nazev), o) << s.toStdString();
+        const QJsonObject o = QJsonDocument::fromJson(obsahSouboru(slozka.filePath(s))).object();
+        const QString nazev = ZakazkaJson::nacti(db(), QJsonDocument(o).toJson());
+        EXPECT_EQ(ZakazkaJson::vypis(db(), nazev), o) << s.toStdString();
     }
 }
 
 TEST_F(ZakazkaJsonTest, TextyZustavajiJakStojiABezejmennaDeskaDostaneJmeno)
 {
-    Database& db = uloziste().dataS();
-    ZakazkaJson::nacti(db, R"({"zakazka": " Mezery ", "poznamka": "dvě\nřádky ", "formaty": [{"id": 9, "material": "m", "x": 900, "y": 900}],
+    ZakazkaJson::nacti(db(), R"({"zakazka": " Mezery ", "poznamka": "dvě\nřádky ", "formaty": [{"id": 9, "material": "m", "x": 900, "y": 900}],
         "sestavy": [{"nazev": "S", "desky": [
             {"oznaceni": "deska 1", "x": 10, "y": 10, "pocet": 1, "format": 9},
             {"oznaceni": "", "x": 20, "y": 10, "pocet": 1, "format": 9},
             {"oznaceni": "DESKA 3", "x": 30, "y": 10, "pocet": 1, "format": 9},
             {"x": 40, "y": 10, "pocet": 1, "format": 9},
             {"oznaceni": " bok ", "x": 50, "y": 10, "pocet": 1, "format": 9}]}]})");
-    const QJsonObject o = ZakazkaJson::vypis(db, QStringLiteral(" Mezery "));
+    const QJsonObject o = ZakazkaJson::vypis(db(), QStringLiteral(" Mezery "));
     EXPECT_EQ(o["zakazka"].toString(), QStringLiteral(" Mezery "));
     EXPECT_EQ(o["poznamka"].toString(), QStringLiteral("dvě\nřádky "));
     QStringList nazvy;
@@ -175,17 +153,16 @@ TEST_F(ZakazkaJsonTest, TextyZustavajiJakStojiABezejmennaDeskaDostaneJmeno)
 
 TEST_F(ZakazkaJsonTest, OdmitnutyVstupNicNezapise)
 {
-    Database& db = uloziste().dataS();
-    ZakazkaJson::nacti(db, demo());
+    ZakazkaJson::nacti(db(), demoJson());
     // a small valid order, each case spoils one thing in it
     const QByteArray zaklad = R"({"zakazka": "Jiná", "formaty": [{"id": 11, "material": "DTD", "x": 2800, "y": 2070, "ov": false}],
         "hrany": [{"id": 21, "material": "ABS"}, {"id": 22, "material": "ABS 2"}],
         "sestavy": [{"nazev": "S", "pocet": 2, "desky": [{"oznaceni": "bok", "x": 720, "y": 560, "pocet": 2, "format": 11,
                                                           "hrany": [21, 0, 0, 0]}]}]})";
-    ZakazkaJson::vypis(db, ZakazkaJson::nacti(db, QByteArray(zaklad).replace("Jiná", "Platná")));
-    const int zakazky = radku(db, "Zakazky"), materialy = radku(db, "ZakazkyMaterialy");
+    ZakazkaJson::vypis(db(), ZakazkaJson::nacti(db(), QByteArray(zaklad).replace("Jiná", "Platná")));
+    const int zakazky = radku(db(), "Zakazky"), materialy = radku(db(), "ZakazkyMaterialy");
     auto jina = [&](const char* z, const char* na) { return QByteArray(zaklad).replace(z, na); };
-    QByteArray kopie = demo();
+    QByteArray kopie = demoJson();
     kopie.replace("Kuchyně Novák", "kuchyně NOVÁK");
     const std::pair<QByteArray, QString> pripady[] = {
         {kopie, QStringLiteral("Zakazka pod tímhle názvem již existuje, zadejte jiný nazev !!!")},
@@ -212,24 +189,23 @@ TEST_F(ZakazkaJsonTest, OdmitnutyVstupNicNezapise)
         {jina("\"sestavy\"", "\"sestava\""), QStringLiteral("Zakázka: neznámý údaj „sestava“")},
     };
     for (const auto& [json, zprava] : pripady)
-        EXPECT_TRUE(chyba([&] { ZakazkaJson::nacti(db, json); }).contains(zprava)) << zprava.toStdString();
-    EXPECT_EQ(radku(db, "Zakazky"), zakazky);
-    EXPECT_EQ(radku(db, "ZakazkyMaterialy"), materialy);
-    EXPECT_EQ(chyba([&] { ZakazkaJson::vypis(db, QStringLiteral("Neni")); }), QStringLiteral("Zakázka „Neni“ neexistuje."));
+        EXPECT_TRUE(textChyby([&] { ZakazkaJson::nacti(db(), json); }).contains(zprava)) << zprava.toStdString();
+    EXPECT_EQ(radku(db(), "Zakazky"), zakazky);
+    EXPECT_EQ(radku(db(), "ZakazkyMaterialy"), materialy);
+    EXPECT_EQ(textChyby([&] { ZakazkaJson::vypis(db(), QStringLiteral("Neni")); }), QStringLiteral("Zakázka „Neni“ neexistuje."));
 }
 
 TEST_F(ZakazkaJsonTest, OdrezkyVseNeboNic)
 {
-    Database& db = uloziste().dataS();
-    EXPECT_EQ(SkladJson::nacti(db, R"([{"material": "DTD", "x": 500, "y": 300, "pocet": 2}])"), 1);
-    EXPECT_TRUE(chyba([&] {
-        SkladJson::nacti(db, R"([{"material": "DTD", "x": 500, "y": 300, "pocet": 1}, {"material": "", "x": 1, "y": 1, "pocet": 1}])");
+    EXPECT_EQ(SkladJson::nacti(db(), R"([{"material": "DTD", "x": 500, "y": 300, "pocet": 2}])"), 1);
+    EXPECT_TRUE(textChyby([&] {
+        SkladJson::nacti(db(), R"([{"material": "DTD", "x": 500, "y": 300, "pocet": 1}, {"material": "", "x": 1, "y": 1, "pocet": 1}])");
     }).contains(QStringLiteral("Odřezek č. 2")));
-    EXPECT_TRUE(chyba([&] { SkladJson::nacti(db, R"([{"material": "DTD", "x": 500, "y": 300, "ks": 1}])"); })
+    EXPECT_TRUE(textChyby([&] { SkladJson::nacti(db(), R"([{"material": "DTD", "x": 500, "y": 300, "ks": 1}])"); })
                     .contains(QStringLiteral("neznámý údaj „ks“")));
-    EXPECT_TRUE(chyba([&] { SkladJson::nacti(db, R"({"material": "DTD"})"); }).contains(QStringLiteral("seznam odřezků")));
-    EXPECT_EQ(radku(db, "SkladOdrezku"), 1);
-    Recordset rs(db, QStringLiteral("SkladOdrezku"));
+    EXPECT_TRUE(textChyby([&] { SkladJson::nacti(db(), R"({"material": "DTD"})"); }).contains(QStringLiteral("seznam odřezků")));
+    EXPECT_EQ(radku(db(), "SkladOdrezku"), 1);
+    Recordset rs(db(), QStringLiteral("SkladOdrezku"));
     EXPECT_EQ(rs.text(QStringLiteral("Material")), QStringLiteral("DTD"));
     EXPECT_EQ(rs.cislo(QStringLiteral("x")), 500);
     EXPECT_EQ(rs.cislo(QStringLiteral("Pocet")), 2);

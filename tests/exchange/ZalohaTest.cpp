@@ -21,21 +21,9 @@
 
 namespace {
 
-QByteArray demo()
-{
-    return demoJson();
-}
-
 QStringList slozkaDat()
 {
     return QDir(Aplikace::cesta(QStringLiteral("Data"))).entryList(QDir::Files | QDir::Hidden, QDir::Name);
-}
-
-void zapis(const QString& cesta, const QByteArray& obsah)
-{
-    QFile f(cesta);
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    f.write(obsah);
 }
 
 // Answers Yes to whatever is asked, however far a failing step lets the restore get.
@@ -57,13 +45,13 @@ protected:
 TEST_F(ZalohaTest, ZalohaZmenaObnovaVratiVseJakBylo)
 {
     Uloziste& u = uloziste();
-    ZakazkaJson::nacti(u.dataS(), demo());
+    ZakazkaJson::nacti(u.dataS(), demoJson());
     SkladJson::nacti(u.dataS(), R"([{"material": "DTD bílá 18", "x": 600, "y": 400, "pocet": 1}])");
     const QJsonObject pred = ZakazkaJson::vypis(u.dataS(), QStringLiteral("Kuchyně Novák"));
     Zaloha::zalohuj(u, Schema::Soubor::Data, zaloha());
     EXPECT_NO_THROW(Zaloha::zkontroluj(zaloha(), Schema::Soubor::Data));
 
-    QByteArray druha = demo();
+    QByteArray druha = demoJson();
     ZakazkaJson::nacti(u.dataS(), druha.replace("Kuchyně Novák", "Druhá"));
     u.dataS().execute(QStringLiteral("DELETE * FROM SkladOdrezku"));
     SkriptovanyPrompt prompt;
@@ -82,19 +70,17 @@ TEST_F(ZalohaTest, ZalohaZmenaObnovaVratiVseJakBylo)
 TEST_F(ZalohaTest, NeplatnySouborJeOdmitnutANicSeNezmeni)
 {
     Uloziste& u = uloziste();
-    ZakazkaJson::nacti(u.dataS(), demo());
+    ZakazkaJson::nacti(u.dataS(), demoJson());
     const QString cenik = domov() + QStringLiteral("/c.cen");
     Zaloha::zalohuj(u, Schema::Soubor::Cenik, cenik);
     Zaloha::zalohuj(u, Schema::Soubor::Data, zaloha());
-    QFile dobra(zaloha());
-    dobra.open(QIODevice::ReadOnly);
-    const QByteArray obsah = dobra.readAll();
+    const QByteArray obsah = obsahSouboru(zaloha());
 
     const QString spatna = domov() + QStringLiteral("/spatna.bvk");
     const std::vector<QByteArray> pripady = {QByteArray(), QByteArray("SQLite format 3\0 a pak nic", 26),
-                                             obsah.left(obsah.size() / 2), demo()};
+                                             obsah.left(obsah.size() / 2), demoJson()};
     for (const QByteArray& p : pripady) {
-        zapis(spatna, p);
+        zapisSoubor(spatna, p);
         SkriptovanyPrompt prompt; // asks nothing
         EXPECT_EQ(cisloChyby([&] { Zaloha::obnov(u, Schema::Soubor::Data, spatna, prompt); }), Chyba::TabulkaChybi);
     }
@@ -116,7 +102,7 @@ TEST_F(ZalohaTest, OdpovedNeNeboDrzeneUlozisteNicNezmeni)
 {
     Uloziste& u = uloziste();
     Zaloha::zalohuj(u, Schema::Soubor::Data, zaloha());
-    ZakazkaJson::nacti(u.dataS(), demo());
+    ZakazkaJson::nacti(u.dataS(), demoJson());
     SkriptovanyPrompt ne;
     ne.odpovez(Prompt::Odpoved::Ne);
     EXPECT_FALSE(Zaloha::obnov(u, Schema::Soubor::Data, zaloha(), ne));
@@ -136,13 +122,10 @@ TEST_F(ZalohaTest, PlnyNeboChranenyDiskNechaDataIStarouZalohu)
 {
     SelhavajiciVfs vfs;
     Uloziste& u = uloziste();
-    ZakazkaJson::nacti(u.dataS(), demo());
+    ZakazkaJson::nacti(u.dataS(), demoJson());
     Zaloha::zalohuj(u, Schema::Soubor::Data, zaloha());
-    QFile f(zaloha());
-    f.open(QIODevice::ReadOnly);
-    const QByteArray stara = f.readAll();
-    f.close();
-    QByteArray druha = demo();
+    const QByteArray stara = obsahSouboru(zaloha());
+    QByteArray druha = demoJson();
     ZakazkaJson::nacti(u.dataS(), druha.replace("Kuchyně Novák", "Druhá"));
 
     for (auto porucha : {SelhavajiciVfs::Porucha::DiskPlny, SelhavajiciVfs::Porucha::JenProCteni}) {
@@ -150,9 +133,7 @@ TEST_F(ZalohaTest, PlnyNeboChranenyDiskNechaDataIStarouZalohu)
         const int cislo = cisloChyby([&] { Zaloha::zalohuj(u, Schema::Soubor::Data, zaloha()); });
         EXPECT_EQ(cislo, porucha == SelhavajiciVfs::Porucha::DiskPlny ? Chyba::DiskPlny : Chyba::JenProCteni);
         EXPECT_EQ(Zaloha::zpravaZalohy(Error(cislo, QString())).titulek, QStringLiteral("Chyba zápisu"));
-        f.open(QIODevice::ReadOnly);
-        EXPECT_EQ(f.readAll(), stara);
-        f.close();
+        EXPECT_EQ(obsahSouboru(zaloha()), stara);
         EXPECT_EQ(QDir(domov() + QStringLiteral("/Zálohy dat")).entryList(QDir::Files).size(), 1);
     }
     // a restore whose safety copy cannot be written changes nothing either
@@ -171,9 +152,9 @@ TEST_F(ZalohaTest, PlnyNeboChranenyDiskNechaDataIStarouZalohu)
 TEST_F(ZalohaTest, KazdyKrokZalohyIObnovySelzeBezSkody)
 {
     Uloziste& u = uloziste();
-    ZakazkaJson::nacti(u.dataS(), demo());
+    ZakazkaJson::nacti(u.dataS(), demoJson());
     Zaloha::zalohuj(u, Schema::Soubor::Data, zaloha());
-    QByteArray druha = demo();
+    QByteArray druha = demoJson();
     ZakazkaJson::nacti(u.dataS(), druha.replace("Kuchyně Novák", "Druhá"));
     const QStringList data = {"Kuchyně Novák", "Druhá"};
 

@@ -6,7 +6,9 @@
 #include "optimiser/PlanRun.h"
 
 #include <QJsonArray>
+#include <QJsonDocument>
 #include <QJsonObject>
+#include <ostream>
 
 struct DeskaTest {
     QString oznaceni;
@@ -16,6 +18,26 @@ struct DeskaTest {
     QString sestava = QStringLiteral("S1");
     int kusuSestavy = 1;
 };
+
+// Row i of a working table in the output of PlanTest::spust; the named fields of a row, to
+// compare in one go.
+inline QJsonObject radek(const QJsonObject& plan, const char* tabulka, int i)
+{
+    return plan.value(QLatin1String(tabulka)).toArray().at(i).toObject();
+}
+inline QJsonObject pole(const QJsonObject& radek, const QStringList& klice)
+{
+    QJsonObject v;
+    for (const QString& k : klice)
+        v.insert(k, radek.value(k));
+    return v;
+}
+
+// A failed comparison of rows shows them as JSON.
+inline void PrintTo(const QJsonObject& o, std::ostream* os)
+{
+    *os << QJsonDocument(o).toJson(QJsonDocument::Compact).toStdString();
+}
 
 class PlanTest : public DomovTest {
 protected:

@@ -13,11 +13,6 @@ struct Smer {
     const char* X(const char* rada, const char* sloupec) const { return pricne ? sloupec : rada; }
 };
 
-QJsonObject radek(const QJsonObject& plan, const char* tabulka, int i)
-{
-    return plan.value(QLatin1String(tabulka)).toArray().at(i).toObject();
-}
-
 } // namespace
 
 class RadySloupceTest : public PlanTest, public ::testing::WithParamInterface<Smer> {};
@@ -38,36 +33,20 @@ TEST_P(RadySloupceTest, SchodyARezyPodleZkusebnihoUsazeni)
             {{"A", s.x(400, 300), s.y(400, 300)}, {"B", s.x(300, 200), s.y(300, 200)}});
     const QJsonObject plan = spust(s.zpusob);
 
-    const QJsonObject a = radek(plan, "SoupisDesek", 0), b = radek(plan, "SoupisDesek", 1);
-    EXPECT_EQ(a["ID"].toInt(), -1);
-    EXPECT_EQ(a["OTOC"].toInt(), 0);
-    EXPECT_EQ(a["XD"].toDouble(), 0);
-    EXPECT_EQ(a["YD"].toDouble(), 0);
-    EXPECT_EQ(a[s.X("PlochaKZ", "PlochaKZSLOUPEC")].toDouble(), 4000);
-    EXPECT_EQ(a[s.X("SumaKZ", "SumaKZSloupec")].toDouble(), 32e6);
-    EXPECT_EQ(a[s.X("PlochaKZBOV", "PlochaKZBOVSLOUPEC")].toDouble(), 5500);
-    EXPECT_EQ(b[s.X("PlochaKZ", "PlochaKZSLOUPEC")].toDouble(), 7000);
-    EXPECT_EQ(b[s.X("SumaKZ", "SumaKZSloupec")].toDouble(), 44e6);
-    EXPECT_EQ(b[s.X("PlochaKZBOV", "PlochaKZBOVSLOUPEC")].toDouble(), 4000);
-    EXPECT_EQ(b["OTOC"].toInt(), -1);
-    EXPECT_EQ(b["XD"].toDouble(), s.x(4000, 0));
-    EXPECT_EQ(b["YD"].toDouble(), s.y(4000, 0));
-    EXPECT_EQ(b["tabule"].toInt(), 1);
+    const QString plocha = QLatin1String(s.X("PlochaKZ", "PlochaKZSLOUPEC")), suma = QLatin1String(s.X("SumaKZ", "SumaKZSloupec")),
+                  bov = QLatin1String(s.X("PlochaKZBOV", "PlochaKZBOVSLOUPEC"));
+    EXPECT_EQ(pole(radek(plan, "SoupisDesek", 0), {"ID", "OTOC", "XD", "YD", plocha, suma, bov}),
+              (QJsonObject{{"ID", -1}, {"OTOC", 0}, {"XD", 0}, {"YD", 0}, {plocha, 4000}, {suma, 32e6}, {bov, 5500}}));
+    EXPECT_EQ(pole(radek(plan, "SoupisDesek", 1), {"OTOC", "XD", "YD", "tabule", plocha, suma, bov}),
+              (QJsonObject{{"OTOC", -1}, {"XD", s.x(4000, 0)}, {"YD", s.y(4000, 0)}, {"tabule", 1}, {plocha, 7000},
+                           {suma, 44e6}, {bov, 4000}}));
 
     ASSERT_EQ(plan["SoupisZbytku"].toArray().size(), 2);
-    const QJsonObject zt = radek(plan, "SoupisZbytku", 0), kz = radek(plan, "SoupisZbytku", 1);
-    EXPECT_EQ(zt["Oznaceni"].toString(), QStringLiteral("ZT"));
-    EXPECT_EQ(zt["ID"].toInt(), -1);
-    EXPECT_EQ(zt["XZP"].toDouble(), s.x(10000, 2000));
-    EXPECT_EQ(zt["YZP"].toDouble(), s.y(10000, 2000));
-    EXPECT_EQ(zt["XDP"].toDouble(), s.x(0, 3000));
-    EXPECT_EQ(zt["YDP"].toDouble(), s.y(0, 3000));
-    EXPECT_EQ(kz["Oznaceni"].toString(), QStringLiteral("KZ"));
-    EXPECT_EQ(kz["Rada"].toInt(), 1);
-    EXPECT_EQ(kz["cislo"].toInt(), 1);
-    EXPECT_EQ(kz["CT"].toInt(), 1);
-    EXPECT_EQ(kz["XZP"].toDouble(), s.x(4000, 3000));
-    EXPECT_EQ(kz["XDP"].toDouble(), s.x(6000, 0));
+    EXPECT_EQ(pole(radek(plan, "SoupisZbytku", 0), {"Oznaceni", "ID", "XZP", "YZP", "XDP", "YDP"}),
+              (QJsonObject{{"Oznaceni", "ZT"}, {"ID", -1}, {"XZP", s.x(10000, 2000)}, {"YZP", s.y(10000, 2000)},
+                           {"XDP", s.x(0, 3000)}, {"YDP", s.y(0, 3000)}}));
+    EXPECT_EQ(pole(radek(plan, "SoupisZbytku", 1), {"Oznaceni", "Rada", "cislo", "CT", "XZP", "XDP"}),
+              (QJsonObject{{"Oznaceni", "KZ"}, {"Rada", 1}, {"cislo", 1}, {"CT", 1}, {"XZP", s.x(4000, 3000)}, {"XDP", s.x(6000, 0)}}));
     EXPECT_EQ(plan["RezyNaTabuli"].toObject(), QJsonObject({{"1", 3}}));
     EXPECT_EQ(plan["SoupisTabuli"].toArray().size(), 1);
     EXPECT_FALSE(plan["warning"].toBool());
@@ -80,10 +59,7 @@ TEST_P(RadySloupceTest, DeskaVelikostiTabulePoSamovani)
     const Smer s = GetParam();
     zakazka(s.x(1000, 500), s.y(1000, 500), false, {{"cela", s.x(996, 496), s.y(996, 496)}});
     const QJsonObject plan = spust(s.zpusob);
-    const QJsonObject d = radek(plan, "SoupisDesek", 0);
-    EXPECT_EQ(d["ID"].toInt(), -1);
-    EXPECT_EQ(d["XD"].toDouble(), 40);
-    EXPECT_EQ(d["YD"].toDouble(), 40);
+    EXPECT_EQ(pole(radek(plan, "SoupisDesek", 0), {"ID", "XD", "YD"}), (QJsonObject{{"ID", -1}, {"XD", 40}, {"YD", 40}}));
     EXPECT_TRUE(plan["SoupisZbytku"].toArray().isEmpty());
     EXPECT_EQ(plan["RezyNaTabuli"].toObject(), QJsonObject({{"1", 1}}));
 }
@@ -101,11 +77,8 @@ TEST_P(RadySloupceTest, PrvniDeskaPresCelouSirku)
     EXPECT_EQ(radek(plan, "SoupisDesek", 1)["XD"].toDouble(), s.x(0, 2000));
     EXPECT_EQ(radek(plan, "SoupisDesek", 1)["YD"].toDouble(), s.y(0, 2000));
     ASSERT_EQ(plan["SoupisZbytku"].toArray().size(), 1);
-    const QJsonObject zt = radek(plan, "SoupisZbytku", 0);
-    EXPECT_EQ(zt["XZP"].toDouble(), s.x(10000, 1000));
-    EXPECT_EQ(zt["YZP"].toDouble(), s.y(10000, 1000));
-    EXPECT_EQ(zt["YDP"].toDouble(), s.y(0, 4000));
-    EXPECT_EQ(zt["ID"].toInt(), 0);
+    EXPECT_EQ(pole(radek(plan, "SoupisZbytku", 0), {"XZP", "YZP", "YDP", "ID"}),
+              (QJsonObject{{"XZP", s.x(10000, 1000)}, {"YZP", s.y(10000, 1000)}, {"YDP", s.y(0, 4000)}, {"ID", 0}}));
     EXPECT_EQ(plan["RezyNaTabuli"].toObject(), QJsonObject({{"1", 5}}));
 }
 
@@ -148,16 +121,8 @@ TEST(ZrcadleniNeniPresne, OtocenyTestTabuleVeSloupcichJenProCtverec)
     };
     const QJsonObject rady = Pripad().beh(ZpusobNP::PodelneRezy);
     const QJsonObject sloupce = Pripad().beh(ZpusobNP::PricneRezy);
-    const QJsonObject r = rady["SoupisDesek"].toArray()[0].toObject();
-    const QJsonObject s = sloupce["SoupisDesek"].toArray()[0].toObject();
-    EXPECT_EQ(r["PVT"].toInt(), -1);
-    EXPECT_EQ(r["PD"].toInt(), -1);
-    EXPECT_EQ(r["PlochaKZBOV"].toDouble(), 4000);
-    EXPECT_EQ(r["SumaKZBOV"].toDouble(), 26e6);
-    EXPECT_EQ(s["PVT"].toInt(), 0);
-    EXPECT_EQ(s["PD"].toInt(), 0);
-    EXPECT_EQ(s["PlochaKZBOVSLOUPEC"].toDouble(), 1000);
-    EXPECT_EQ(s["SumaKZBOVSloupec"].toDouble(), 26e6);
-    EXPECT_EQ(r["OTOC"].toInt(), -1);
-    EXPECT_EQ(s["OTOC"].toInt(), -1);
+    EXPECT_EQ(pole(radek(rady, "SoupisDesek", 0), {"PVT", "PD", "PlochaKZBOV", "SumaKZBOV", "OTOC"}),
+              (QJsonObject{{"PVT", -1}, {"PD", -1}, {"PlochaKZBOV", 4000}, {"SumaKZBOV", 26e6}, {"OTOC", -1}}));
+    EXPECT_EQ(pole(radek(sloupce, "SoupisDesek", 0), {"PVT", "PD", "PlochaKZBOVSLOUPEC", "SumaKZBOVSloupec", "OTOC"}),
+              (QJsonObject{{"PVT", 0}, {"PD", 0}, {"PlochaKZBOVSLOUPEC", 1000}, {"SumaKZBOVSloupec", 26e6}, {"OTOC", -1}}));
 }

@@ -104,14 +104,11 @@ TEST_F(SkladACnc, VpfMalehoPlanu)
     QTemporaryDir dir;
     const QString soubor = dir.filePath(QStringLiteral("OUT00000.VPF"));
     ASSERT_TRUE(ExportCNC::zapis(uloziste().dataS(), uloziste().dataK(), PlanNaStrankach::z(run), soubor));
-    QFile f(soubor), vzor(QStringLiteral(TRUHLAR_VZORY "/maly.vpf"));
-    ASSERT_TRUE(f.open(QIODevice::ReadOnly));
-    ASSERT_TRUE(vzor.open(QIODevice::ReadOnly));
-    const QByteArray obsah = f.readAll();
+    const QByteArray obsah = obsahSouboru(soubor);
     EXPECT_TRUE(obsah.contains("Sk\xf8\xed\xf2")); // "Skříň" in Windows-1250
     const QStringList radky = QString::fromLatin1(obsah).split(QStringLiteral("\r\n"));
     QStringList ocekavane;
-    for (const QByteArray& r : vzor.readAll().split('\n'))
+    for (const QByteArray& r : obsahSouboru(QStringLiteral(TRUHLAR_VZORY "/maly.vpf")).split('\n'))
         if (!r.startsWith('#'))
             ocekavane << QString::fromLatin1(r);
     EXPECT_EQ(radky.join(QLatin1Char('\n')).toStdString(), ocekavane.join(QLatin1Char('\n')).toStdString());

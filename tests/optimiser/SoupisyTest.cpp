@@ -3,13 +3,6 @@
 
 #include "core/Recordset.h"
 
-namespace {
-QJsonObject radek(const QJsonObject& plan, const char* tabulka, int i)
-{
-    return plan.value(QLatin1String(tabulka)).toArray().at(i).toObject();
-}
-}
-
 class Soupisy : public PlanTest {};
 
 TEST_F(Soupisy, KopieDeskyNesouStejneCDeskyAFormatBezVzoruRusiOV)
@@ -18,11 +11,8 @@ TEST_F(Soupisy, KopieDeskyNesouStejneCDeskyAFormatBezVzoruRusiOV)
     const QJsonObject plan = spust(ZpusobNP::PodelneRezy);
     const QJsonArray desky = plan["SoupisDesek"].toArray();
     ASSERT_EQ(desky.size(), 7);
-    for (int i = 0; i < 6; ++i) {
-        EXPECT_EQ(desky[i].toObject()["CDesky"].toInt(), 1);
-        EXPECT_EQ(desky[i].toObject()["OV"].toInt(), 0);
-        EXPECT_EQ(desky[i].toObject()["x"].toDouble(), 7200);
-    }
+    for (int i = 0; i < 6; ++i)
+        EXPECT_EQ(pole(desky[i].toObject(), {"CDesky", "OV", "x"}), (QJsonObject{{"CDesky", 1}, {"OV", 0}, {"x", 7200}})) << i;
     EXPECT_EQ(desky[6].toObject()["CDesky"].toInt(), 2);
 }
 
@@ -47,16 +37,8 @@ TEST_F(Soupisy, OdrezkyPrvniOdNejmensihoYAPreskoceneZmiziVPrecislovani)
 TEST_F(Soupisy, PoradiOdrezkuVSoupisuTabuli)
 {
     nastav("POdrezky", "1");
-    Database& db = uloziste().dataS();
-    for (auto [x, y] : {std::pair{500.0, 300.0}, {400.0, 300.0}}) {
-        Recordset rs(db, QStringLiteral("SkladOdrezku"));
-        rs.addNew();
-        rs.set(QStringLiteral("Material"), QStringLiteral("DTD"));
-        rs.set(QStringLiteral("x"), x);
-        rs.set(QStringLiteral("y"), y);
-        rs.set(QStringLiteral("Pocet"), 1);
-        rs.update();
-    }
+    odrezek(500, 300, 1);
+    odrezek(400, 300, 1);
     zakazka(2800, 2070, false, {{"a", 350, 250}, {"b", 450, 250}});
     const QJsonObject plan = spust(ZpusobNP::PodelneRezy);
     // 400 x 300 is CT 1 and takes a; 500 x 300 is CT 2 and takes b

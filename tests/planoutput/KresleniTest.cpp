@@ -1,6 +1,7 @@
 // The drawing primitives read through what they record: where band marks stand on a board as
 // placed and as turned, which form of text a board of each shape gets, and what a remnant and
 // a label write.
+#include "CteniDokumentu.h"
 #include "DomovTest.h"
 #include "core/Nastaveni.h"
 #include "planoutput/KresleniNP.h"
@@ -8,24 +9,6 @@
 #include <gtest/gtest.h>
 
 namespace {
-
-template <class T>
-std::vector<T> operace(const Dokument& d, int strana = 1)
-{
-    std::vector<T> v;
-    for (const Operace& op : d.strana(strana).operace)
-        if (const T* t = std::get_if<T>(&op))
-            v.push_back(*t);
-    return v;
-}
-
-QStringList texty(const Dokument& d, int strana = 1)
-{
-    QStringList t;
-    for (const OpText& op : operace<OpText>(d, strana))
-        t << op.text;
-    return t;
-}
 
 class Kresleni : public DomovTest {
 protected:
@@ -128,19 +111,15 @@ TEST_F(Kresleni, TextyNepresahujiDesku)
         d.StartDoc();
         deska(r[0], r[1]);
         const QRectF deskaR = operace<OpObdelnik>(d)[0].ramec.adjusted(-1, -1, 1, 1);
-        for (const OpText& t : operace<OpText>(d)) {
-            d.pismo = t.pismo;
-            const double w = d.TextWidth(t.text), h = d.TextHeight(t.text);
-            const QRectF ramec = t.uhel == 900 ? QRectF(t.x, t.y - w, h, w) : QRectF(t.x, t.y, w, h);
-            EXPECT_TRUE(deskaR.contains(ramec)) << r[0] << " x " << r[1] << ": " << t.text.toStdString();
-        }
+        for (const OpText& t : operace<OpText>(d))
+            EXPECT_TRUE(deskaR.contains(ramecTextu(d, t))) << r[0] << " x " << r[1] << ": " << t.text.toStdString();
     }
 }
 
 TEST_F(Kresleni, OdrezekPiseJenRozmery)
 {
     EXPECT_EQ(KresliOdrezek(d, 0, 0, 0, 0, 8000, 4000, 0.25, QStringLiteral("KZ"), 0, StylNP::odrezku()), 1);
-    const QStringList t = texty(d);
+    const QStringList t = texty<OpText>(d);
     EXPECT_EQ(t, QStringList({"800 mm", "400 mm"}));
     EXPECT_FALSE(t.contains(QStringLiteral("ZZZ")));
     EXPECT_EQ(operace<OpObdelnik>(d)[0].stetec.barva, QColor(0xc0, 0xc0, 0xc0));
@@ -166,7 +145,7 @@ TEST_F(Kresleni, StitekSeZnamenimVzoru)
     const auto ramec = operace<OpObdelnik>(d)[0];
     EXPECT_TRUE(ramec.stetec.pruhledny); // the label stock stays white
     EXPECT_EQ(ramec.ramec, QRectF(500, 700, 3118, 1247));
-    EXPECT_TRUE(texty(d).contains(QStringLiteral("bok (Skříň)")));
+    EXPECT_TRUE(texty<OpText>(d).contains(QStringLiteral("bok (Skříň)")));
 }
 
 } // namespace

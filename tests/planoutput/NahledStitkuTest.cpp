@@ -28,14 +28,7 @@ Pocty spocitej(const Dokument& d)
     return p;
 }
 
-class Nahled : public DomovTest {
-protected:
-    void SetUp() override
-    {
-        DomovTest::SetUp();
-        Nastaveni::ZapisVychoziNastaveni(0, 0, 1, 1);
-    }
-};
+using Nahled = NastavenyDomov;
 
 } // namespace
 

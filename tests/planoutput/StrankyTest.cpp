@@ -1,8 +1,10 @@
 // Plan pages and labels of the demo kitchen (40 boards on 2 sheets of 2800 x 2070 mm), and
 // the saving of a document as PDF when the disk or the folder says no.
+#include "CteniDokumentu.h"
 #include "DomovTest.h"
 #include "PoruchaSouboru.h"
 #include "SkriptovanyPrompt.h"
+#include "VzorkyObrazku.h"
 #include "core/Error.h"
 #include "core/Nastaveni.h"
 #include "core/Recordset.h"
@@ -15,30 +17,12 @@
 #include "printing/UlozeniPdf.h"
 #include "printing/Vykresleni.h"
 
-#include <QBuffer>
 #include <QDir>
 #include <QFile>
 #include <gtest/gtest.h>
 #include <unistd.h>
 
 namespace {
-
-QStringList texty(const Dokument& d, int strana)
-{
-    QStringList t;
-    for (const Operace& op : d.strana(strana).operace)
-        if (const auto* text = std::get_if<OpText>(&op))
-            t << text->text;
-    return t;
-}
-
-int obdelniku(const Dokument& d, int strana)
-{
-    int n = 0;
-    for (const Operace& op : d.strana(strana).operace)
-        n += std::holds_alternative<OpObdelnik>(op);
-    return n;
-}
 
 class Stranky : public DomovTest {
 protected:
@@ -74,24 +58,24 @@ TEST_F(Stranky, JednaDveCtyriTabuleNaStranu)
     ASSERT_TRUE(StrankyNP(d, uloziste(), plan, 1));
     ASSERT_EQ(d.PageCount(), 2);
     EXPECT_TRUE(d.naSirku);
-    const QStringList prvni = texty(d, 1);
+    const QStringList prvni = texty<OpText>(d, 1);
     for (const char* popisek : {"Vzor tabule:", "Tabule:", "Rozměr tabule:", "Využití tabule [%]:", "Šířka řezu:", "Počet řezů:",
                                 "Zakázka:", "Materiál:"})
         EXPECT_TRUE(prvni.contains(QString::fromUtf8(popisek))) << popisek;
     EXPECT_TRUE(prvni.contains(QStringLiteral("1/2")));
-    EXPECT_TRUE(texty(d, 2).contains(QStringLiteral("2/2")));
+    EXPECT_TRUE(texty<OpText>(d, 2).contains(QStringLiteral("2/2")));
     EXPECT_TRUE(prvni.contains(QStringLiteral("Kuchyně Novák")));
     EXPECT_TRUE(prvni.contains(QStringLiteral("2800 mm x 2070 mm")));
     EXPECT_TRUE(prvni.contains(QString::number(plan.rezy.at(1)))); // cuts of the first sheet
     // Every placed board is named on some page.
-    const QStringList vse = texty(d, 1) + texty(d, 2);
+    const QStringList vse = texty<OpText>(d, 1) + texty<OpText>(d, 2);
     for (const QString& n : nazvyUsazenych())
         EXPECT_TRUE(std::any_of(vse.begin(), vse.end(), [&](const QString& t) { return t.contains(n); })) << n.toStdString();
 
     ASSERT_TRUE(StrankyNP(d, uloziste(), plan, 2));
     EXPECT_EQ(d.PageCount(), 1);
     EXPECT_FALSE(d.naSirku);
-    EXPECT_TRUE(texty(d, 1).contains(QStringLiteral("2/2")));
+    EXPECT_TRUE(texty<OpText>(d, 1).contains(QStringLiteral("2/2")));
     ASSERT_TRUE(StrankyNP(d, uloziste(), plan, 4));
     EXPECT_EQ(d.PageCount(), 1);
     EXPECT_FALSE(StrankyNP(d, uloziste(), plan, 3)); // no such layout: an empty viewer
@@ -110,7 +94,7 @@ TEST_F(Stranky, OdrezkyJenVetsiNezMez)
     const int desek = k.hodnota(QStringLiteral("SELECT count(*) FROM SoupisDesek WHERE ID = True and tabule = 1")).toInt();
     Dokument d;
     ASSERT_TRUE(StrankyNP(d, uloziste(), plan, 1));
-    const int zaklad = obdelniku(d, 1) - desek - velkych;
+    const int zaklad = int(operace<OpObdelnik>(d, 1).size()) - desek - velkych;
     // Raise the limits to exactly one remnant's size: that remnant is no longer drawn.
     Recordset r(k, QStringLiteral("SELECT * FROM SoupisZbytku WHERE CT = 1 and Oznaceni <> 'ZŘ' and XZP > 1000 and YZP > 1000"));
     ASSERT_FALSE(r.eof());
@@ -121,7 +105,7 @@ TEST_F(Stranky, OdrezkyJenVetsiNezMez)
     const int uzMene = pocet(QStringLiteral("XZP > ") + QString::number(r.cislo(QStringLiteral("XZP"))) +
                              QStringLiteral(" and YZP > ") + QString::number(r.cislo(QStringLiteral("YZP"))));
     ASSERT_TRUE(StrankyNP(d, uloziste(), plan, 1));
-    EXPECT_EQ(obdelniku(d, 1), zaklad + desek + uzMene);
+    EXPECT_EQ(int(operace<OpObdelnik>(d, 1).size()), zaklad + desek + uzMene);
     EXPECT_LT(uzMene, velkych);
 }
 
@@ -134,13 +118,8 @@ TEST_F(Stranky, DlouhaTabuleDrobneDeskyDlouheJmeno)
         {"oznaceni": "lišta s velmi dlouhým pojmenováním, které se nikam nevejde", "x": 4800, "y": 40, "pocet": 3, "format": 7},
         {"oznaceni": "klínek", "x": 12, "y": 9, "pocet": 20, "format": 7}]}]})";
     ZakazkaJson::nacti(uloziste().dataS(), json);
-    QImage vzor(40, 20, QImage::Format_RGB32);
-    vzor.fill(Qt::darkYellow);
-    QByteArray png;
-    QBuffer b(&png);
-    b.open(QIODevice::WriteOnly);
-    vzor.save(&b, "PNG");
-    uloziste().cenik().executeSqlite(QStringLiteral("INSERT INTO Obrazky (IDE, nazev, OBR) VALUES (3, 'buk', ?)"), {png});
+    uloziste().cenik().executeSqlite(QStringLiteral("INSERT INTO Obrazky (IDE, nazev, OBR) VALUES (3, 'buk', ?)"),
+                                     {vzorek("png", {40, 20}, Qt::darkYellow)});
     uloziste().cenik().executeSqlite(
         QStringLiteral("INSERT INTO Cenik (kod, nazev, Cena, skupina, obr1) VALUES (1, 'Spárovka buk 5000', 90, 'PM', 3)"));
 
@@ -150,20 +129,11 @@ TEST_F(Stranky, DlouhaTabuleDrobneDeskyDlouheJmeno)
     Dokument d;
     ASSERT_TRUE(StrankyNP(d, uloziste(), PlanNaStrankach::z(run), 1));
     const QRectF strana(0, 0, d.PageWidth(), d.PageHeight());
-    bool obrazek = false;
-    for (int i = 1; i <= d.PageCount(); ++i)
-        for (const Operace& op : d.strana(i).operace) {
-            if (const auto* t = std::get_if<OpText>(&op)) {
-                d.pismo = t->pismo;
-                const double w = d.TextWidth(t->text), h = d.TextHeight(t->text);
-                const QRectF r = t->uhel == 900 ? QRectF(t->x, t->y - w, h, w) : QRectF(t->x, t->y, w, h);
-                EXPECT_TRUE(strana.contains(r)) << t->text.toStdString();
-            } else if (const auto* o = std::get_if<OpObdelnik>(&op)) {
-                EXPECT_TRUE(strana.contains(o->ramec));
-            }
-            obrazek = obrazek || std::holds_alternative<OpObrazek>(op);
-        }
-    EXPECT_TRUE(obrazek);
+    for (const OpText& t : operace<OpText>(d))
+        EXPECT_TRUE(strana.contains(ramecTextu(d, t))) << t.text.toStdString();
+    for (const OpObdelnik& o : operace<OpObdelnik>(d))
+        EXPECT_TRUE(strana.contains(o.ramec));
+    EXPECT_FALSE(operace<OpObrazek>(d).empty());
 }
 
 TEST_F(Stranky, BezUsazeneDeskyRozmerovaChyba)
@@ -211,17 +181,12 @@ TEST_F(Stranky, PdfCeleNeboNic)
     ASSERT_TRUE(StrankyNP(d, uloziste(), plan, 1));
     const QString cesta = QDir(domov()).filePath(QStringLiteral("plán.pdf"));
     Vykresleni::pdf(d, cesta);
-    QFile f(cesta);
-    ASSERT_TRUE(f.open(QIODevice::ReadOnly));
-    const QByteArray puvodni = f.readAll();
+    const QByteArray puvodni = obsahSouboru(cesta);
     EXPECT_TRUE(puvodni.startsWith("%PDF"));
-    f.close();
 
     // A failing disk: the old file stays, no temporary file is left.
     ocekavejPoruchySouboru(cesta, [&] { Vykresleni::pdf(d, cesta); });
-    ASSERT_TRUE(f.open(QIODevice::ReadOnly));
-    EXPECT_EQ(f.readAll(), puvodni);
-    f.close();
+    EXPECT_EQ(obsahSouboru(cesta), puvodni);
 
     // Saving from the viewer: the proposed name, the question, the messages of the table.
     prompt.odpovez(cesta);

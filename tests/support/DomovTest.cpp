@@ -24,6 +24,12 @@ void DomovTest::TearDown()
     Aplikace::nastavDomov({});
 }
 
+void NastavenyDomov::SetUp()
+{
+    DomovTest::SetUp();
+    Nastaveni::ZapisVychoziNastaveni(0, 0, 1, 1);
+}
+
 QString DomovTest::domov() const
 {
     return m_dir.filePath(QStringLiteral("home"));
@@ -36,14 +42,40 @@ Uloziste& DomovTest::uloziste()
     return *m_uloziste;
 }
 
-int cisloChyby(const std::function<void()>& f)
+Error chybaZ(const std::function<void()>& f)
 {
     try {
         f();
     } catch (const Error& e) {
-        return e.cislo();
+        return e;
     }
-    return 0;
+    return Error(0, QString());
+}
+
+int cisloChyby(const std::function<void()>& f)
+{
+    return chybaZ(f).cislo();
+}
+
+QByteArray obsahSouboru(const QString& cesta)
+{
+    QFile f(cesta);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}
+
+void zapisSoubor(const QString& cesta, const QByteArray& obsah)
+{
+    QFile f(cesta);
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly | QIODevice::Truncate)) << cesta.toStdString();
+    f.write(obsah);
+}
+
+QString textChyby(const std::function<void()>& f)
+{
+    const Error e = chybaZ(f);
+    if (e.cislo())
+        EXPECT_EQ(e.cislo(), Chyba::NeplatnyVstup) << e.text().toStdString();
+    return e.text();
 }
 
 QByteArray demoJson()

@@ -4,6 +4,7 @@
 #include "Kroky.h"
 #include "OknoTest.h"
 #include "SkriptovanyPrompt.h"
+#include "VzorkyObrazku.h"
 #include "catalogues/Cenik.h"
 #include "catalogues/Knihovna.h"
 #include "exchange/Zaloha.h"
@@ -13,7 +14,6 @@
 #include "ui/FrmObr.h"
 #include "ui/FrmPolozka.h"
 
-#include <QBuffer>
 #include <QFile>
 #include <QComboBox>
 #include <QGroupBox>
@@ -45,26 +45,11 @@ void napis(QWidget* okno, const char* pole, const QString& t)
 // for it ("N" or "D") and chooses the record at `zaznam` (0 the first).
 Kroky::Krok vyberVKnihovne(QString& znacka, int zaznam)
 {
-    return [&znacka, zaznam](QWidget* w) {
-        auto* o = qobject_cast<FrmObr*>(w);
-        if (!o)
-            return false;
+    return vOkne<FrmObr>([&znacka, zaznam](FrmObr* o) {
         znacka = o->parentWidget()->findChild<QGroupBox*>(QStringLiteral("fraNCenik"))->property("Tag").toString();
         o->findChild<QScrollBar*>(QStringLiteral("HScroll1"))->setValue(zaznam);
         o->findChild<QPushButton*>(QStringLiteral("cmdV"))->click();
-        return true;
-    };
-}
-
-QByteArray png(QSize rozmer, Qt::GlobalColor barva)
-{
-    QImage obr(rozmer, QImage::Format_RGB32);
-    obr.fill(barva);
-    QByteArray bajty;
-    QBuffer b(&bajty);
-    b.open(QIODevice::WriteOnly);
-    obr.save(&b, "PNG");
-    return bajty;
+    });
 }
 
 const QString Dub = QStringLiteral("DTD dub 'Rustikál' 18");
@@ -79,7 +64,7 @@ protected:
         Nastaveni::SaveSetting(QStringLiteral("Setting2"), QStringLiteral("DPH"), QStringLiteral("21"));
         SkriptovanyPrompt tichy;
         for (const char* nazev : {"dub.png", "buk.png"})
-            ide << Knihovna::pridej(uloziste().cenik(), tichy, Knihovna::Druh::Obrazky, QLatin1String(nazev), png({40, 30}, Qt::darkYellow));
+            ide << Knihovna::pridej(uloziste().cenik(), tichy, Knihovna::Druh::Obrazky, QLatin1String(nazev), vzorek("png", {40, 30}, Qt::darkYellow));
         ASSERT_EQ(Cenik::nahraj(uloziste().cenik(), tichy,
                                 {{Dub, QStringLiteral("101"), QStringLiteral("412.50"), QStringLiteral("m2"), QStringLiteral("PM"), ide[0], 0},
                                  {Hrana, QStringLiteral("201"), QStringLiteral("14.90"), QStringLiteral("bm"), QStringLiteral("H"), 0, 0},
@@ -98,35 +83,23 @@ TEST_F(CenikOkno, NovaPolozkaOdmitnutaOpravenaASObrazkemZKnihovny)
     FrmCenik cenik(uloziste().cenik(), prompt, okno.get());
     QString znacka, nazevPoOdmitnuti, sDph;
     bool nahled = false;
-    Kroky k({[&](QWidget* w) {
-                 auto* d = qobject_cast<FrmPolozka*>(w);
-                 if (!d)
-                     return false;
+    Kroky k({vOkne<FrmPolozka>([&](FrmPolozka* d) {
                  napis(d, "txtNazev", nazev);
                  napis(d, "txtKod", QStringLiteral("12"));
                  napis(d, "txtCena", QStringLiteral("10000,01")); // a cent over the limit
                  sDph = d->findChild<QLabel*>(QStringLiteral("lblCenaDPH"))->text();
                  klikni(d, "cmdUlozit");
-                 return true;
-             },
-             [&](QWidget* w) {
-                 auto* d = qobject_cast<FrmPolozka*>(w);
-                 if (!d)
-                     return false;
+             }),
+             vOkne<FrmPolozka>([&](FrmPolozka* d) {
                  nazevPoOdmitnuti = text(d, "txtNazev");
                  napis(d, "txtCena", QStringLiteral("10000"));
                  klikni(d, "cmdObr1");
-                 return true;
-             },
+             }),
              vyberVKnihovne(znacka, 1),
-             [&](QWidget* w) {
-                 auto* d = qobject_cast<FrmPolozka*>(w);
-                 if (!d)
-                     return false;
+             vOkne<FrmPolozka>([&](FrmPolozka* d) {
                  nahled = !d->findChild<QLabel*>(QStringLiteral("lblO1"))->pixmap().isNull();
                  klikni(d, "cmdUlozit");
-                 return true;
-             }});
+             })});
     cenik.prikaz(QStringLiteral("NPoložka"));
 
     EXPECT_TRUE(k.hotovo());
@@ -150,24 +123,16 @@ TEST_F(CenikOkno, UpravaSvehoNazvuDruhyObrazekAOdebraniPrvniho)
     auto* seznam = cenik.findChild<QListWidget*>(QStringLiteral("lstCenik"));
     seznam->setCurrentItem(seznam->findItems(Dub, Qt::MatchExactly).value(0));
     QString znacka, cenaVeFormulari;
-    Kroky k({[&](QWidget* w) {
-                 auto* d = qobject_cast<FrmPolozka*>(w);
-                 if (!d)
-                     return false;
+    Kroky k({vOkne<FrmPolozka>([&](FrmPolozka* d) {
                  cenaVeFormulari = text(d, "txtCena");
                  napis(d, "txtCena", QStringLiteral("420"));
                  d->findChild<QPushButton*>(QStringLiteral("cmdBezObr1"))->click();
                  klikni(d, "cmdObr2");
-                 return true;
-             },
+             }),
              vyberVKnihovne(znacka, 0),
-             [&](QWidget* w) {
-                 auto* d = qobject_cast<FrmPolozka*>(w);
-                 if (!d)
-                     return false;
+             vOkne<FrmPolozka>([&](FrmPolozka* d) {
                  klikni(d, "cmdUlozit");
-                 return true;
-             }});
+             })});
     cenik.prikaz(QStringLiteral("UPoložky"));
 
     EXPECT_TRUE(k.hotovo());
@@ -192,29 +157,17 @@ TEST_F(CenikOkno, ObrazekSmazanyZFormulareSeDoPolozkyNeulozi)
     auto* seznam = cenik.findChild<QListWidget*>(QStringLiteral("lstCenik"));
     seznam->setCurrentItem(seznam->findItems(Dub, Qt::MatchExactly).value(0));
     QString znacka, popisek;
-    Kroky k({[&](QWidget* w) {
-                 auto* d = qobject_cast<FrmPolozka*>(w);
-                 if (!d)
-                     return false;
+    Kroky k({vOkne<FrmPolozka>([&](FrmPolozka* d) {
                  klikni(d, "cmdObr1");
-                 return true;
-             },
+             }),
              vyberVKnihovne(znacka, 1), // buk.png, the highest IDE
-             [&](QWidget* w) {
-                 auto* d = qobject_cast<FrmPolozka*>(w);
-                 if (!d)
-                     return false;
+             vOkne<FrmPolozka>([&](FrmPolozka* d) {
                  klikni(d, "cmdObr2");
-                 return true;
-             },
-             [&](QWidget* w) {
-                 auto* o = qobject_cast<FrmObr*>(w);
-                 if (!o)
-                     return false;
+             }),
+             vOkne<FrmObr>([&](FrmObr* o) {
                  o->findChild<QScrollBar*>(QStringLiteral("HScroll1"))->setValue(1);
                  klikni(o, "Command2");
-                 return true;
-             },
+             }),
              [&](QWidget* w) {
                  auto* o = qobject_cast<FrmObr*>(w);
                  if (!o || Knihovna::existuje(uloziste().cenik(), Knihovna::Druh::Obrazky, ide[1]))
@@ -222,21 +175,17 @@ TEST_F(CenikOkno, ObrazekSmazanyZFormulareSeDoPolozkyNeulozi)
                  o->findChild<QPushButton*>(QStringLiteral("cmdS"))->click();
                  return true;
              },
-             [&](QWidget* w) {
-                 auto* d = qobject_cast<FrmPolozka*>(w);
-                 if (!d)
-                     return false;
+             vOkne<FrmPolozka>([&](FrmPolozka* d) {
                  popisek = d->findChild<QLabel*>(QStringLiteral("lblO1"))->text();
                  klikni(d, "cmdUlozit");
-                 return true;
-             }});
+             })});
     cenik.prikaz(QStringLiteral("UPoložky"));
 
     EXPECT_TRUE(k.hotovo());
     EXPECT_EQ(k.zpravy, QStringList{QStringLiteral("Chcete opravdu obrázek smazat z databáze? ")});
     EXPECT_EQ(popisek, QStringLiteral("bez obrázku"));
     SkriptovanyPrompt tichy;
-    EXPECT_EQ(Knihovna::pridej(uloziste().cenik(), tichy, Knihovna::Druh::Obrazky, QStringLiteral("novy.png"), png({10, 10}, Qt::red)), ide[1]);
+    EXPECT_EQ(Knihovna::pridej(uloziste().cenik(), tichy, Knihovna::Druh::Obrazky, QStringLiteral("novy.png"), vzorek("png")), ide[1]);
     EXPECT_EQ(Cenik::nacti(uloziste().cenik(), Dub)->obr1, 0);
 }
 
@@ -269,10 +218,7 @@ TEST_F(CenikOkno, KlavesyVolbyPredajiPolozkuPolimZaznamu)
                      klikni(d, p.tlacitko);
                      return true;
                  },
-                 [&](QWidget* w) {
-                     auto* c = qobject_cast<FrmCenik*>(w);
-                     if (!c)
-                         return false;
+                 vOkne<FrmCenik>([&](FrmCenik* c) {
                      for (const char* klic : {"VM", "VF", "VH", "EP"})
                          if (c->findChild<QAction*>(QLatin1String(klic))->isEnabled())
                              zapnute << QLatin1String(klic);
@@ -281,17 +227,12 @@ TEST_F(CenikOkno, KlavesyVolbyPredajiPolozkuPolimZaznamu)
                      auto* seznam = c->findChild<QListWidget*>(QStringLiteral("lstCenik"));
                      seznam->setCurrentItem(seznam->findItems(p.polozka, Qt::MatchExactly).value(0));
                      c->findChild<QAction*>(QLatin1String(p.klic))->trigger();
-                     return true;
-                 },
-                 [&](QWidget* w) {
-                     auto* d = qobject_cast<FrmNovy*>(w);
-                     if (!d)
-                         return false;
+                 }),
+                 vOkne<FrmNovy>([&](FrmNovy* d) {
                      nazev = d->findChild<QComboBox*>(QLatin1String(p.poleNazvu))->currentText();
                      cena = hodnota(d, p.poleCeny);
                      d->reject();
-                     return true;
-                 }});
+                 })});
         okno->prikaz(QLatin1String(p.prikaz));
         EXPECT_TRUE(k.hotovo());
         EXPECT_TRUE(k.zpravy.isEmpty()) << k.zpravy.join(QLatin1Char('|')).toStdString();
@@ -314,10 +255,7 @@ TEST_F(CenikOkno, VolbaZeSeznamuPrinasiCenu)
         SCOPED_TRACE(prikaz);
         QString vybrana, napsana;
         double cenaVybrane = 0;
-        Kroky k({[&](QWidget* w) {
-            auto* d = qobject_cast<FrmNovy*>(w);
-            if (!d)
-                return false;
+        Kroky k({vOkne<FrmNovy>([&](FrmNovy* d) {
             auto* seznam = d->findChild<QComboBox*>(QLatin1String(nazev));
             seznam->setCurrentText(QStringLiteral("vlastní název"));
             emit seznam->textActivated(seznam->currentText()); // Enter on a typed name
@@ -327,8 +265,7 @@ TEST_F(CenikOkno, VolbaZeSeznamuPrinasiCenu)
             vybrana = text(d, cena);
             cenaVybrane = hodnota(d, cena);
             d->reject();
-            return true;
-        }});
+        })});
         okno->prikaz(QLatin1String(prikaz));
         EXPECT_TRUE(k.hotovo());
         EXPECT_EQ(napsana, QString());

@@ -1,39 +1,27 @@
 // The main window: its menus and keys, the command states that follow the selection, and a
 // plan run started from the window.
+#include "Kroky.h"
 #include "OknoTest.h"
 #include "SkriptovanyPrompt.h"
-#include "core/Nastaveni.h"
-#include "exchange/ZakazkaJson.h"
-#include "ui/FrmBorovak.h"
 #include "ui/FrmNP.h"
 #include "ui/FrmVSP.h"
-#include "ui/FrmNovy.h"
-#include "ui/QtPrompt.h"
 
-#include <QAction>
-#include <QApplication>
-#include <QFile>
 #include <QComboBox>
-#include <QPlainTextEdit>
+#include <QLabel>
 #include <QLineEdit>
-#include <QMenuBar>
+#include <QListWidget>
+#include <QPlainTextEdit>
 #include <QTableWidget>
 #include <QTest>
-#include <QMessageBox>
-#include <QPushButton>
-#include <QInputDialog>
-#include <QLabel>
-#include <QListWidget>
-#include <QTimer>
-#include <QTreeWidget>
 
 namespace {
 
 class Okno : public OknoTest {
 protected:
-    // Starts a plan from the window, answering as a user would: Pokračuj in the plan start, then
-    // Storno in the progress frame if asked, OK under any message. Returns the messages.
-    QStringList spustPlan(bool storno)
+    // Starts a plan from the window, answering as a user would: Pokračuj in the plan start once
+    // predPokracovanim agrees, then Storno in the progress frame if asked, OK under any message.
+    // Returns the messages.
+    QStringList spustPlan(bool storno, std::function<bool(FrmNovy*)> predPokracovanim = {})
     {
         QTimer ruka;
         QStringList zpravy;
@@ -41,8 +29,10 @@ protected:
             if (auto* d = qobject_cast<FrmNovy*>(QApplication::activeModalWidget())) {
                 auto* ok = d->findChild<QPushButton*>(QStringLiteral("cmdOKNP"));
                 auto* zastav = d->findChild<QPushButton*>(QStringLiteral("cmdStornoNP"));
-                if (ok && ok->isVisible())
-                    ok->click();
+                if (ok && ok->isVisible()) {
+                    if (!predPokracovanim || predPokracovanim(d))
+                        ok->click();
+                }
                 else if (storno && zastav && zastav->isVisible())
                     zastav->click();
             } else if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
@@ -68,13 +58,8 @@ protected:
 
 TEST_F(Okno, NabidkaAStromPoSpusteni)
 {
+    // the menus' captions are the language file's, compared line by line with the language tests
     EXPECT_EQ(okno->windowTitle(), QStringLiteral("Truhlář V ") + Nastaveni::verze());
-    QStringList hlavni;
-    for (QAction* a : okno->menuBar()->actions())
-        hlavni << a->text();
-    EXPECT_EQ(hlavni, QStringList({"&Zakázky", "&Doplňky", "&Data", "&Výpisy", "&Jazyk", "&O programu"}));
-    EXPECT_EQ(okno->akce(QStringLiteral("UpraveniZakazky"))->text(), QStringLiteral("U&pravení zakázky"));
-    EXPECT_EQ(okno->akce(QStringLiteral("tbODZ"))->toolTip(), QStringLiteral("Vložení zálohovaných dat"));
     ASSERT_EQ(strom->topLevelItemCount(), 1);
     EXPECT_EQ(strom->topLevelItem(0)->child(1)->text(0), QStringLiteral("Horní60 ( 2 ks )"));
     // nothing selected: no plan, no backup, but restore
@@ -121,60 +106,74 @@ TEST_F(Okno, PlanSpustenyZOknaKonciVProhlizeci)
 // assembly and its first board, each through its frame's fields and save button.
 TEST_F(Okno, ZakazkaZadanaRucneOdZakazkyPoDesku)
 {
-    int krok = 0;
-    QTimer ruka;
     auto vypln = [](QWidget* d, const char* nazev, const QString& text) {
         if (auto* e = d->findChild<QLineEdit*>(QLatin1String(nazev)))
             e->setText(text);
         else if (auto* c = d->findChild<QComboBox*>(QLatin1String(nazev)))
             c->setCurrentText(text);
     };
-    QObject::connect(&ruka, &QTimer::timeout, [&] {
-        auto* d = qobject_cast<FrmNovy*>(QApplication::activeModalWidget());
-        if (!d)
-            return;
-        auto stisk = [&](const char* tlacitko) { d->findChild<QPushButton*>(QLatin1String(tlacitko))->click(); };
-        if (d->findChild<QWidget*>(QStringLiteral("fraZakázka")) && krok == 0) {
-            vypln(d, "txtzakazka", QStringLiteral("Skříň 'Dvořák'"));
-            stisk("cmdZakazkaPouzit");
-            krok = 1;
-        } else if (d->findChild<QWidget*>(QStringLiteral("fraMaterial")) && krok == 1) {
-            vypln(d, "txtFormat", QStringLiteral("DTD dub 18"));
-            vypln(d, "txtFX", QStringLiteral("2800"));
-            vypln(d, "txtFY", QStringLiteral("2070"));
-            vypln(d, "txtFCena", QStringLiteral("420"));
-            stisk("cmdFormatUlozit"); // stays open for the next format
-            krok = 2;
-        } else if (d->findChild<QWidget*>(QStringLiteral("fraMaterial")) && krok == 2) {
-            d->close();
-            krok = 3;
-        } else if (d->findChild<QWidget*>(QStringLiteral("fraTyp")) && krok == 4) {
-            vypln(d, "txtNT", QStringLiteral("Skříň12345")); // cut to 7 while typing
-            QTest::keyClicks(d->findChild<QLineEdit*>(QStringLiteral("txtNT")), QStringLiteral("X"));
-            stisk("cmdUlozitP");
-            krok = 5;
-        } else if (d->findChild<QWidget*>(QStringLiteral("fraPlMat")) && krok == 5) {
-            vypln(d, "txtX", QStringLiteral("720"));
-            vypln(d, "txtY", QStringLiteral("560"));
-            vypln(d, "cmbMaterial", QStringLiteral("DTD dub 18 (2800 mm x 2070 mm)"));
-            stisk("cmdUPM");
-            d->close();
-            krok = 6;
-        }
-    });
-    ruka.start(10);
-    okno->prikaz(QStringLiteral("NZakazka"));
-    ASSERT_EQ(krok, 3);
+    auto stisk = [](QWidget* d, const char* tlacitko) { d->findChild<QPushButton*>(QLatin1String(tlacitko))->click(); };
+    {
+        Kroky k({vRamci("fraZakázka", [&](FrmNovy* d) {
+                     vypln(d, "txtzakazka", QStringLiteral("Skříň 'Dvořák'"));
+                     stisk(d, "cmdZakazkaPouzit");
+                 }),
+                 vRamci("fraMaterial", [&](FrmNovy* d) {
+                     vypln(d, "txtFormat", QStringLiteral("DTD dub 18"));
+                     vypln(d, "txtFX", QStringLiteral("2800"));
+                     vypln(d, "txtFY", QStringLiteral("2070"));
+                     vypln(d, "txtFCena", QStringLiteral("420"));
+                     stisk(d, "cmdFormatUlozit"); // stays open for the next format
+                 }),
+                 vRamci("fraMaterial", [](FrmNovy* d) { d->close(); })});
+        okno->prikaz(QStringLiteral("NZakazka"));
+        ASSERT_TRUE(k.hotovo());
+    }
     EXPECT_EQ(okno->txtzakazka(), QStringLiteral("Skříň 'Dvořák'"));
-    krok = 4;
-    okno->prikaz(QStringLiteral("NSestava"));
-    ASSERT_EQ(krok, 6);
+    {
+        Kroky k({vRamci("fraTyp", [&](FrmNovy* d) {
+                     vypln(d, "txtNT", QStringLiteral("Skříň12345")); // cut to 7 while typing
+                     QTest::keyClicks(d->findChild<QLineEdit*>(QStringLiteral("txtNT")), QStringLiteral("X"));
+                     stisk(d, "cmdUlozitP");
+                 }),
+                 vRamci("fraPlMat", [&](FrmNovy* d) {
+                     vypln(d, "txtX", QStringLiteral("720"));
+                     vypln(d, "txtY", QStringLiteral("560"));
+                     vypln(d, "cmbMaterial", QStringLiteral("DTD dub 18 (2800 mm x 2070 mm)"));
+                     stisk(d, "cmdUPM");
+                     d->close();
+                 })});
+        okno->prikaz(QStringLiteral("NSestava"));
+        ASSERT_TRUE(k.hotovo());
+    }
     EXPECT_EQ(okno->txtSestava(), QStringLiteral("Skříň12"));
     auto* gpm = okno->findChild<QTableWidget*>(QStringLiteral("GPM"));
     ASSERT_EQ(gpm->rowCount(), 1);
     EXPECT_EQ(gpm->item(0, 0)->text(), QStringLiteral("deska 1"));
     EXPECT_EQ(gpm->item(0, 4)->text(), QStringLiteral("DTD dub 18 (2800 mm x 2070 mm)"));
     EXPECT_EQ(strom->topLevelItemCount(), 2);
+}
+
+// The plan start compares the four ways before the joiner chooses: the three quick ones and
+// "úsporně" fill their rows, and "úsporně" chosen there ends in its own plan in the viewer.
+TEST_F(Okno, PlanSeCtyrmiZpusobyVedleSebe)
+{
+    Nastaveni::SaveSetting(QStringLiteral("Setting2"), QStringLiteral("CasUsporne"), QStringLiteral("0.1"));
+    klik(strom->topLevelItem(0));
+    QStringList radky;
+    spustPlan(false, [&](FrmNovy* d) {
+        auto* tabulka = d->findChild<QTableWidget*>(QStringLiteral("tblSrovnani"));
+        if (tabulka->item(3, 0)->text().startsWith(QStringLiteral("počítá")))
+            return false;
+        for (int r = 0; r < 4; ++r)
+            radky << tabulka->verticalHeaderItem(r)->text() + QLatin1Char(' ') + tabulka->item(r, 0)->text();
+        d->findChild<QComboBox*>(QStringLiteral("cmbZpusobRezani"))->setCurrentIndex(3);
+        return true;
+    });
+    EXPECT_EQ(radky, QStringList({"kombinovaně 2", "podélné řezy 2", "příčné řezy 2", "úsporně 2"}));
+    ASSERT_FALSE(prohlizec.isEmpty());
+    EXPECT_EQ(prohlizec[0].toString(), QStringLiteral("Nářezový plán - úsporně"));
+    EXPECT_FALSE(uloziste().maDataK());
 }
 
 // Storno in the progress frame stops the run at its next look at the flag: no plan message.
@@ -196,35 +195,26 @@ TEST_F(Okno, ImportZeStrankySestavyAChybnyRadek)
     auto* panel3 = okno->findChild<QLabel*>(QStringLiteral("panel3"));
     const QString zakazka = panel2->text(), sestava = panel3->text();
     ASSERT_TRUE(okno->findChild<QPushButton*>(QStringLiteral("cmdImport"))->isEnabled());
-    int pokus = 0;
     int radekKurzoru = -1;
-    bool odmitnuto = false;
-    QTimer ruka;
-    QObject::connect(&ruka, &QTimer::timeout, [&] {
-        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-            box->accept();
-            odmitnuto = true;
-            return;
-        }
-        auto* d = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        if (!d || d->objectName() != QLatin1String("frmImport"))
-            return;
-        auto* text = d->findChild<QPlainTextEdit*>(QStringLiteral("Text1"));
-        if (pokus == 0) {
-            text->setPlainText(QStringLiteral("a;100;100;1\nb;0;100;1\n"));
-            // clicked from the event loop: the refusal's message must not run inside this tick
-            QMetaObject::invokeMethod(d->findChild<QPushButton*>(QStringLiteral("cmdImportovat")), "click",
-                                      Qt::QueuedConnection);
-            ++pokus;
-        } else if (pokus == 1 && odmitnuto) {
-            radekKurzoru = text->textCursor().blockNumber();
-            text->setPlainText(QStringLiteral("a;100;100;1\nb;200;100;1\n"));
-            d->findChild<QPushButton*>(QStringLiteral("cmdImportovat"))->click();
-            ++pokus;
-        }
-    });
-    ruka.start(10);
+    Kroky k({[](QWidget* d) {
+                 if (d->objectName() != QLatin1String("frmImport"))
+                     return false;
+                 d->findChild<QPlainTextEdit*>(QStringLiteral("Text1"))->setPlainText(QStringLiteral("a;100;100;1\nb;0;100;1\n"));
+                 klikni(d, "cmdImportovat"); // the refusal's message must not run inside this step
+                 return true;
+             },
+             [&](QWidget* d) {
+                 if (d->objectName() != QLatin1String("frmImport") || k.zpravy.isEmpty())
+                     return false;
+                 auto* text = d->findChild<QPlainTextEdit*>(QStringLiteral("Text1"));
+                 radekKurzoru = text->textCursor().blockNumber();
+                 text->setPlainText(QStringLiteral("a;100;100;1\nb;200;100;1\n"));
+                 d->findChild<QPushButton*>(QStringLiteral("cmdImportovat"))->click();
+                 return true;
+             }});
     okno->prikaz(QStringLiteral("cmdImport"));
+    EXPECT_TRUE(k.hotovo());
+    EXPECT_EQ(k.zpravy.size(), 1);
     EXPECT_EQ(radekKurzoru, 1);
     EXPECT_EQ(okno->findChild<QTableWidget*>(QStringLiteral("GPM"))->rowCount(), 7);
     EXPECT_NE(panel2->text(), zakazka);
@@ -266,41 +256,27 @@ TEST_F(Okno, UpravyASmazaniZOkna)
     klik(zakazka->child(2)); // Sokl: two boards
     auto* gpm = okno->findChild<QTableWidget*>(QStringLiteral("GPM"));
     ASSERT_EQ(gpm->rowCount(), 2);
-    std::function<void(FrmNovy*)> krok;
-    QTimer ruka;
-    QObject::connect(&ruka, &QTimer::timeout, [&] {
-        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-            box->button(QMessageBox::Yes) ? box->button(QMessageBox::Yes)->click() : box->buttons().first()->click();
-            return;
-        }
-        if (auto* d = qobject_cast<FrmNovy*>(QApplication::activeModalWidget()); d && krok) {
-            auto k = std::move(krok);
-            krok = nullptr;
-            k(d);
-        }
-    });
-    ruka.start(5);
     auto pole = [](FrmNovy* d, const char* n) { return d->findChild<QLineEdit*>(QLatin1String(n)); };
-    auto stisk = [](FrmNovy* d, const char* n) {
-        QMetaObject::invokeMethod(d->findChild<QPushButton*>(QLatin1String(n)), "click", Qt::QueuedConnection);
+    // Runs the window's command with one step on its entry dialog, each question answered Ano.
+    auto prikaz = [&](const char* nazev, std::deque<Kroky::Krok> kroky) {
+        Kroky k(std::move(kroky));
+        okno->prikaz(QLatin1String(nazev));
+        EXPECT_TRUE(k.hotovo()) << nazev;
     };
     // three new boards in one series, the second with a blank name
-    int ulozeno = 0;
-    std::function<void(FrmNovy*)> dalsi = [&](FrmNovy* d) {
-        const QString jmena[] = {QStringLiteral("lišta"), QString(), QStringLiteral("čelo")};
-        d->findChild<QComboBox*>(QStringLiteral("txtPM"))->setCurrentText(jmena[ulozeno]);
-        pole(d, "txtX")->setText(QStringLiteral("400"));
-        pole(d, "txtY")->setText(QString::number(100 + ulozeno));
-        auto* format = d->findChild<QComboBox*>(QStringLiteral("cmbMaterial"));
-        format->setCurrentIndex(1);
-        stisk(d, "cmdUPM");
-        if (++ulozeno < 3)
-            QTimer::singleShot(30, [&] { krok = dalsi; });
-        else
-            QTimer::singleShot(30, d, [d] { d->close(); });
+    auto novaDeska = [&](const QString& jmeno, int y, bool posledni) {
+        return vOkne<FrmNovy>([=](FrmNovy* d) {
+            d->findChild<QComboBox*>(QStringLiteral("txtPM"))->setCurrentText(jmeno);
+            pole(d, "txtX")->setText(QStringLiteral("400"));
+            pole(d, "txtY")->setText(QString::number(y));
+            d->findChild<QComboBox*>(QStringLiteral("cmbMaterial"))->setCurrentIndex(1);
+            klikni(d, "cmdUPM");
+            if (posledni)
+                QMetaObject::invokeMethod(d, "close", Qt::QueuedConnection);
+        });
     };
-    krok = dalsi;
-    okno->prikaz(QStringLiteral("NovyPloM"));
+    prikaz("NovyPloM", {novaDeska(QStringLiteral("lišta"), 100, false), novaDeska(QString(), 101, false),
+                        novaDeska(QStringLiteral("čelo"), 102, true)});
     ASSERT_EQ(gpm->rowCount(), 5);
     QStringList nazvy;
     for (int r = 0; r < gpm->rowCount(); ++r)
@@ -308,38 +284,35 @@ TEST_F(Okno, UpravyASmazaniZOkna)
     EXPECT_TRUE(nazvy.contains(QStringLiteral("deska 1"))) << nazvy.join(QLatin1Char(',')).toStdString();
     // edit the current (last) board's length
     gpm->setCurrentCell(gpm->rowCount() - 1, 0);
-    krok = [&](FrmNovy* d) {
-        pole(d, "txtX")->setText(QStringLiteral("444"));
-        stisk(d, "cmdUPM");
-    };
-    okno->prikaz(QStringLiteral("UpraveniPM"));
+    prikaz("UpraveniPM", {vOkne<FrmNovy>([&](FrmNovy* d) {
+               pole(d, "txtX")->setText(QStringLiteral("444"));
+               klikni(d, "cmdUPM");
+           })});
     EXPECT_EQ(gpm->item(gpm->rowCount() - 1, 1)->text(), QStringLiteral("444 mm"));
     // delete it (the question answered Yes)
-    okno->prikaz(QStringLiteral("SmazaniPM"));
+    prikaz("SmazaniPM", {});
     EXPECT_EQ(gpm->rowCount(), 4);
     // edit the format's price, then the assembly's name
     klik(zakazka);
     EXPECT_FALSE(okno->akce(QStringLiteral("PlMaterial"))->isEnabled());
     okno->findChild<QTableWidget*>(QStringLiteral("GridFormaty"))->setCurrentCell(0, 0);
-    krok = [&](FrmNovy* d) {
-        pole(d, "txtFCena")->setText(QStringLiteral("399"));
-        stisk(d, "cmdFormatUlozit");
-    };
-    okno->prikaz(QStringLiteral("UF"));
+    prikaz("UF", {vOkne<FrmNovy>([&](FrmNovy* d) {
+               pole(d, "txtFCena")->setText(QStringLiteral("399"));
+               klikni(d, "cmdFormatUlozit");
+           })});
     EXPECT_EQ(okno->findChild<QTableWidget*>(QStringLiteral("GridFormaty"))->item(0, 3)->text(), QStringLiteral("399.00 Kč/m2"));
     klik(strom->topLevelItem(0)->child(2));
-    krok = [&](FrmNovy* d) {
-        pole(d, "txtNT")->setText(QStringLiteral("Sokly"));
-        stisk(d, "cmdUlozitP");
-    };
-    okno->prikaz(QStringLiteral("USestava"));
+    prikaz("USestava", {vOkne<FrmNovy>([&](FrmNovy* d) {
+               pole(d, "txtNT")->setText(QStringLiteral("Sokly"));
+               klikni(d, "cmdUlozitP");
+           })});
     EXPECT_EQ(okno->txtSestava(), QStringLiteral("Sokly"));
     EXPECT_TRUE(okno->akce(QStringLiteral("PlMaterial"))->isEnabled());
     // delete the assembly, then the order
-    okno->prikaz(QStringLiteral("SmazaniSestavy"));
+    prikaz("SmazaniSestavy", {});
     EXPECT_EQ(strom->topLevelItem(0)->childCount(), 3);
     EXPECT_EQ(okno->txtSestava(), QString());
-    okno->prikaz(QStringLiteral("SmazaniZakazky"));
+    prikaz("SmazaniZakazky", {});
     EXPECT_EQ(strom->topLevelItemCount(), 0);
     EXPECT_EQ(okno->txtzakazka(), QString());
     EXPECT_FALSE(okno->akce(QStringLiteral("NP"))->isEnabled());
@@ -353,23 +326,18 @@ TEST_F(Okno, KalkulaceZakazkyVNahledu)
     klik(strom->topLevelItem(0));
     ASSERT_TRUE(zapnuto("RychlaKalkulace"));
     QStringList videno;
-    QTimer ruka;
-    QObject::connect(&ruka, &QTimer::timeout, [&] {
-        QWidget* modal = QApplication::activeModalWidget();
-        if (auto* dialog = qobject_cast<FrmNovy*>(modal)) {
-            auto* seznam = dialog->findChild<QListWidget*>(QStringLiteral("lstSestava"));
-            videno << QString::number(seznam->selectedItems().size());
-            dialog->findChild<QPushButton*>(QStringLiteral("cmdKalkulace"))->click();
-        } else if (auto* vsp = qobject_cast<FrmVSP*>(modal)) {
-            videno << vsp->windowTitle() << vsp->textStrany();
-            QTest::keyClick(vsp, Qt::Key_PageUp);
-            videno << vsp->textStrany() << QString::number(vsp->akce(QStringLiteral("PLUS"))->isEnabled());
-            vsp->akce(QStringLiteral("ZoomPlus"))->trigger();
-            videno << QString::number(vsp->Zoom());
-            QTest::keyClick(vsp, Qt::Key_Escape);
-        }
-    });
-    ruka.start(1);
+    Kroky k({vOkne<FrmNovy>([&](FrmNovy* dialog) {
+                 videno << QString::number(dialog->findChild<QListWidget*>(QStringLiteral("lstSestava"))->selectedItems().size());
+                 dialog->findChild<QPushButton*>(QStringLiteral("cmdKalkulace"))->click();
+             }),
+             vOkne<FrmVSP>([&](FrmVSP* vsp) {
+                 videno << vsp->windowTitle() << vsp->textStrany();
+                 QTest::keyClick(vsp, Qt::Key_PageUp);
+                 videno << vsp->textStrany() << QString::number(vsp->akce(QStringLiteral("PLUS"))->isEnabled());
+                 vsp->akce(QStringLiteral("ZoomPlus"))->trigger();
+                 videno << QString::number(vsp->Zoom());
+                 QTest::keyClick(vsp, Qt::Key_Escape);
+             })});
     okno->prikaz(QStringLiteral("RychlaKalkulace"));
     EXPECT_EQ(videno, QStringList({"4", "Kalkulace zakázky", "1 / 2", "2 / 2", "0", "125"}));
     EXPECT_FALSE(uloziste().maDataK());
@@ -381,26 +349,22 @@ TEST_F(Okno, PanelCenySestavyOtviraKalkulaciSestav)
 {
     klik(strom->topLevelItem(0)->child(0));
     QStringList videno;
-    QTimer ruka;
-    QObject::connect(&ruka, &QTimer::timeout, [&] {
-        QWidget* modal = QApplication::activeModalWidget();
-        if (auto* dialog = qobject_cast<FrmNovy*>(modal)) {
-            auto* seznam = dialog->findChild<QListWidget*>(QStringLiteral("lstSestava"));
-            auto* spustit = dialog->findChild<QPushButton*>(QStringLiteral("cmdKalkulace"));
-            seznam->clearSelection();
-            videno << QString::number(spustit->isEnabled());
-            seznam->item(1)->setSelected(true);
-            videno << QString::number(spustit->isEnabled()) << dialog->windowTitle();
-            spustit->click();
-        } else if (auto* vsp = qobject_cast<FrmVSP*>(modal)) {
-            videno << vsp->windowTitle();
-            for (const Operace& op : vsp->dokument().strana(1).operace)
-                if (const auto* t = std::get_if<OpTextBox>(&op); t && t->text.contains(QStringLiteral(" ks - ")))
-                    videno << t->text.section(QLatin1Char(' '), 0, 0);
-            QTest::keyClick(vsp, Qt::Key_Escape);
-        }
-    });
-    ruka.start(1);
+    Kroky k({vOkne<FrmNovy>([&](FrmNovy* dialog) {
+                 auto* seznam = dialog->findChild<QListWidget*>(QStringLiteral("lstSestava"));
+                 auto* spustit = dialog->findChild<QPushButton*>(QStringLiteral("cmdKalkulace"));
+                 seznam->clearSelection();
+                 videno << QString::number(spustit->isEnabled());
+                 seznam->item(1)->setSelected(true);
+                 videno << QString::number(spustit->isEnabled()) << dialog->windowTitle();
+                 spustit->click();
+             }),
+             vOkne<FrmVSP>([&](FrmVSP* vsp) {
+                 videno << vsp->windowTitle();
+                 for (const Operace& op : vsp->dokument().strana(1).operace)
+                     if (const auto* t = std::get_if<OpTextBox>(&op); t && t->text.contains(QStringLiteral(" ks - ")))
+                         videno << t->text.section(QLatin1Char(' '), 0, 0);
+                 QTest::keyClick(vsp, Qt::Key_Escape);
+             })});
     QTest::mouseClick(okno->findChild<QLabel*>(QStringLiteral("panel3")), Qt::LeftButton);
     EXPECT_EQ(videno, QStringList({"0", "1", "Kalkulace sestav", "Kalkulace sestav", "Horní60"}));
 }
@@ -421,12 +385,7 @@ TEST_F(Okno, PanelyCenPoVyberuAUprave)
     auto* gpm = okno->findChild<QTableWidget*>(QStringLiteral("GPM"));
     ASSERT_GT(gpm->rowCount(), 0);
     gpm->setCurrentCell(0, 0);
-    QTimer ruka;
-    QObject::connect(&ruka, &QTimer::timeout, [&] {
-        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
-            box->button(QMessageBox::Yes) ? box->button(QMessageBox::Yes)->click() : box->buttons().first()->click();
-    });
-    ruka.start(5);
+    Kroky ano({});
     okno->prikaz(QStringLiteral("SmazaniPM"));
     EXPECT_NE(panel2->text(), QStringLiteral("5062.31 Kč"));
     EXPECT_NE(panel3->text(), QStringLiteral("1195.00 Kč"));
@@ -438,14 +397,7 @@ TEST_F(Okno, ZakazkaUlozenaJako)
 {
     klik(strom->topLevelItem(0));
     ASSERT_TRUE(zapnuto("UlozeniJakoZ"));
-    QTimer ruka;
-    QObject::connect(&ruka, &QTimer::timeout, [&] {
-        if (auto* d = qobject_cast<QInputDialog*>(QApplication::activeModalWidget())) {
-            d->setTextValue(QStringLiteral("Kuchyně kopie"));
-            d->accept();
-        }
-    });
-    ruka.start(5);
+    Kroky k({odpovez(QStringLiteral("Kuchyně kopie"))});
     okno->prikaz(QStringLiteral("UlozeniJakoZ"));
     EXPECT_EQ(strom->topLevelItemCount(), 2);
     EXPECT_EQ(okno->txtzakazka(), QStringLiteral("Kuchyně kopie"));

@@ -1,5 +1,6 @@
 // The options dialog as a user drives it: typing and "Použít", a refused field, "Zpět", the
 // colour chosen at once, the preview following the label fields.
+#include "CteniDokumentu.h"
 #include "DomovTest.h"
 #include "SkriptovanyPrompt.h"
 #include "core/Nastaveni.h"
@@ -17,12 +18,11 @@ using Nastaveni::GetSetting;
 
 namespace {
 
-class Moznosti : public DomovTest {
+class Moznosti : public NastavenyDomov {
 protected:
     void SetUp() override
     {
-        DomovTest::SetUp();
-        Nastaveni::ZapisVychoziNastaveni(0, 0, 1, 1);
+        NastavenyDomov::SetUp();
         QLocale::setDefault(QLocale(QLocale::Czech, QLocale::Czechia));
         okno = std::make_unique<FrmOptions>(prompt, [this] { ++obnoveni; }, nullptr);
         pouzit = okno->findChild<QPushButton*>(QStringLiteral("cmdPouzit"));
@@ -43,9 +43,8 @@ protected:
     int zelenych()
     {
         int n = 0;
-        for (const Operace& op : okno->nahled().strana(1).operace)
-            if (const auto* o = std::get_if<OpObdelnik>(&op); o && o->stetec.barva == NahledStitku::barvaPapiru())
-                ++n;
+        for (const OpObdelnik& o : operace<OpObdelnik>(okno->nahled(), 1))
+            n += o.stetec.barva == NahledStitku::barvaPapiru();
         return n;
     }
 

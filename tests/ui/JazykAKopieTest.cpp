@@ -1,71 +1,16 @@
 // The main window in English and back, a language file gone, and the copies a user makes from
 // the window: Save as with a taken name answered first, an assembly dropped on another order.
+#include "Kroky.h"
 #include "OknoTest.h"
 #include "core/Jazyk.h"
-#include "core/Nastaveni.h"
-#include "exchange/ZakazkaJson.h"
 #include "orders/Kopirovani.h"
-#include "ui/FrmBorovak.h"
-#include "ui/QtPrompt.h"
 
-#include <QAbstractButton>
-#include <QAction>
-#include <QApplication>
 #include <QFile>
-#include <QInputDialog>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QMenuBar>
-#include <QMessageBox>
 #include <QTableWidget>
-#include <QTimer>
-#include <QTreeWidget>
-#include <deque>
 
 namespace {
-
-// Answers the window's modal dialogs in turn: a text for an input box, a button's caption for
-// a message box (whose text is kept).
-class Ruka {
-public:
-    explicit Ruka(std::deque<QString> odpovedi) : m_odpovedi(std::move(odpovedi))
-    {
-        QObject::connect(&m_casovac, &QTimer::timeout, [this] { odpovez(); });
-        m_casovac.start(5);
-    }
-    QStringList zpravy;
-    bool hotovo() const { return m_odpovedi.empty(); }
-
-private:
-    void odpovez()
-    {
-        QWidget* w = QApplication::activeModalWidget();
-        if (!w)
-            return;
-        if (m_odpovedi.empty()) { // an unexpected question fails the test instead of hanging it
-            if (auto* b = qobject_cast<QMessageBox*>(w))
-                zpravy << b->text();
-            if (auto* d = qobject_cast<QDialog*>(w))
-                d->reject();
-            return;
-        }
-        if (auto* d = qobject_cast<QInputDialog*>(w)) {
-            d->setTextValue(m_odpovedi.front());
-            m_odpovedi.pop_front();
-            d->accept();
-        } else if (auto* b = qobject_cast<QMessageBox*>(w)) {
-            zpravy << b->text();
-            for (QAbstractButton* t : b->buttons())
-                if (t->text() == m_odpovedi.front()) {
-                    m_odpovedi.pop_front();
-                    t->click();
-                    return;
-                }
-        }
-    }
-    std::deque<QString> m_odpovedi;
-    QTimer m_casovac;
-};
 
 class OknoJazyk : public OknoTest {
 protected:
@@ -129,7 +74,7 @@ TEST_F(OknoJazyk, ChybejiciSouborNechaPopiskyIZaskrtnuti)
 {
     const QStringList puvodni = popisky();
     ASSERT_TRUE(QFile::remove(Jazyk::cesta(Jazyk::Soubor::Anglictina)));
-    Ruka ruka({QStringLiteral("OK")});
+    Kroky ruka({odpovez(QStringLiteral("OK"))});
     okno->prikaz(QStringLiteral("Anglictina"));
     EXPECT_EQ(ruka.zpravy, QStringList{QStringLiteral("Soubor jazykové verze neexistuje!!!")});
     EXPECT_EQ(popisky(), puvodni);
@@ -141,7 +86,7 @@ TEST_F(OknoJazyk, SestavaUlozenaJakoPoObsazenemNazvu)
 {
     klik(strom->topLevelItem(0)->child(0));
     ASSERT_EQ(okno->txtSestava(), QStringLiteral("Dřez80"));
-    Ruka ruka({QStringLiteral("horní60"), QStringLiteral("OK"), QStringLiteral("Dřez'N")});
+    Kroky ruka({odpovez(QStringLiteral("horní60")), odpovez(QStringLiteral("OK")), odpovez(QStringLiteral("Dřez'N"))});
     okno->prikaz(QStringLiteral("UlozeniSestavyJako"));
     EXPECT_TRUE(ruka.hotovo());
     ASSERT_EQ(ruka.zpravy.size(), 1); // the taken name, in another letter case, refused once
@@ -157,13 +102,13 @@ TEST_F(OknoJazyk, PretazenaSestavaNejdriveNeAPakAno)
     QTreeWidgetItem* zdroj = zakazka(QStringLiteral("Kuchyně Novák"));
     const int sestavChaty = zakazka(QStringLiteral("Chata"))->childCount();
     {
-        Ruka ruka({QStringLiteral("&Ne")});
+        Kroky ruka({odpovez(QStringLiteral("&Ne"))});
         pretahni(zdroj->child(0), zakazka(QStringLiteral("Chata")));
         EXPECT_EQ(ruka.zpravy, QStringList{QStringLiteral("Chcete zkopírovat sestavu - Dřez80 - do zakázky - Chata - ?")});
     }
     EXPECT_EQ(zakazka(QStringLiteral("Chata"))->childCount(), sestavChaty);
     {
-        Ruka ruka({QStringLiteral("&Ano")});
+        Kroky ruka({odpovez(QStringLiteral("&Ano"))});
         pretahni(zakazka(QStringLiteral("Kuchyně Novák"))->child(0), zakazka(QStringLiteral("Chata"))->child(1));
         EXPECT_TRUE(ruka.hotovo());
     }
@@ -171,7 +116,7 @@ TEST_F(OknoJazyk, PretazenaSestavaNejdriveNeAPakAno)
     EXPECT_EQ(okno->txtzakazka(), QStringLiteral("Chata"));
     EXPECT_EQ(okno->txtSestava(), QStringLiteral("Dřez80_"));
     // on its own order nothing is asked
-    Ruka nic({});
+    Kroky nic({});
     pretahni(zakazka(QStringLiteral("Chata"))->child(0), zakazka(QStringLiteral("Chata")));
     EXPECT_TRUE(nic.zpravy.isEmpty());
 }
@@ -183,20 +128,16 @@ TEST_F(OknoJazyk, DlouhyNazevKopieSeUpravouPoznamkyNezkrati)
     okno->NaplnitStrom();
     klik(zakazka(dlouhy));
     ASSERT_EQ(okno->txtzakazka(), dlouhy);
-    QTimer ruka;
     QString videno;
-    QObject::connect(&ruka, &QTimer::timeout, [&] {
-        QWidget* d = QApplication::activeModalWidget();
-        auto* jmeno = d ? d->findChild<QLineEdit*>(QStringLiteral("txtzakazka")) : nullptr;
+    Kroky k({[&](QWidget* d) { // the dialog left open after the save is closed by Kroky
+        auto* jmeno = d->findChild<QLineEdit*>(QStringLiteral("txtzakazka"));
         if (!jmeno || !jmeno->isVisible())
-            return;
+            return false;
         videno = jmeno->text();
         d->findChild<QLineEdit*>(QStringLiteral("txtPoznamka"))->setText(QStringLiteral("jiná poznámka"));
         d->findChild<QPushButton*>(QStringLiteral("cmdZakazkaPouzit"))->click();
-        if (QApplication::activeModalWidget() == d)
-            qobject_cast<QDialog*>(d)->reject();
-    });
-    ruka.start(5);
+        return true;
+    }});
     okno->prikaz(QStringLiteral("UpraveniZakazky"));
     EXPECT_EQ(videno, dlouhy);
     EXPECT_NE(zakazka(dlouhy), nullptr);

@@ -1,6 +1,7 @@
 // The manual: F1 in a window opens that window's page, the help menu the contents, and every
 // link and picture of the pages leads somewhere. An order file opened by the workbench.
 #include "ui/Napoveda.h"
+#include "Kroky.h"
 #include "OknoTest.h"
 #include "exchange/ZakazkaJson.h"
 #include "ui/FrmNapoveda.h"
@@ -10,7 +11,6 @@
 #include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QMessageBox>
 #include <QRegularExpression>
 #include <QTest>
 #include <QTextBrowser>
@@ -109,25 +109,17 @@ TEST_F(NapovedaOkno, SouborZakazkySeNacteAVybereDruhyJeOdmitnut)
     QJsonObject z = QJsonDocument::fromJson(demoJson()).object();
     z[QStringLiteral("zakazka")] = QStringLiteral("Skříň Dvořák");
     const QString soubor = domov() + QStringLiteral("/Skříň Dvořák.zakazka.json");
-    QFile f(soubor);
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-    f.write(QJsonDocument(z).toJson());
-    f.close();
+    zapisSoubor(soubor, QJsonDocument(z).toJson());
 
     okno->otevriSoubor(soubor);
     EXPECT_EQ(okno->txtzakazka(), QStringLiteral("Skříň Dvořák"));
     const QStringList zakazky = ZakazkaJson::seznam(uloziste().dataS());
     EXPECT_EQ(zakazky.size(), 2);
 
-    QString zprava;
-    QTimer::singleShot(50, [&] {
-        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-            zprava = box->text();
-            box->accept();
-        }
-    });
+    Kroky k({});
     okno->otevriSoubor(soubor);
-    EXPECT_TRUE(zprava.contains(QStringLiteral("již existuje"))) << zprava.toStdString();
+    ASSERT_EQ(k.zpravy.size(), 1);
+    EXPECT_TRUE(k.zpravy[0].contains(QStringLiteral("již existuje"))) << k.zpravy[0].toStdString();
     EXPECT_EQ(ZakazkaJson::seznam(uloziste().dataS()), zakazky);
 }
 

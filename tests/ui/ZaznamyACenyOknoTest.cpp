@@ -38,18 +38,6 @@ QString napisAOdejdi(QWidget* d, const char* pole, const QString& klavesy, QStri
     return e->text();
 }
 
-// A step on the entry dialog when it shows the named frame.
-Kroky::Krok vRamci(const char* ramec, std::function<void(FrmNovy*)> akce)
-{
-    return [ramec, akce](QWidget* w) {
-        auto* d = qobject_cast<FrmNovy*>(w);
-        if (!d || !d->findChild<QWidget*>(QString::fromUtf8(ramec)))
-            return false;
-        akce(d);
-        return true;
-    };
-}
-
 using ZaznamyOkno = OknoTest;
 
 } // namespace
