@@ -99,8 +99,9 @@ TEST_F(CliTest, ZabitaObnovaAZalohaNechajiStaraNeboNovaData)
             ASSERT_EQ(seznam.kod, 0) << us << " " << seznam.err.toStdString();
             ASSERT_TRUE(seznam.out == stara || seznam.out == nova) << us << " " << seznam.out.toStdString();
             EXPECT_EQ(spust({"check", zaloha}).kod, 0) << us;
-            if (seznam.out == nova)
+            if (seznam.out == nova) {
                 ASSERT_EQ(spust({"order-load", druha}).kod, 0);
+            }
         }
     for (const QString& s : QDir(domov() + QStringLiteral("/Data")).entryList(QDir::Files))
         EXPECT_FALSE(s.contains(QStringLiteral(".tmp-"))) << s.toStdString();

@@ -119,8 +119,9 @@ TEST_F(Odolnost, DvaPlanyAObnovaNaraz)
             const QString err = QString::fromUtf8(p.readAllStandardError());
             if (p.exitCode() == 0) {
                 ++hotovo;
-                if (i < 2)
+                if (i < 2) {
                     EXPECT_EQ(QString::fromUtf8(p.readAllStandardOutput()), samotne[int(i)]) << kolo; // its own order only
+                }
                 continue;
             }
             // busy beyond a short wait: said in the program's words, and nothing else

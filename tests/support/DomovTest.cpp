@@ -73,8 +73,9 @@ void zapisSoubor(const QString& cesta, const QByteArray& obsah)
 QString textChyby(const std::function<void()>& f)
 {
     const Error e = chybaZ(f);
-    if (e.cislo())
+    if (e.cislo()) {
         EXPECT_EQ(e.cislo(), Chyba::NeplatnyVstup) << e.text().toStdString();
+    }
     return e.text();
 }
 
