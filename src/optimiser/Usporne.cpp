@@ -734,12 +734,12 @@ Plan Hledani::hledej(const std::vector<Plan>& vychozi, const Rizeni& r)
         const bool dost = m_prace >= limit || sekund > 4 * r.sekund + 1;
         return (r.prubeh && r.prubeh(hn.vsech, std::min(1.0, double(m_prace) / std::max<std::int64_t>(limit, 1)))) || dost;
     };
-    // a quarter of the budget for beams, each twice as wide as the last, each after a plan of a
-    // sheet fewer than the best; the rest half for whole plans tried with other knobs, half for
-    // emptying sheets of the best
+    // A quarter of the budget for beams, each twice as wide as the last and at most as wide as a
+    // million children of a layer (the memory a long budget may not outgrow), each after a plan
+    // of a sheet fewer than the best; with offcuts, of no more full sheets (fewer offcuts used is
+    // better too). The rest: half for whole plans tried with other knobs, half for emptying
+    // sheets of the best.
     std::int64_t posledni = 0;
-    // (with offcuts, after a plan of no more full sheets: fewer offcuts used is better too)
-    // (as wide as a million children of a layer at most: the memory a long budget may not outgrow)
     const int nejsirsi = int(std::max<size_t>(16, 1'000'000 / (6 * m_typy.size() + 1)));
     for (int pokus = 0; odrezky || !nejlepsi || hn.vsech > mez; ++pokus) {
         const std::int64_t pred = m_prace;
