@@ -48,6 +48,7 @@ public:
     // The search budget of "úsporně" in seconds, over the setting CasUsporne (the command line's --cas).
     void casUsporne(double sekund) { m_casUsporne = sekund; }
     double sekundHledani() const { return m_sekundHledani; } // of the last "úsporně" search itself
+    int mezHledani() const { return m_mezHledani; } // the sheets it showed no plan can do with less
 
     // After a run.
     const PracovniTabulky& tabulky() const { return m_t; }
@@ -97,6 +98,7 @@ private:
     bool m_zapsat = true;
     std::optional<double> m_casUsporne;
     double m_sekundHledani = 0;
+    int m_mezHledani = 0;
 
 public:
     // The working values of the placement and of the trial, shared by their routines. Axis 0

@@ -1,4 +1,6 @@
 #include "optimiser/Usporne.h"
+
+#include "optimiser/Dukaz.h"
 #include "optimiser/Paprsek.h"
 #include "optimiser/UsporneVzory.h"
 
@@ -6,6 +8,7 @@
 #include <ctime>
 #include <cmath>
 #include <cstdint>
+#include <numeric>
 
 using RezovyPlan::Eps;
 using RezovyPlan::Kus;
@@ -131,6 +134,7 @@ private:
     // the boards given, by type: the lists to hand out and their counts
     std::pair<std::vector<std::vector<int>>, std::vector<int>> podleTypu(const std::vector<int>& desky) const;
     int dolniMez() const;
+    bool nelzeNa(int tabuli, std::int64_t limit);
     std::optional<Plan> paprsek(int sirkaPaprsku, int voditko, int nejvic, int nejvicPlnych,
                                 const std::function<bool()>& zastavit);
 };
@@ -698,6 +702,21 @@ int Hledani::dolniMez() const
     return int(std::ceil(plocha / (sirka(t) * vyska(t)) - 1e-9));
 }
 
+// True when the boards provably do not go on `tabuli` sheets; only orders of a few boards on
+// sheets alike, cut in three stages, are tried, within `limit` steps.
+bool Hledani::nelzeNa(int tabuli, std::int64_t limit)
+{
+    const bool odrezky = std::any_of(m_z.tabule.begin(), m_z.tabule.end(), [](const Tabule& t) { return t.odrezek; });
+    if (m_z.tabule.empty() || odrezky || m_z.stupne != 3 ||
+        std::accumulate(m_pocet0.begin(), m_pocet0.end(), 0) > NejvicDesekDukazu)
+        return false;
+    std::vector<Velikost> desky;
+    for (size_t t = 0; t < m_typy.size(); ++t)
+        desky.push_back({std::lround(m_typy[t].sx[0]), std::lround(m_typy[t].sy[0]), m_typy[t].orientaci == 2, m_pocet0[t]});
+    const Tabule& t = m_z.tabule.back();
+    return Usporne::nelzeNa(desky, std::lround(sirka(t)), std::lround(vyska(t)), tabuli, m_prace, m_prace + limit);
+}
+
 // Steps of the inner loops per second of the budget: about a processor second of this project's
 // two-core build box (2026).
 constexpr double KrokuZaSekundu = 400e6;
@@ -705,14 +724,33 @@ constexpr double KrokuZaSekundu = 400e6;
 Plan Hledani::hledej(const std::vector<Plan>& vychozi, const Rizeni& r)
 {
     const std::clock_t start = std::clock();
+    int mez = dolniMez();
+    auto vysledek = [&](std::optional<Plan>& p) {
+        p->mez = mez;
+        return std::move(*p);
+    };
     std::int64_t limit = std::int64_t(std::max(r.sekund, 0.0) * KrokuZaSekundu);
     std::optional<Plan> nejlepsi;
     Hodnoceni hn;
+    const bool odrezky = std::any_of(m_z.tabule.begin(), m_z.tabule.end(), [](const Tabule& t) { return t.odrezek; });
+    bool uMeze = false;
+    // A third of the budget may go to showing that a small order needs the sheets of the best
+    // plan: each time the best gets a sheet fewer, a sheet fewer is tried.
+    std::int64_t naDukaz = limit / 3;
+    int dokazovano = 0;
     auto zkus = [&](Plan p) {
         const Hodnoceni h = ohodnot(m_z, p);
         if (!nejlepsi || h.lepsiNez(hn)) {
             hn = h;
             nejlepsi = std::move(p);
+        }
+        if (!odrezky && hn.neusazeno == int(m_mimo.size()) && hn.vsech > mez && hn.vsech != dokazovano &&
+            naDukaz > 0) {
+            dokazovano = hn.vsech;
+            const std::int64_t pred = m_prace;
+            if (nelzeNa(hn.vsech - 1, naDukaz))
+                mez = hn.vsech;
+            naDukaz -= m_prace - pred;
         }
     };
     for (const Plan& p : vychozi) {
@@ -724,9 +762,6 @@ Plan Hledani::hledej(const std::vector<Plan>& vychozi, const Rizeni& r)
         else if (auto znovu = prerezej(p))
             zkus(std::move(*znovu));
     }
-    const int mez = dolniMez();
-    const bool odrezky = std::any_of(m_z.tabule.begin(), m_z.tabule.end(), [](const Tabule& t) { return t.odrezek; });
-    bool uMeze = false;
     auto konec = [&] {
         // a safety net for a machine far slower than counted: processor time, not the clock on
         // the wall, so that other programs' load does not change the plan
@@ -753,7 +788,7 @@ Plan Hledani::hledej(const std::vector<Plan>& vychozi, const Rizeni& r)
             zkus(std::move(*plan));
         posledni = m_prace - pred;
         if (konec() && nejlepsi) // without a plan yet, the strip-by-strip try below makes one
-            return std::move(*nejlepsi);
+            return vysledek(nejlepsi);
     }
     for (int pokus = 0; pokus == 0 || m_prace < limit / 2; ++pokus) {
         Parametry p;
@@ -772,7 +807,7 @@ Plan Hledani::hledej(const std::vector<Plan>& vychozi, const Rizeni& r)
             limit = std::min(limit, m_prace + limit / 4);
         }
         if (konec())
-            return std::move(*nejlepsi);
+            return vysledek(nejlepsi);
     }
     // one plan emptied on and on: a round that frees no sheet still leaves its sheets more
     // unevenly full, which the next round builds on
@@ -781,7 +816,7 @@ Plan Hledani::hledej(const std::vector<Plan>& vychozi, const Rizeni& r)
         vyprazdni(plan, std::min(limit, m_prace + limit / 20));
         zkus(plan);
     }
-    return std::move(*nejlepsi);
+    return vysledek(nejlepsi);
 }
 
 } // namespace

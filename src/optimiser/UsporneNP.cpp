@@ -142,6 +142,7 @@ bool PlanRun::usporne()
     hodiny.start();
     const Usporne::Plan plan = Usporne::hledej(z, vychozi, rizeni);
     m_sekundHledani = hodiny.nsecsElapsed() / 1e9;
+    m_mezHledani = plan.mez;
     doTabulek(m_t, radky, z, plan);
     if (!plan.neusazene.empty())
         varujNeusazene();
