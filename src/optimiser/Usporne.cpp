@@ -86,6 +86,7 @@ public:
     Hledani(const Zadani& z) : m_z(z) { pripravTypy(); }
 
     Plan hledej(const std::vector<Plan>& vychozi, const Rizeni& r);
+    int mez() const { return m_mez; }
 
 private:
     const Zadani& m_z;
@@ -96,6 +97,9 @@ private:
     std::vector<double> m_cena;
     std::vector<double> m_korekce;
     std::int64_t m_prace = 0;
+    std::int64_t m_naDukaz = 0; // steps left for proofs of the fewest sheets
+    int m_dokazovano = 0;       // the sheets of the plan last shown or not shown the fewest
+    int m_mez = 0;              // no plan of fewer sheets exists
     std::uint64_t m_nahoda = 0x9E3779B97F4A7C15ull;
 
     double nahodne()
@@ -128,12 +132,14 @@ private:
     void vyprazdni(Plan& plan, std::int64_t limit);
     void seradTabule(Plan& plan, const std::vector<double>& plochy, const std::vector<bool>& smazana) const;
     std::optional<Plan> prerezej(const Plan& plan);
+    std::optional<Plan> veStupnich(const Plan& plan);
     void oprav(const Plan& plan);
     std::vector<int> deskyNa(const Kus& k) const;
     double plochaDesek(const Kus& k) const;
     // the boards given, by type: the lists to hand out and their counts
     std::pair<std::vector<std::vector<int>>, std::vector<int>> podleTypu(const std::vector<int>& desky) const;
     int dolniMez() const;
+    int dokazanaMez(int tabuli, int mez);
     bool nelzeNa(int tabuli, std::int64_t limit);
     std::optional<Plan> paprsek(int sirkaPaprsku, int voditko, int nejvic, int nejvicPlnych,
                                 const std::function<bool()>& zastavit);
@@ -702,6 +708,29 @@ int Hledani::dolniMez() const
     return int(std::ceil(plocha / (sirka(t) * vyska(t)) - 1e-9));
 }
 
+// A plan of another mode as it is when it keeps the stage limit, or else each sheet laid out again
+// from its own boards.
+std::optional<Plan> Hledani::veStupnich(const Plan& p)
+{
+    const bool vStupnich = std::all_of(p.tabule.begin(), p.tabule.end(), [&](const TabulePlanu& t) {
+        return RezovyPlan::stupne(t.strom) <= m_z.stupne;
+    });
+    return vStupnich ? std::optional<Plan>(p) : prerezej(p);
+}
+
+// The bound `mez` raised to `tabuli` when a plan of a sheet fewer is shown not to exist. A third
+// of the budget may go to it: each time the best plan gets a sheet fewer, a sheet fewer is tried.
+int Hledani::dokazanaMez(int tabuli, int mez)
+{
+    if (tabuli <= mez || tabuli == m_dokazovano || m_naDukaz <= 0)
+        return mez;
+    m_dokazovano = tabuli;
+    const std::int64_t pred = m_prace;
+    const bool nelze = nelzeNa(tabuli - 1, m_naDukaz);
+    m_naDukaz -= m_prace - pred;
+    return nelze ? tabuli : mez;
+}
+
 // True when the boards provably do not go on `tabuli` sheets; only orders of a few boards on
 // sheets alike, cut in three stages, are tried, within `limit` steps.
 bool Hledani::nelzeNa(int tabuli, std::int64_t limit)
@@ -724,44 +753,26 @@ constexpr double KrokuZaSekundu = 400e6;
 Plan Hledani::hledej(const std::vector<Plan>& vychozi, const Rizeni& r)
 {
     const std::clock_t start = std::clock();
-    int mez = dolniMez();
-    auto vysledek = [&](std::optional<Plan>& p) {
-        p->mez = mez;
-        return std::move(*p);
-    };
+    int& mez = m_mez;
+    mez = dolniMez();
     std::int64_t limit = std::int64_t(std::max(r.sekund, 0.0) * KrokuZaSekundu);
     std::optional<Plan> nejlepsi;
     Hodnoceni hn;
     const bool odrezky = std::any_of(m_z.tabule.begin(), m_z.tabule.end(), [](const Tabule& t) { return t.odrezek; });
     bool uMeze = false;
-    // A third of the budget may go to showing that a small order needs the sheets of the best
-    // plan: each time the best gets a sheet fewer, a sheet fewer is tried.
-    std::int64_t naDukaz = limit / 3;
-    int dokazovano = 0;
+    m_naDukaz = limit / 3;
     auto zkus = [&](Plan p) {
         const Hodnoceni h = ohodnot(m_z, p);
         if (!nejlepsi || h.lepsiNez(hn)) {
             hn = h;
             nejlepsi = std::move(p);
         }
-        if (!odrezky && hn.neusazeno == int(m_mimo.size()) && hn.vsech > mez && hn.vsech != dokazovano &&
-            naDukaz > 0) {
-            dokazovano = hn.vsech;
-            const std::int64_t pred = m_prace;
-            if (nelzeNa(hn.vsech - 1, naDukaz))
-                mez = hn.vsech;
-            naDukaz -= m_prace - pred;
-        }
+        if (!odrezky && hn.neusazeno == int(m_mimo.size()))
+            mez = dokazanaMez(hn.vsech, mez);
     };
-    for (const Plan& p : vychozi) {
-        const bool vStupnich = std::all_of(p.tabule.begin(), p.tabule.end(), [&](const TabulePlanu& t) {
-            return RezovyPlan::stupne(t.strom) <= m_z.stupne;
-        });
-        if (vStupnich)
-            zkus(p);
-        else if (auto znovu = prerezej(p))
-            zkus(std::move(*znovu));
-    }
+    for (const Plan& p : vychozi)
+        if (auto v = veStupnich(p))
+            zkus(std::move(*v));
     auto konec = [&] {
         // a safety net for a machine far slower than counted: processor time, not the clock on
         // the wall, so that other programs' load does not change the plan
@@ -788,7 +799,7 @@ Plan Hledani::hledej(const std::vector<Plan>& vychozi, const Rizeni& r)
             zkus(std::move(*plan));
         posledni = m_prace - pred;
         if (konec() && nejlepsi) // without a plan yet, the strip-by-strip try below makes one
-            return vysledek(nejlepsi);
+            return std::move(*nejlepsi);
     }
     for (int pokus = 0; pokus == 0 || m_prace < limit / 2; ++pokus) {
         Parametry p;
@@ -807,7 +818,7 @@ Plan Hledani::hledej(const std::vector<Plan>& vychozi, const Rizeni& r)
             limit = std::min(limit, m_prace + limit / 4);
         }
         if (konec())
-            return vysledek(nejlepsi);
+            return std::move(*nejlepsi);
     }
     // one plan emptied on and on: a round that frees no sheet still leaves its sheets more
     // unevenly full, which the next round builds on
@@ -816,14 +827,17 @@ Plan Hledani::hledej(const std::vector<Plan>& vychozi, const Rizeni& r)
         vyprazdni(plan, std::min(limit, m_prace + limit / 20));
         zkus(plan);
     }
-    return vysledek(nejlepsi);
+    return std::move(*nejlepsi);
 }
 
 } // namespace
 
 Plan hledej(const Zadani& zadani, const std::vector<Plan>& vychozi, const Rizeni& rizeni)
 {
-    return Hledani(zadani).hledej(vychozi, rizeni);
+    Hledani h(zadani);
+    Plan plan = h.hledej(vychozi, rizeni);
+    plan.mez = h.mez();
+    return plan;
 }
 
 }
