@@ -767,7 +767,7 @@ Plan Hledani::hledej(const std::vector<Plan>& vychozi, const Rizeni& r)
             hn = h;
             nejlepsi = std::move(p);
         }
-        if (!odrezky && hn.neusazeno == int(m_mimo.size()))
+        if (hn.neusazeno == int(m_mimo.size()))
             mez = dokazanaMez(hn.vsech, mez);
     };
     for (const Plan& p : vychozi)
