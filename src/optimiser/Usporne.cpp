@@ -1,6 +1,7 @@
 #include "optimiser/Usporne.h"
 
 #include "optimiser/Dukaz.h"
+#include "optimiser/MezSloupcu.h"
 #include "optimiser/Paprsek.h"
 #include "optimiser/UsporneVzory.h"
 
@@ -100,6 +101,7 @@ private:
     std::int64_t m_naDukaz = 0; // steps left for proofs of the fewest sheets
     int m_dokazovano = 0;       // the sheets of the plan last shown or not shown the fewest
     int m_mez = 0;              // no plan of fewer sheets exists
+    int m_mezSloupcu = -1;      // the relaxation's bound, once worked out
     std::uint64_t m_nahoda = 0x9E3779B97F4A7C15ull;
 
     double nahodne()
@@ -139,8 +141,8 @@ private:
     // the boards given, by type: the lists to hand out and their counts
     std::pair<std::vector<std::vector<int>>, std::vector<int>> podleTypu(const std::vector<int>& desky) const;
     int dolniMez() const;
-    int dokazanaMez(int tabuli, int mez);
-    bool nelzeNa(int tabuli, std::int64_t limit);
+    int dokazanaMez(const Plan& plan, int mez);
+    bool nelzeNa(const Plan& plan, int tabuli, std::int64_t limit);
     std::optional<Plan> paprsek(int sirkaPaprsku, int voditko, int nejvic, int nejvicPlnych,
                                 const std::function<bool()>& zastavit);
 };
@@ -718,32 +720,48 @@ std::optional<Plan> Hledani::veStupnich(const Plan& p)
     return vStupnich ? std::optional<Plan>(p) : prerezej(p);
 }
 
-// The bound `mez` raised to `tabuli` when a plan of a sheet fewer is shown not to exist. A third
-// of the budget may go to it: each time the best plan gets a sheet fewer, a sheet fewer is tried.
-int Hledani::dokazanaMez(int tabuli, int mez)
+// The bound `mez` raised to the sheets of the plan when a plan of a sheet fewer is shown not to
+// exist. A third of the budget may go to it: each time the best plan gets a sheet fewer, a sheet
+// fewer is tried.
+int Hledani::dokazanaMez(const Plan& plan, int mez)
 {
+    const int tabuli = int(plan.tabule.size());
     if (tabuli <= mez || tabuli == m_dokazovano || m_naDukaz <= 0)
         return mez;
     m_dokazovano = tabuli;
     const std::int64_t pred = m_prace;
-    const bool nelze = nelzeNa(tabuli - 1, m_naDukaz);
+    const bool nelze = nelzeNa(plan, tabuli - 1, m_naDukaz);
     m_naDukaz -= m_prace - pred;
     return nelze ? tabuli : mez;
 }
 
-// True when the boards provably do not go on `tabuli` sheets; only orders of a few boards on
-// sheets alike, cut in three stages, are tried, within `limit` steps.
-bool Hledani::nelzeNa(int tabuli, std::int64_t limit)
+// True when the boards provably do not go on `tabuli` sheets of a plan in three stages on sheets
+// alike, within `limit` steps: first by the relaxation over sheet patterns (an order of a few
+// sizes), then, for a few boards, by trying every way with the steps the first left.
+bool Hledani::nelzeNa(const Plan& plan, int tabuli, std::int64_t limit)
 {
     const bool odrezky = std::any_of(m_z.tabule.begin(), m_z.tabule.end(), [](const Tabule& t) { return t.odrezek; });
-    if (m_z.tabule.empty() || odrezky || m_z.stupne != 3 ||
-        std::accumulate(m_pocet0.begin(), m_pocet0.end(), 0) > NejvicDesekDukazu)
+    if (m_z.tabule.empty() || odrezky || m_z.stupne != 3)
         return false;
     std::vector<Velikost> desky;
     for (size_t t = 0; t < m_typy.size(); ++t)
         desky.push_back({std::lround(m_typy[t].sx[0]), std::lround(m_typy[t].sy[0]), m_typy[t].orientaci == 2, m_pocet0[t]});
     const Tabule& t = m_z.tabule.back();
-    return Usporne::nelzeNa(desky, std::lround(sirka(t)), std::lround(vyska(t)), tabuli, m_prace, m_prace + limit);
+    const long W = std::lround(sirka(t)), H = std::lround(vyska(t));
+    const bool malo = std::accumulate(m_pocet0.begin(), m_pocet0.end(), 0) <= NejvicDesekDukazu;
+    const std::int64_t konec = m_prace + limit;
+    if (m_mezSloupcu < 0) { // the search only ever asks of fewer sheets than it asked before
+        std::vector<std::vector<int>> vzory; // the plan's sheets: patterns the relaxation starts from
+        for (const TabulePlanu& tp : plan.tabule) {
+            vzory.emplace_back(m_typy.size(), 0);
+            for (int d : deskyNa(tp.strom))
+                ++vzory.back()[size_t(m_typDesky[d])];
+        }
+        m_mezSloupcu = mezSloupcu(desky, W, H, tabuli + 1, m_prace, konec, vzory);
+    }
+    if (m_mezSloupcu > tabuli)
+        return true;
+    return malo && Usporne::nelzeNa(desky, W, H, tabuli, m_prace, konec);
 }
 
 // Steps of the inner loops per second of the budget: about a processor second of this project's
@@ -768,7 +786,7 @@ Plan Hledani::hledej(const std::vector<Plan>& vychozi, const Rizeni& r)
             nejlepsi = std::move(p);
         }
         if (hn.neusazeno == int(m_mimo.size()))
-            mez = dokazanaMez(hn.vsech, mez);
+            mez = dokazanaMez(*nejlepsi, mez);
     };
     for (const Plan& p : vychozi)
         if (auto v = veStupnich(p))
