@@ -83,126 +83,156 @@ double NejcennejsiList::nejvic(const std::vector<double>& ceny, std::vector<int>
     return a;
 }
 
-// Stacks first (for each width a stack may have, the worth of every height), then strips (for
-// each height a strip may have, the best stacks side by side), then the sheet (strips one over
-// another); each an unbounded knapsack, so a choice is remembered per length to read it back.
-double NejcennejsiList::jednimSmerem(const Smer& s, const std::vector<double>& ceny, std::vector<int>& pocty,
-                                     std::int64_t& prace) const
-{
-    pocty.assign(size_t(m_typu), 0);
-    std::vector<Kus> kusy;
-    for (const Kus& k : s.kusy)
-        if (ceny[size_t(k.typ)] > 0 && k.w <= s.W && k.h <= s.H)
-            kusy.push_back(k);
-    if (kusy.empty())
-        return 0;
-    std::vector<long> w0, h0;
-    for (const Kus& k : kusy) {
-        w0.push_back(k.w);
-        h0.push_back(k.h);
-    }
-    const std::vector<long> sirky = ruzne(w0), vysky = ruzne(h0);
-    const size_t m = sirky.size(), H = size_t(s.H), W = size_t(s.W);
+namespace {
 
-    // stoh[k][h]: pieces no wider than sirky[k] one over another, at most h high
-    std::vector<std::vector<double>> stoh(m, std::vector<double>(H + 1, 0));
-    std::vector<std::vector<int>> volbaStohu(m, std::vector<int>(H + 1, Zadny));
+using Kus = NejcennejsiList::Kus;
+
+// For each width a stack may have (the pieces' widths), the worth of pieces no wider stacked one
+// over another up to each height, and the piece last put on, to read a stack back.
+struct Stohy {
+    std::vector<long> sirky;
+    std::vector<std::vector<double>> hodnota;
+    std::vector<std::vector<int>> volba;
+};
+
+Stohy stohy(const std::vector<Kus>& kusy, const std::vector<double>& ceny, const std::vector<long>& vysky, size_t H,
+            std::int64_t& prace)
+{
+    Stohy st;
+    std::vector<long> sirky;
+    for (const Kus& k : kusy)
+        sirky.push_back(k.w);
+    st.sirky = ruzne(sirky);
     std::vector<int> nejlepsi(vysky.size(), Zadny); // of each height, the worthiest piece narrow enough
-    for (size_t k = 0; k < m; ++k) {
+    for (long sirka : st.sirky) {
         for (size_t i = 0; i < kusy.size(); ++i) {
-            if (kusy[i].w != sirky[k])
+            if (kusy[i].w != sirka)
                 continue;
             const size_t j = size_t(std::lower_bound(vysky.begin(), vysky.end(), kusy[i].h) - vysky.begin());
             if (nejlepsi[j] == Zadny || ceny[size_t(kusy[size_t(nejlepsi[j])].typ)] < ceny[size_t(kusy[i].typ)])
                 nejlepsi[j] = int(i);
         }
-        struct Moznost {
-            size_t h;
-            double cena;
-            int kus;
-        };
-        std::vector<Moznost> moznosti; // by height, lowest first
+        std::vector<std::pair<size_t, int>> moznosti; // height, piece; lowest first
         for (size_t j = 0; j < vysky.size(); ++j)
             if (nejlepsi[j] != Zadny)
-                moznosti.push_back({size_t(vysky[j]), ceny[size_t(kusy[size_t(nejlepsi[j])].typ)], nejlepsi[j]});
+                moznosti.push_back({size_t(vysky[j]), nejlepsi[j]});
+        std::vector<double> f(H + 1, 0);
+        std::vector<int> volba(H + 1, Zadny);
         for (size_t h = 1; h <= H; ++h) {
-            stoh[k][h] = stoh[k][h - 1];
-            volbaStohu[k][h] = JakoNizsi;
-            for (const Moznost& mo : moznosti) {
-                if (mo.h > h)
+            f[h] = f[h - 1];
+            volba[h] = JakoNizsi;
+            for (const auto& [v, kus] : moznosti) {
+                if (v > h)
                     break;
-                const double v = stoh[k][h - mo.h] + mo.cena;
-                if (v > stoh[k][h] + 1e-12) {
-                    stoh[k][h] = v;
-                    volbaStohu[k][h] = mo.kus;
+                const double c = f[h - v] + ceny[size_t(kusy[size_t(kus)].typ)];
+                if (c > f[h] + 1e-12) {
+                    f[h] = c;
+                    volba[h] = kus;
                 }
             }
         }
         prace += std::int64_t(H) * std::int64_t(moznosti.size()) / Krok;
+        st.hodnota.push_back(std::move(f));
+        st.volba.push_back(std::move(volba));
     }
+    return st;
+}
 
-    // pas[r]: the best strip of height vyskyPasu[r], and the widths of its stacks
-    const std::vector<long> vyskyPasu = rastr(vysky, s.H);
-    std::vector<double> pas(vyskyPasu.size(), 0);
-    std::vector<std::vector<int>> stohyPasu(vyskyPasu.size());
+// For each height a strip may have, the best stacks side by side along W: the strip's worth and
+// its stacks (indices into Stohy::sirky).
+struct Pasy {
+    std::vector<long> vysky;
+    std::vector<double> hodnota;
+    std::vector<std::vector<int>> stohy;
+};
+
+Pasy pasy(const Stohy& st, const std::vector<long>& vyskyKusu, size_t W, long H, std::int64_t& prace)
+{
+    Pasy p;
+    p.vysky = rastr(vyskyKusu, H);
     std::vector<double> g(W + 1);
     std::vector<int> volba(W + 1);
-    for (size_t r = 0; r < vyskyPasu.size(); ++r) {
-        const size_t h = size_t(vyskyPasu[r]);
+    for (long vyska : p.vysky) {
+        const size_t h = size_t(vyska);
         // a stack wider than another and worth no more is never needed
-        std::vector<size_t> stohy;
-        for (size_t k = 0; k < m; ++k)
-            if (stoh[k][h] > (stohy.empty() ? 0 : stoh[stohy.back()][h]) + 1e-12)
-                stohy.push_back(k);
+        std::vector<size_t> uzitecne;
+        for (size_t k = 0; k < st.sirky.size(); ++k)
+            if (st.hodnota[k][h] > (uzitecne.empty() ? 0 : st.hodnota[uzitecne.back()][h]) + 1e-12)
+                uzitecne.push_back(k);
         g[0] = 0;
         for (size_t w = 1; w <= W; ++w) {
             g[w] = g[w - 1];
             volba[w] = JakoNizsi;
-            for (size_t k : stohy) {
-                if (size_t(sirky[k]) > w)
+            for (size_t k : uzitecne) {
+                if (size_t(st.sirky[k]) > w)
                     break;
-                const double v = g[w - size_t(sirky[k])] + stoh[k][h];
+                const double v = g[w - size_t(st.sirky[k])] + st.hodnota[k][h];
                 if (v > g[w] + 1e-12) {
                     g[w] = v;
                     volba[w] = int(k);
                 }
             }
         }
-        prace += std::int64_t(W) * std::int64_t(stohy.size()) / Krok;
-        pas[r] = g[W];
+        prace += std::int64_t(W) * std::int64_t(uzitecne.size()) / Krok;
+        p.hodnota.push_back(g[W]);
+        p.stohy.emplace_back();
         for (size_t w = W; w > 0;) {
             if (volba[w] == JakoNizsi) {
                 --w;
                 continue;
             }
-            stohyPasu[r].push_back(volba[w]);
-            w -= size_t(sirky[size_t(volba[w])]);
+            p.stohy.back().push_back(volba[w]);
+            w -= size_t(st.sirky[size_t(volba[w])]);
         }
     }
+    return p;
+}
+
+} // namespace
+
+// Stacks, then strips of stacks, then the sheet of strips one over another; each an unbounded
+// knapsack, so a choice is remembered per length to read the sheet back.
+double NejcennejsiList::jednimSmerem(const Smer& s, const std::vector<double>& ceny, std::vector<int>& pocty,
+                                     std::int64_t& prace) const
+{
+    pocty.assign(size_t(m_typu), 0);
+    std::vector<Kus> kusy;
+    std::vector<long> vysky;
+    for (const Kus& k : s.kusy)
+        if (ceny[size_t(k.typ)] > 0 && k.w <= s.W && k.h <= s.H) {
+            kusy.push_back(k);
+            vysky.push_back(k.h);
+        }
+    if (kusy.empty())
+        return 0;
+    vysky = ruzne(vysky);
+    const size_t H = size_t(s.H);
+    const Stohy st = stohy(kusy, ceny, vysky, H, prace);
+    const Pasy p = pasy(st, vysky, size_t(s.W), s.H, prace);
 
     std::vector<double> f(H + 1, 0);
-    std::vector<int> volbaPasu(H + 1, JakoNizsi);
+    std::vector<int> volba(H + 1, JakoNizsi);
     for (size_t h = 1; h <= H; ++h) {
         f[h] = f[h - 1];
-        for (size_t r = 0; r < vyskyPasu.size() && size_t(vyskyPasu[r]) <= h; ++r) {
-            const double v = f[h - size_t(vyskyPasu[r])] + pas[r];
+        for (size_t r = 0; r < p.vysky.size() && size_t(p.vysky[r]) <= h; ++r) {
+            const double v = f[h - size_t(p.vysky[r])] + p.hodnota[r];
             if (v > f[h] + 1e-12) {
                 f[h] = v;
-                volbaPasu[h] = int(r);
+                volba[h] = int(r);
             }
         }
     }
-    prace += std::int64_t(H) * std::int64_t(vyskyPasu.size()) / Krok;
+    prace += std::int64_t(H) * std::int64_t(p.vysky.size()) / Krok;
 
     for (size_t h = H; h > 0;) {
-        if (volbaPasu[h] == JakoNizsi) {
+        if (volba[h] == JakoNizsi) {
             --h;
             continue;
         }
-        const size_t r = size_t(volbaPasu[h]);
-        for (int k : stohyPasu[r])
-            for (size_t v = size_t(vyskyPasu[r]); v > 0;) {
-                const int c = volbaStohu[size_t(k)][v];
+        const size_t r = size_t(volba[h]);
+        for (int k : p.stohy[r])
+            for (size_t v = size_t(p.vysky[r]); v > 0;) {
+                const int c = st.volba[size_t(k)][v];
                 if (c == Zadny)
                     break;
                 if (c == JakoNizsi) {
@@ -212,7 +242,7 @@ double NejcennejsiList::jednimSmerem(const Smer& s, const std::vector<double>& c
                 ++pocty[size_t(kusy[size_t(c)].typ)];
                 v -= size_t(kusy[size_t(c)].h);
             }
-        h -= size_t(vyskyPasu[r]);
+        h -= size_t(p.vysky[r]);
     }
     return f[H];
 }

@@ -21,11 +21,12 @@ public:
     // About the steps nejvic takes: a caller short of budget does not start one.
     std::int64_t odhad() const;
 
-private:
     struct Kus {
         int typ;
-        long w, h; // along the strips and across them, in units of m_jednotka
+        long w, h; // along the strips and across them, in the sizes' common unit
     };
+
+private:
     struct Smer {
         std::vector<Kus> kusy;
         long W, H;
