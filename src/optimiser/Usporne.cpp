@@ -752,11 +752,8 @@ bool Hledani::nelzeNa(const Plan& plan, int tabuli, std::int64_t limit)
     const std::int64_t konec = m_prace + limit;
     if (m_mezSloupcu < 0) { // the search only ever asks of fewer sheets than it asked before
         std::vector<std::vector<int>> vzory; // the plan's sheets: patterns the relaxation starts from
-        for (const TabulePlanu& tp : plan.tabule) {
-            vzory.emplace_back(m_typy.size(), 0);
-            for (int d : deskyNa(tp.strom))
-                ++vzory.back()[size_t(m_typDesky[d])];
-        }
+        for (const TabulePlanu& tp : plan.tabule)
+            vzory.push_back(podleTypu(deskyNa(tp.strom)).second);
         m_mezSloupcu = mezSloupcu(desky, W, H, tabuli + 1, m_prace, konec, vzory);
     }
     if (m_mezSloupcu > tabuli)
