@@ -3,6 +3,7 @@
 #include "optimiser/Dukaz.h"
 #include "optimiser/MezSloupcu.h"
 #include "optimiser/Paprsek.h"
+#include "optimiser/PlneTabule.h"
 #include "optimiser/UsporneVzory.h"
 
 #include <algorithm>
@@ -145,6 +146,11 @@ private:
     bool nelzeNa(const Plan& plan, int tabuli, std::int64_t limit);
     std::optional<Plan> paprsek(int sirkaPaprsku, int voditko, int nejvic, int nejvicPlnych,
                                 const std::function<bool()>& zastavit);
+    bool naPlneTabule() const;
+    // prubeh: the steps spent so far, for progress and Storno
+    std::optional<Plan> sPlnymiTabulemi(std::int64_t limit, const std::function<bool(std::int64_t)>& prubeh);
+    Plan spoj(const std::vector<Vyplneni>& listy, const Plan& zbytku, const std::vector<int>& puvodni) const;
+    bool m_vnorene = false; // a search of the boards another left: no knapsack sheets of its own
 };
 
 void Hledani::pripravTypy()
@@ -765,6 +771,85 @@ bool Hledani::nelzeNa(const Plan& plan, int tabuli, std::int64_t limit)
 // two-core build box (2026).
 constexpr double KrokuZaSekundu = 400e6;
 
+// Knapsack sheets pay on a large order of sheets alike, many boards to a sheet.
+bool Hledani::naPlneTabule() const
+{
+    const bool stejne = std::all_of(m_z.tabule.begin(), m_z.tabule.end(), [&](const Tabule& t) {
+        return !t.odrezek && std::abs(t.x - m_z.tabule[0].x) < Eps && std::abs(t.y - m_z.tabule[0].y) < Eps;
+    });
+    const int mez = dolniMez();
+    return !m_vnorene && stejne && mez >= 10 && std::accumulate(m_pocet0.begin(), m_pocet0.end(), 0) >= 10 * mez;
+}
+
+// A plan whose first sheets the knapsacks fill, up to two thirds of the boards' area; the boards
+// they leave are laid by a search of their own with the steps left of `limit`.
+std::optional<Plan> Hledani::sPlnymiTabulemi(std::int64_t limit, const std::function<bool(std::int64_t)>& prubeh)
+{
+    PlneTabuleZadani pz;
+    pz.typy = &m_typy;
+    pz.W = sirka(m_z.tabule[0]);
+    pz.H = vyska(m_z.tabule[0]);
+    pz.stohy = m_z.stupne >= 3;
+    double nejvetsi = 0, plocha = 0;
+    for (size_t t = 0; t < m_typy.size(); ++t) {
+        nejvetsi = std::max(nejvetsi, m_typy[t].plocha);
+        plocha += m_pocet0[t] * m_typy[t].plocha;
+    }
+    for (const Typ& t : m_typy) // large boards a little worthier: the small ones fill the last sheets
+        pz.ceny.push_back(std::pow(t.plocha / nejvetsi, 1.1));
+    pz.doZbytku = plocha / 3;
+    pz.zastavit = [&] { return prubeh(m_prace); };
+    std::vector<int> pocet = m_pocet0;
+    const std::vector<Vyplneni> listy = plneTabule(pz, pocet, m_prace, limit);
+    if (listy.empty() || m_prace >= limit)
+        return std::nullopt;
+    Zadani zbytek = m_z; // the boards left, each by its index in the order
+    zbytek.desky.clear();
+    std::vector<int> puvodni;
+    for (size_t t = 0; t < m_typy.size(); ++t)
+        for (size_t i = m_pocet0[t] - pocet[t]; i < m_typy[t].desky.size(); ++i) {
+            puvodni.push_back(m_typy[t].desky[i]);
+            zbytek.desky.push_back(m_z.desky[puvodni.back()]);
+        }
+    Hledani vnorene(zbytek);
+    vnorene.m_vnorene = true;
+    Rizeni rz;
+    rz.sekund = double(limit - m_prace) / KrokuZaSekundu;
+    rz.prubeh = [&](int, double) { return prubeh(m_prace + vnorene.m_prace); };
+    const Plan zbytku = vnorene.hledej({}, rz);
+    m_prace += vnorene.m_prace;
+    if (listy.size() + zbytku.tabule.size() > m_z.tabule.size())
+        return std::nullopt;
+    return spoj(listy, zbytku, puvodni);
+}
+
+// The knapsack sheets first, then the sheets of the plan of the boards they left, whose boards
+// are numbered as in that plan's order: puvodni gives their numbers in this one.
+Plan Hledani::spoj(const std::vector<Vyplneni>& listy, const Plan& zbytku, const std::vector<int>& puvodni) const
+{
+    Plan plan;
+    const auto vsechny = deskyTypu();
+    std::vector<size_t> dalsi(m_typy.size(), 0);
+    for (size_t i = 0; i < listy.size(); ++i)
+        plan.tabule.push_back({int(i), strom(listy[i], m_z.tabule[i], vsechny, dalsi)});
+    auto precisluj = [&](Kus& k, auto& sam) -> void {
+        if (k.deska >= 0)
+            k.deska = puvodni[k.deska];
+        for (Kus& d : k.deti)
+            sam(d, sam);
+    };
+    for (TabulePlanu t : zbytku.tabule) {
+        precisluj(t.strom, precisluj);
+        t.tabule += int(listy.size());
+        plan.tabule.push_back(std::move(t));
+    }
+    plan.neusazene = m_mimo;
+    for (int d : zbytku.neusazene)
+        plan.neusazene.push_back(puvodni[d]);
+    std::sort(plan.neusazene.begin(), plan.neusazene.end());
+    return plan;
+}
+
 Plan Hledani::hledej(const std::vector<Plan>& vychozi, const Rizeni& r)
 {
     const std::clock_t start = std::clock();
@@ -788,6 +873,13 @@ Plan Hledani::hledej(const std::vector<Plan>& vychozi, const Rizeni& r)
     for (const Plan& p : vychozi)
         if (auto v = veStupnich(p))
             zkus(std::move(*v));
+    if (naPlneTabule()) { // three quarters of the budget, the other tries the rest
+        auto prubeh = [&](std::int64_t kroku) {
+            return r.prubeh && r.prubeh(hn.vsech, std::min(1.0, double(kroku) / double(std::max<std::int64_t>(limit, 1))));
+        };
+        if (auto p = sPlnymiTabulemi(m_prace + limit * 3 / 4, prubeh))
+            zkus(std::move(*p));
+    }
     auto konec = [&] {
         // a safety net for a machine far slower than counted: processor time, not the clock on
         // the wall, so that other programs' load does not change the plan

@@ -10,6 +10,8 @@
 
 #include <QRandomGenerator>
 
+#include <random>
+
 namespace {
 
 int pocetPripadu(int bezne, int dlouhe)
@@ -278,4 +280,40 @@ TEST(Usporne, PaprsekUsetriTabuli)
     EXPECT_TRUE(KontrolaPlanu::chyby(proKontrolu(z, plan)).isEmpty());
     EXPECT_TRUE(plan.neusazene.empty());
     EXPECT_EQ(plan.tabule.size(), 7u);
+}
+
+// A kitchen-sized order of many copies (the knapsack sheets start at ten sheets of area and ten
+// boards to a sheet): kerf, trim, some boards keeping the grain, two stages on some; the plan
+// passes the checker with every board on a sheet, and is the same when run again.
+TEST(Usporne, VelkaZakazkaSPlnymiTabulemiProjdeKontrolou)
+{
+    for (int pripad = 0; pripad < 3; ++pripad) {
+        std::mt19937 n(100 + pripad);
+        Usporne::Zadani z;
+        z.srez = 40;
+        z.okraj = 40;
+        z.vzor = pripad != 1;
+        z.stupne = pripad == 2 ? 2 : 3;
+        z.XZ = z.YZ = 1000;
+        for (int i = 0; i < 200; ++i)
+            z.tabule.push_back({28000, 20700, false});
+        for (int t = 0; t < 14; ++t) {
+            const double x = 10.0 * (100 + n() % 900), y = 10.0 * (80 + n() % 600);
+            const bool ov = n() % 3 == 0;
+            for (int k = 0, kusu = 20 + int(n() % 40); k < kusu; ++k)
+                z.desky.push_back({x, y, ov});
+        }
+        Usporne::Rizeni r;
+        r.sekund = 0.3;
+        const Usporne::Plan plan = Usporne::hledej(z, {}, r);
+        EXPECT_TRUE(plan.neusazene.empty()) << "případ " << pripad;
+        const KontrolaPlanu::Vstup v = proKontrolu(z, plan);
+        const QStringList chyby = KontrolaPlanu::chyby(v);
+        EXPECT_TRUE(chyby.isEmpty()) << "případ " << pripad << ": " << chyby.join(QStringLiteral("; ")).toStdString();
+        EXPECT_EQ(v.desky.size(), z.desky.size()) << "případ " << pripad;
+        const Usporne::Plan znovu = Usporne::hledej(z, {}, r);
+        ASSERT_EQ(znovu.tabule.size(), plan.tabule.size());
+        for (size_t i = 0; i < plan.tabule.size(); ++i)
+            EXPECT_EQ(RezovyPlan::rezy(znovu.tabule[i].strom), RezovyPlan::rezy(plan.tabule[i].strom));
+    }
 }
