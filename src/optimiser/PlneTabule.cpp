@@ -16,7 +16,7 @@ constexpr double PlnostStohu = 0.85;
 // Grid points along a sheet's side the knapsacks may take (a millimetre on a 10 m sheet).
 constexpr long NejvicBodu = 10000;
 // Points of a knapsack's table to a step of the search's count: a point is a load, an add and a compare.
-constexpr long KrokuNaBod = 3;
+constexpr long KrokuNaBod = 4;
 
 struct Predmet {
     long w = 0;       // grid points taken along the knapsack

@@ -873,13 +873,6 @@ Plan Hledani::hledej(const std::vector<Plan>& vychozi, const Rizeni& r)
     for (const Plan& p : vychozi)
         if (auto v = veStupnich(p))
             zkus(std::move(*v));
-    if (naPlneTabule()) { // three quarters of the budget, the other tries the rest
-        auto prubeh = [&](std::int64_t kroku) {
-            return r.prubeh && r.prubeh(hn.vsech, std::min(1.0, double(kroku) / double(std::max<std::int64_t>(limit, 1))));
-        };
-        if (auto p = sPlnymiTabulemi(m_prace + limit * 3 / 4, prubeh))
-            zkus(std::move(*p));
-    }
     auto konec = [&] {
         // a safety net for a machine far slower than counted: processor time, not the clock on
         // the wall, so that other programs' load does not change the plan
@@ -891,7 +884,8 @@ Plan Hledani::hledej(const std::vector<Plan>& vychozi, const Rizeni& r)
     // million children of a layer (the memory a long budget may not outgrow), each after a plan
     // of a sheet fewer than the best; with offcuts, of no more full sheets (fewer offcuts used is
     // better too). The rest: half for whole plans tried with other knobs, half for emptying
-    // sheets of the best.
+    // sheets of the best; on a large order of many copies, all of it for knapsack sheets and the
+    // search of the boards they leave, which there does what those tries cannot.
     std::int64_t posledni = 0;
     const int nejsirsi = int(std::max<size_t>(16, 1'000'000 / (6 * m_typy.size() + 1)));
     for (int pokus = 0; odrezky || !nejlepsi || hn.vsech > mez; ++pokus) {
@@ -906,6 +900,15 @@ Plan Hledani::hledej(const std::vector<Plan>& vychozi, const Rizeni& r)
             zkus(std::move(*plan));
         posledni = m_prace - pred;
         if (konec() && nejlepsi) // without a plan yet, the strip-by-strip try below makes one
+            return std::move(*nejlepsi);
+    }
+    if (hn.vsech > mez && naPlneTabule()) { // what the beams left of the budget
+        auto prubeh = [&](std::int64_t kroku) {
+            return r.prubeh && r.prubeh(hn.vsech, std::min(1.0, double(kroku) / double(std::max<std::int64_t>(limit, 1))));
+        };
+        if (auto p = sPlnymiTabulemi(limit, prubeh))
+            zkus(std::move(*p));
+        if (konec())
             return std::move(*nejlepsi);
     }
     for (int pokus = 0; pokus == 0 || m_prace < limit / 2; ++pokus) {
