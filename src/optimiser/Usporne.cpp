@@ -130,6 +130,7 @@ private:
     Kus strom(const Vyplneni& v, const Tabule& t, const std::vector<std::vector<int>>& desky,
               std::vector<size_t>& dalsi) const;
     std::vector<std::vector<int>> deskyTypu() const;
+    Parametry jineParametry();
     Plan sestav(const Parametry& p);
     void zbytekNaKonci(Plan& plan);
     void vyprazdni(Plan& plan, std::int64_t limit);
@@ -391,6 +392,18 @@ Kus Hledani::strom(const Vyplneni& v, const Tabule& tab, const std::vector<std::
     if (w < H - Eps)
         tabule.deti.push_back(kus(0, w, W, H - w));
     return uzavri(std::move(tabule));
+}
+
+// The knobs of a whole plan after the first: weights, matching, heights and noise drawn anew.
+Parametry Hledani::jineParametry()
+{
+    Parametry p;
+    p.mocnina = 1.0 + 0.6 * nahodne();
+    p.shoda = 0.5 + 5 * nahodne();
+    p.vysek = 4 + int(12 * nahodne());
+    p.sum = 0.3 * nahodne();
+    p.varianty = int(4 * nahodne());
+    return p;
 }
 
 Plan Hledani::sestav(const Parametry& p)
@@ -873,19 +886,21 @@ Plan Hledani::hledej(const std::vector<Plan>& vychozi, const Rizeni& r)
     for (const Plan& p : vychozi)
         if (auto v = veStupnich(p))
             zkus(std::move(*v));
+    auto prubeh = [&](std::int64_t kroku) {
+        return r.prubeh && r.prubeh(hn.vsech, std::min(1.0, double(kroku) / double(std::max<std::int64_t>(limit, 1))));
+    };
     auto konec = [&] {
         // a safety net for a machine far slower than counted: processor time, not the clock on
         // the wall, so that other programs' load does not change the plan
         const double sekund = double(std::clock() - start) / CLOCKS_PER_SEC;
         const bool dost = m_prace >= limit || sekund > 4 * r.sekund + 1;
-        return (r.prubeh && r.prubeh(hn.vsech, std::min(1.0, double(m_prace) / std::max<std::int64_t>(limit, 1)))) || dost;
+        return prubeh(m_prace) || dost;
     };
     // A quarter of the budget for beams, each twice as wide as the last and at most as wide as a
     // million children of a layer (the memory a long budget may not outgrow), each after a plan
     // of a sheet fewer than the best; with offcuts, of no more full sheets (fewer offcuts used is
-    // better too). The rest: half for whole plans tried with other knobs, half for emptying
-    // sheets of the best; on a large order of many copies, all of it for knapsack sheets and the
-    // search of the boards they leave, which there does what those tries cannot.
+    // better too). The rest: half for whole plans tried with other knobs, half for emptying the
+    // best's sheets; on a large order of many copies, all of it for knapsack sheets and the rest.
     std::int64_t posledni = 0;
     const int nejsirsi = int(std::max<size_t>(16, 1'000'000 / (6 * m_typy.size() + 1)));
     for (int pokus = 0; odrezky || !nejlepsi || hn.vsech > mez; ++pokus) {
@@ -903,24 +918,13 @@ Plan Hledani::hledej(const std::vector<Plan>& vychozi, const Rizeni& r)
             return std::move(*nejlepsi);
     }
     if (hn.vsech > mez && naPlneTabule()) { // what the beams left of the budget
-        auto prubeh = [&](std::int64_t kroku) {
-            return r.prubeh && r.prubeh(hn.vsech, std::min(1.0, double(kroku) / double(std::max<std::int64_t>(limit, 1))));
-        };
         if (auto p = sPlnymiTabulemi(limit, prubeh))
             zkus(std::move(*p));
         if (konec())
             return std::move(*nejlepsi);
     }
     for (int pokus = 0; pokus == 0 || m_prace < limit / 2; ++pokus) {
-        Parametry p;
-        if (pokus > 0) {
-            p.mocnina = 1.0 + 0.6 * nahodne();
-            p.shoda = 0.5 + 5 * nahodne();
-            p.vysek = 4 + int(12 * nahodne());
-            p.sum = 0.3 * nahodne();
-            p.varianty = int(4 * nahodne());
-        }
-        const Plan plan = sestav(p);
+        const Plan plan = sestav(pokus == 0 ? Parametry{} : jineParametry());
         oprav(plan);
         zkus(plan);
         if (!uMeze && !odrezky && hn.neusazeno == int(m_mimo.size()) && hn.vsech <= mez) {

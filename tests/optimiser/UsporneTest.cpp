@@ -284,7 +284,8 @@ TEST(Usporne, PaprsekUsetriTabuli)
 
 // A kitchen-sized order of many copies (the knapsack sheets start at ten sheets of area and ten
 // boards to a sheet): kerf, trim, some boards keeping the grain, two stages on some; the plan
-// passes the checker with every board on a sheet, and is the same when run again.
+// passes the checker with every board on a sheet, is the same when run again, and Storno keeps
+// a whole plan.
 TEST(Usporne, VelkaZakazkaSPlnymiTabulemiProjdeKontrolou)
 {
     for (int pripad = 0; pripad < 3; ++pripad) {
@@ -315,5 +316,14 @@ TEST(Usporne, VelkaZakazkaSPlnymiTabulemiProjdeKontrolou)
         ASSERT_EQ(znovu.tabule.size(), plan.tabule.size());
         for (size_t i = 0; i < plan.tabule.size(); ++i)
             EXPECT_EQ(RezovyPlan::rezy(znovu.tabule[i].strom), RezovyPlan::rezy(plan.tabule[i].strom));
+        // Storno once the beams are done, among the knapsack sheets: heard within a sheet or two,
+        // and the plan kept is whole
+        int poStornu = 0;
+        r.sekund = 2;
+        r.prubeh = [&](int, double podil) { return podil > 0.3 && ++poStornu > 0; };
+        const Usporne::Plan prerusen = Usporne::hledej(z, {}, r);
+        EXPECT_LE(poStornu, 3) << "případ " << pripad;
+        EXPECT_TRUE(KontrolaPlanu::chyby(proKontrolu(z, prerusen)).isEmpty()) << "případ " << pripad;
+        EXPECT_EQ(proKontrolu(z, prerusen).desky.size(), z.desky.size()) << "případ " << pripad;
     }
 }
