@@ -42,6 +42,17 @@ std::vector<int> zkontroluj(const Vyplneni& v, const std::vector<Typ>& typy, dou
     return vzato;
 }
 
+// A sheet of 2800 x 2070 mm with the kerf.
+PlneTabuleZadani naList(const std::vector<Typ>& typy, std::vector<double> ceny)
+{
+    PlneTabuleZadani z;
+    z.typy = &typy;
+    z.ceny = std::move(ceny);
+    z.W = 28000;
+    z.H = 20700;
+    return z;
+}
+
 } // namespace
 
 // Strips of 28000 take two 9000s and a 10000 exactly; the widest first (two 10000s) wastes 8000
@@ -49,11 +60,7 @@ std::vector<int> zkontroluj(const Vyplneni& v, const std::vector<Typ>& typy, dou
 TEST(PlneTabule, NajdeListyBezOdpaduAVejdouSe)
 {
     const std::vector<Typ> typy = {typ(9000, 6900, false), typ(10000, 6900, false)};
-    PlneTabuleZadani z;
-    z.typy = &typy;
-    z.ceny = {1, 1.1};
-    z.W = 28000;
-    z.H = 20700;
+    const PlneTabuleZadani z = naList(typy, {1, 1.1});
     std::vector<int> pocet = {60, 30};
     std::int64_t prace = 0;
     const std::vector<Vyplneni> listy = plneTabule(z, pocet, prace, 1'000'000'000);
@@ -81,12 +88,9 @@ TEST(PlneTabule, NahodneZakazkyVejdouANepretahnou)
             typy.push_back(typ(10.0 * (50 + n() % 2000), 10.0 * (40 + n() % 1500), n() % 3 != 0));
             pocet.push_back(1 + int(n() % 12));
         }
-        PlneTabuleZadani z;
-        z.typy = &typy;
+        PlneTabuleZadani z = naList(typy, {});
         for (const Typ& t : typy)
             z.ceny.push_back(t.plocha);
-        z.W = 28000;
-        z.H = 20700;
         z.stohy = pripad % 4 != 0;
         double plocha = 0;
         for (size_t t = 0; t < typy.size(); ++t)
@@ -126,11 +130,7 @@ TEST(PlneTabule, NahodneZakazkyVejdouANepretahnou)
 TEST(PlneTabule, PrilisJemnaMrizkaNicNevezme)
 {
     const std::vector<Typ> typy = {typ(7001, 5003), typ(3007, 2011)};
-    PlneTabuleZadani z;
-    z.typy = &typy;
-    z.ceny = {1, 1};
-    z.W = 28000;
-    z.H = 20700;
+    const PlneTabuleZadani z = naList(typy, {1, 1});
     std::vector<int> pocet = {20, 20};
     std::int64_t prace = 0;
     EXPECT_TRUE(plneTabule(z, pocet, prace, 1'000'000'000).empty());
