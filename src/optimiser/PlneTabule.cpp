@@ -15,6 +15,8 @@ namespace {
 constexpr double PlnostStohu = 0.85;
 // Grid points along a sheet's side the knapsacks may take (a millimetre on a 10 m sheet).
 constexpr long NejvicBodu = 10000;
+// Sizes the knapsacks take at most: the table of choices grows with the sizes times the points.
+constexpr size_t NejvicVelikosti = 300;
 // Points of a knapsack's table to a step of the search's count: a point is a load, an add and a compare.
 constexpr long KrokuNaBod = 4;
 
@@ -255,7 +257,7 @@ std::vector<Vyplneni> plneTabule(const PlneTabuleZadani& z, std::vector<int>& po
     g = std::gcd(g, std::lround(z.H));
     for (const Typ& t : *z.typy)
         g = std::gcd(g, std::gcd(std::lround(t.sx[0]), std::lround(t.sy[0])));
-    if (g <= 0 || z.W / double(g) > NejvicBodu || z.H / double(g) > NejvicBodu)
+    if (g <= 0 || z.W / double(g) > NejvicBodu || z.H / double(g) > NejvicBodu || z.typy->size() > NejvicVelikosti)
         return {};
     Plnic plnic(z, g, prace);
     std::vector<Vyplneni> listy;

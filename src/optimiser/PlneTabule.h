@@ -21,8 +21,9 @@ struct PlneTabuleZadani {
     std::function<bool()> zastavit; // asked before each sheet: true ends the filling (Storno)
 };
 
-// The sheets filled, `pocet` lowered by the boards they hold; none when the sizes need a grid
-// finer than the knapsacks can afford or the budget ends first. `prace` counts the steps.
+// The sheets filled, `pocet` lowered by the boards they hold: none when the sizes need a grid
+// finer than the knapsacks can afford or are too many, fewer when the budget (`limit` steps)
+// ends or zastavit says so first. `prace` counts the steps.
 std::vector<Vyplneni> plneTabule(const PlneTabuleZadani& zadani, std::vector<int>& pocet, std::int64_t& prace,
                                  std::int64_t limit);
 
