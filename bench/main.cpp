@@ -221,7 +221,8 @@ void vypisy(const QString& domov)
 // for the gcut orders, 4 mm for the others. Per order: the sheets of each way, the area bound
 // (boards with the kerf over the usable sheet with the kerf), the seconds of "úsporně" in all
 // and of its search alone (without the three described runs it starts from). "důkaz": the sheets
-// the search itself showed no plan can do with less (the area, or for a few boards every way tried).
+// the search itself showed no plan can do with less (the area, the relaxation over sheet patterns,
+// or for a few boards every way tried).
 void ctyriZpusoby(Uloziste& u, const std::vector<QString>& zakazky)
 {
     vypis(QStringLiteral("zakázka    kombin. podél. příčně úsporně mez důkaz").leftJustified(46), QStringLiteral("sekund"),

@@ -43,7 +43,7 @@ std::vector<int> batoh(const std::vector<Predmet>& predmety, long C, std::int64_
                 dily.push_back({i, n, n * predmety[i].w, n * predmety[i].hodnota});
             zbyva -= n;
         }
-    // single precision: twice the lanes, and worths of a sheet's boards need no more
+    // single precision: half the memory to sweep, and worths of a sheet's boards need no more
     std::vector<float> nejvic(C + 1, 0);
     std::vector<std::uint8_t> vzato(dily.size() * (C + 1), 0);
     for (size_t j = 0; j < dily.size(); ++j) {
@@ -52,9 +52,7 @@ std::vector<int> batoh(const std::vector<Predmet>& predmety, long C, std::int64_
         float* n = nejvic.data();
         const float* bez = n - d.w;
         const float hodnota = float(d.hodnota);
-        // downwards, each point reads a lower one not yet written in this pass: no dependence
-        // between iterations, so the loop runs in vector lanes
-#pragma GCC ivdep
+        // downwards: each point reads a lower one, not yet written in this pass
         for (long x = C; x >= d.w; --x) {
             const float s = bez[x] + hodnota;
             const bool lepsi = s > n[x] * (1 + 1e-6f);
@@ -214,8 +212,8 @@ Vyplneni Plnic::list(int smer, std::vector<int>& pocet)
         pasy.push_back({h, pas(h, smer, pocet).hodnota, int(H / h)});
     const std::vector<int> kusu = batoh(pasy, H, m_prace);
     long zbyva = H;
-    auto poloz = [&](long h) {
-        Pas p = Plnic::poloz(pas(h, smer, pocet), h, smer, pocet);
+    auto polozPas = [&](long h) {
+        Pas p = poloz(pas(h, smer, pocet), h, smer, pocet);
         zbyva -= h;
         if (!p.stohy.empty()) {
             v.hodnota += p.hodnota;
@@ -224,7 +222,7 @@ Vyplneni Plnic::list(int smer, std::vector<int>& pocet)
     };
     for (size_t i = 0; i < vysky.size(); ++i) // the tallest first, each laid anew from what is left
         for (int n = 0; n < kusu[i]; ++n)
-            poloz(vysky[i]);
+            polozPas(vysky[i]);
     for (;;) { // what the boards running short left free, filled strip by strip
         long nejlepsi = 0;
         double hodnota = 0;
@@ -235,7 +233,7 @@ Vyplneni Plnic::list(int smer, std::vector<int>& pocet)
             }
         if (nejlepsi == 0)
             break;
-        poloz(nejlepsi);
+        polozPas(nejlepsi);
     }
     return v;
 }

@@ -142,6 +142,7 @@ private:
     double plochaDesek(const Kus& k) const;
     // the boards given, by type: the lists to hand out and their counts
     std::pair<std::vector<std::vector<int>>, std::vector<int>> podleTypu(const std::vector<int>& desky) const;
+    bool stejneTabule() const;
     int dolniMez() const;
     int dokazanaMez(const Plan& plan, int mez);
     bool nelzeNa(const Plan& plan, int tabuli, std::int64_t limit);
@@ -692,12 +693,9 @@ std::optional<Plan> Hledani::paprsek(int sirkaPaprsku, int voditko, int nejvic, 
     PaprsekZadani pz;
     pz.typy = &m_typy;
     pz.pocet = m_pocet0;
-    pz.stejneTabule = true;
-    for (const Tabule& t : m_z.tabule) {
+    for (const Tabule& t : m_z.tabule)
         pz.tabule.push_back({sirka(t), vyska(t), t.odrezek});
-        pz.stejneTabule = pz.stejneTabule && !t.odrezek && std::abs(t.x - m_z.tabule[0].x) < Eps &&
-                          std::abs(t.y - m_z.tabule[0].y) < Eps;
-    }
+    pz.stejneTabule = stejneTabule();
     pz.nejvic = nejvic;
     pz.nejvicPlnych = nejvicPlnych;
     pz.stohy = m_z.stupne >= 3;
@@ -715,6 +713,14 @@ std::optional<Plan> Hledani::paprsek(int sirkaPaprsku, int voditko, int nejvic, 
     plan.neusazene = m_mimo;
     zbytekNaKonci(plan);
     return plan;
+}
+
+// Every sheet a full one of the same size: no offcuts.
+bool Hledani::stejneTabule() const
+{
+    return std::all_of(m_z.tabule.begin(), m_z.tabule.end(), [&](const Tabule& t) {
+        return !t.odrezek && std::abs(t.x - m_z.tabule[0].x) < Eps && std::abs(t.y - m_z.tabule[0].y) < Eps;
+    });
 }
 
 // The sheets the boards' area needs at least, when every sheet is a full one.
@@ -787,11 +793,8 @@ constexpr double KrokuZaSekundu = 400e6;
 // Knapsack sheets pay on a large order of sheets alike, many boards to a sheet.
 bool Hledani::naPlneTabule() const
 {
-    const bool stejne = std::all_of(m_z.tabule.begin(), m_z.tabule.end(), [&](const Tabule& t) {
-        return !t.odrezek && std::abs(t.x - m_z.tabule[0].x) < Eps && std::abs(t.y - m_z.tabule[0].y) < Eps;
-    });
     const int mez = dolniMez();
-    return !m_vnorene && stejne && mez >= 10 && std::accumulate(m_pocet0.begin(), m_pocet0.end(), 0) >= 10 * mez;
+    return !m_vnorene && stejneTabule() && mez >= 10 && std::accumulate(m_pocet0.begin(), m_pocet0.end(), 0) >= 10 * mez;
 }
 
 // A plan whose first sheets the knapsacks fill, up to two thirds of the boards' area; the boards

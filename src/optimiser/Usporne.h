@@ -42,7 +42,7 @@ struct TabulePlanu {
 struct Plan {
     std::vector<TabulePlanu> tabule;
     std::vector<int> neusazene; // boards larger than every sheet, or left when sheets ran out
-    int mez = 0; // no plan of fewer sheets exists: by the boards' area, or shown by trying all
+    int mez = 0; // no plan of fewer sheets exists: by the boards' area, the relaxation, or trying all
 };
 
 // The order of plans: fewer boards left out, fewer full sheets, fewer sheets, the larger
